@@ -1,0 +1,60 @@
+# The house rules of every target: one warning level, one set of switches, and functions that keep a folder's CMakeLists.txt to
+# a few lines. Each folder is one target that links only what it may see.
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wshadow=local)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    add_compile_options(-fpch-preprocess) # lets a compiler cache see through the compiled headers
+endif()
+if(IPCPARAM_WERROR)
+    add_compile_options(-Werror)
+endif()
+add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(IPCPARAM_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The Qt headers that nearly every source includes are compiled once for the libraries without a window and once for all the rest.
+file(WRITE ${CMAKE_BINARY_DIR}/pch.cpp "")
+foreach(kind Core Widgets)
+    add_library(pch_${kind} OBJECT ${CMAKE_BINARY_DIR}/pch.cpp)
+    target_link_libraries(pch_${kind} PRIVATE Qt6::${kind})
+    target_precompile_headers(pch_${kind} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch.h)
+    set_target_properties(pch_${kind} PROPERTIES AUTOMOC OFF)
+endforeach()
+
+# house_precompile(<target> [Core]): takes part in the compiled headers.
+function(house_precompile target)
+    set(kind Widgets)
+    if(ARGC GREATER 1)
+        set(kind ${ARGV1})
+    endif()
+    target_compile_options(${target} PRIVATE -fPIC) # programs too, or the compiled headers would not fit
+    target_precompile_headers(${target} REUSE_FROM pch_${kind})
+endfunction()
+
+# house_library(<target> [LINKS ...]): a static library of all sources in the current folder.
+function(house_library target)
+    cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_library(${target} STATIC ${sources})
+    target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    if(Qt6::Widgets IN_LIST ARG_LINKS)
+        house_precompile(${target})
+    else()
+        house_precompile(${target} Core)
+    endif()
+endfunction()
+
+# house_test(<name> LINKS ...): the Qt Test program <name>.cpp, run headless.
+function(house_test name)
+    cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
+    house_precompile(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

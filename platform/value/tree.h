@@ -1,0 +1,98 @@
+#pragma once
+
+#include "value/node.h"
+#include "value/value.h"
+#include "value/valueselection.h"
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace TKE
+{
+
+/// The value tree of the application: nodes, and values below them, found by path. GUI thread only.
+///
+/// Paths: segments are joined by "/"; names are case-sensitive. A node is found with or without a "/" at the end. A
+/// path that does not begin with "/" names something beside the root and never something below it. Finding allocates
+/// nothing.
+///
+/// Ownership: the tree owns nodes and values. What is removed is first out of reach of Find, then reports state 1, then
+/// is deleted; who hears of it may remove more, and nothing is deleted before the outermost removal ends.
+class Tree
+{
+public:
+    static Tree* Instance();
+
+    /// Trees beside the instance serve benchmarks and tools; values of any tree share the journal.
+    Tree();
+    ~Tree();
+    Tree(const Tree&) = delete;
+    Tree& operator=(const Tree&) = delete;
+
+    ValueBase* FindValue(QStringView path) const;
+    /// The value `key` (which may hold "/") below `node`.
+    ValueBase* FindValue(const Node& node, QStringView key) const;
+    Node* FindNode(QStringView path) const;
+
+    /// Makes the node at `path` and those above it as needed. An existing node keeps its type text when `type` is
+    /// empty.
+    Node* CreateNode(QStringView path, const QString& type = {});
+
+    /// Makes a value of type V at `path`, and the nodes above it as needed; its content is the default of the
+    /// descriptor. Null when a value stands there already.
+    template <class V> V* CreateValue(QStringView path, const ValueDescriptor& descriptor)
+    {
+        const Place place = Split(path);
+        return Add(*EnsureNode(place.prefix), std::make_unique<V>(Intern(place.name), descriptor));
+    }
+    template <class V> V* CreateValue(QStringView path)
+    {
+        const Place place = Split(path);
+        return Add(*EnsureNode(place.prefix), std::make_unique<V>(Intern(place.name)));
+    }
+    /// The same with the type that the descriptor's kind asks for.
+    ValueBase* CreateValue(QStringView path, const ValueDescriptor& descriptor);
+    ValueBase* CreateValue(Node& node, QStringView name, const ValueDescriptor& descriptor);
+
+    /// Removes the node at `path` and all below it. Nothing happens when there is none.
+    void RemoveBranch(QStringView path);
+    void RemoveValue(QStringView path);
+    void Clear();
+    /// Makes room for that many values before many are created.
+    void Reserve(size_t values);
+    size_t ValueCount() const;
+
+    /// All nodes without a parent, in the order of creation.
+    std::vector<Node*> GetTopNodes() const;
+
+    /// Exchanges the whole content with that of `other`. Nobody is told: each value lives on, in the other tree.
+    void Swap(Tree& other) { m_index.swap(other.m_index); }
+
+    /// One hook that sees every content change of every value; an empty one switches it off. Returns the hook so far.
+    JournalHook SetJournal(JournalHook hook) { return std::exchange(ValueBase::s_journal, std::move(hook)); }
+
+private:
+    struct Place
+    {
+        QStringView prefix; // up to and including the last "/"
+        QStringView name;
+    };
+    static Place Split(QStringView path);
+    static const QString& Intern(QStringView name);
+    Node* EnsureNode(QStringView prefix);
+    bool Insert(Node& node, std::unique_ptr<ValueBase> value);
+    template <class V> V* Add(Node& node, std::unique_ptr<V> value)
+    {
+        V* raw = value.get();
+        if (!Insert(node, std::move(value)))
+            return nullptr;
+        raw->SetToDefault();
+        return raw;
+    }
+
+    struct Index;
+    std::unique_ptr<Index> m_index;
+};
+
+} // namespace TKE

@@ -1,0 +1,76 @@
+#include "value/valuebase.h"
+
+#include "value/node.h"
+#include "value/value.h"
+
+#include <QCoreApplication>
+#include <array>
+
+namespace TKE
+{
+
+const ValueDescriptor& ValueDescriptor::Plain(ValueKind kind)
+{
+    static const auto descriptors = []
+    {
+        std::array<ValueDescriptor, 9> plain;
+        for (size_t i = 0; i < plain.size(); ++i)
+            plain[i].kind = ValueKind(i);
+        return plain;
+    }();
+    return descriptors[size_t(kind)];
+}
+
+bool ValueDescriptor::Refuse(double number, QString* reason) const
+{
+    if (!reason)
+        return false;
+    const auto shown = [](double limit) { return QString::number(limit, 'f', QLocale::FloatingPointShortest); };
+    if (!std::isfinite(number))
+        *reason = QCoreApplication::translate("TKE::ValueDescriptor", "Not a number");
+    else if (minimum && number < *minimum)
+        *reason = QCoreApplication::translate("TKE::ValueDescriptor", "%1 is less than %2")
+                      .arg(shown(number), shown(*minimum));
+    else
+        *reason = QCoreApplication::translate("TKE::ValueDescriptor", "%1 is more than %2")
+                      .arg(shown(number), shown(*maximum));
+    return false;
+}
+
+QString ValueBase::GetPathName() const
+{
+    return m_node ? m_node->GetBasePath() + *m_name : *m_name;
+}
+
+void ValueBase::SetState(EnableState state, const IObserver* excluded)
+{
+    if (state == m_state)
+        return;
+    m_state = state;
+    Notify(ccState, excluded);
+}
+
+QString ValueBase::GetStoredText() const
+{
+    std::string text;
+    AppendStored(text);
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+bool ValueBase::SetStoredText(const QString& text, const IObserver* excluded, QString* reason)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return SetStored({utf8.constData(), size_t(utf8.size())}, excluded, reason);
+}
+
+bool ValueBase::GetBool() const
+{
+    return GetKind() == ValueKind::Bool && static_cast<const BoolValue*>(this)->GetValue();
+}
+
+bool ValueBase::SetBool(bool on, const IObserver* excluded)
+{
+    return GetKind() == ValueKind::Bool && static_cast<BoolValue*>(this)->SetValue(on, excluded);
+}
+
+} // namespace TKE

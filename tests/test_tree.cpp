@@ -1,0 +1,394 @@
+#include "value/tree.h"
+#include "value/valueobservingptr.h"
+
+#include <QtTest>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <random>
+
+// Counts what the heap is asked for. The sanitizers bring an allocator of their own.
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+#define COUNTS_ALLOCATIONS 1
+static size_t allocations = 0;
+extern "C" void* __libc_malloc(size_t size);
+extern "C" void* malloc(size_t size) noexcept
+{
+    ++allocations;
+    return __libc_malloc(size);
+}
+#endif
+
+using namespace TKE;
+
+namespace
+{
+
+struct Hearer final : IObserver
+{
+    explicit Hearer(std::function<void(Observable*, TChangeCode)> action) : onUpdate(std::move(action)) {}
+    void Update(Observable* source, TChangeCode code) override { onUpdate(source, code); }
+    std::function<void(Observable*, TChangeCode)> onUpdate;
+};
+
+const ValueDescriptor& text = ValueDescriptor::Plain(ValueKind::Text);
+
+QStringList NamesOf(const std::vector<std::unique_ptr<Node>>& nodes)
+{
+    QStringList names;
+    for (const auto& node : nodes)
+        names += node->GetName().toString();
+    return names;
+}
+
+} // namespace
+
+class test_tree : public QObject
+{
+    Q_OBJECT
+
+    Tree m_tree;
+
+private slots:
+    void cleanup() { m_tree.Clear(); }
+
+    void AValueIsFoundByItsPathAndByNoOther_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("node");
+        QTest::newRow("deep") << "/Jobs/Demo/TDS_1/KEY"
+                              << "/Jobs/Demo/TDS_1";
+        QTest::newRow("below the root") << "/K"
+                                        << "/";
+        QTest::newRow("beside the root, in a node") << "JOBMANAGEMENT/IPC_TYPE"
+                                                    << "JOBMANAGEMENT";
+        QTest::newRow("beside the root") << "K"
+                                         << "";
+        QTest::newRow("long and not of this alphabet")
+            << "/" + QString(1000, QChar(0x65e5)) + "/" + QString(1000, QChar(0x672c))
+            << "/" + QString(1000, QChar(0x65e5));
+    }
+    void AValueIsFoundByItsPathAndByNoOther()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, node);
+        ValueBase* value = m_tree.CreateValue(path, text);
+        QVERIFY(value);
+        QCOMPARE(value->GetPathName(), path);
+        QVERIFY(m_tree.FindValue(path) == value);
+        QCOMPARE(value->GetNode()->GetPathName(), node == u"/" ? QString() : node);
+        if (!node.isEmpty())
+            QVERIFY(m_tree.FindNode(node) == value->GetNode());
+        QVERIFY(m_tree.FindNode(value->GetNode()->GetBasePath()) == value->GetNode());
+        QVERIFY(m_tree.FindValue(*value->GetNode(), value->GetName()) == value);
+        for (const QString& other : {path + "/", "/" + path, path.chopped(1), path + "x", path.toLower(), path.mid(1),
+                                     QString(), "/" + value->GetName()})
+            QVERIFY2(other == path || !m_tree.FindValue(other), qPrintable(other));
+        QVERIFY(!m_tree.CreateValue(path, text));
+        QCOMPARE(m_tree.ValueCount(), size_t(1));
+    }
+
+    void ANodeIsFoundWithAndWithoutASlashAtTheEnd()
+    {
+        Node* node = m_tree.CreateNode(u"/Jobs/Demo/", QStringLiteral("JOB"));
+        QVERIFY(m_tree.FindNode(u"/Jobs/Demo") == node && m_tree.FindNode(u"/Jobs/Demo/") == node);
+        QVERIFY(m_tree.CreateNode(u"/Jobs/Demo") == node);
+        QCOMPARE(node->GetTypeText(), QStringLiteral("JOB"));
+        QCOMPARE(m_tree.CreateNode(u"/Jobs/Demo", QStringLiteral("TASK"))->GetTypeText(), QStringLiteral("TASK"));
+        QVERIFY(node->GetParent() == m_tree.FindNode(u"/Jobs") &&
+                node->GetParent()->GetParent() == m_tree.FindNode(u"/"));
+        for (const char16_t* other :
+             {u"", u"//", u"Jobs", u"/jobs/Demo", u"/Jobs/Demo//", u"/Jobs/Dem", u"/Jobs/Demo/TDS"})
+            QVERIFY2(!m_tree.FindNode(other), qPrintable(QString::fromUtf16(other)));
+    }
+
+    void AValueAndANodeMayShareAPath()
+    {
+        Node* node = m_tree.CreateNode(u"/Jobs/SAME");
+        ValueBase* value = m_tree.CreateValue(u"/Jobs/SAME", text);
+        ValueBase* below = m_tree.CreateValue(u"/Jobs/SAME/K", text);
+        QVERIFY(m_tree.FindNode(u"/Jobs/SAME") == node && m_tree.FindValue(u"/Jobs/SAME") == value);
+        m_tree.RemoveValue(u"/Jobs/SAME");
+        QVERIFY(m_tree.FindNode(u"/Jobs/SAME") == node && m_tree.FindValue(u"/Jobs/SAME/K") == below);
+        QVERIFY(!m_tree.FindValue(u"/Jobs/SAME"));
+    }
+
+    void KeysBelowANodeMayHoldSlashes()
+    {
+        Node* node = m_tree.CreateNode(u"/Jobs/Demo");
+        ValueBase* value = m_tree.CreateValue(*node, u"Data/WAVECOM/MODE", text);
+        QCOMPARE(value->GetPathName(), QStringLiteral("/Jobs/Demo/Data/WAVECOM/MODE"));
+        QVERIFY(m_tree.FindValue(*node, u"Data/WAVECOM/MODE") == value);
+        QVERIFY(!m_tree.FindValue(*node, u"/Data/WAVECOM/MODE") && !m_tree.FindValue(*node, u"MODE"));
+    }
+
+    void FindingAllocatesNothing()
+    {
+#ifdef COUNTS_ALLOCATIONS
+        Node* node = m_tree.CreateNode(u"/Jobs/Demo/TDS_HFWB/CS_CLASS/CLASSIFIER");
+        m_tree.CreateValue(*node, u"Data/TUNER_HF_NB_FREQUENCY", text);
+        const QString path = QStringLiteral("/Jobs/Demo/TDS_HFWB/CS_CLASS/CLASSIFIER/Data/TUNER_HF_NB_FREQUENCY");
+        const size_t before = allocations;
+        const bool found = m_tree.FindValue(path) && m_tree.FindValue(*node, u"Data/TUNER_HF_NB_FREQUENCY") &&
+                           m_tree.FindNode(u"/Jobs/Demo/") && !m_tree.FindValue(u"/Jobs/Demo/NONE");
+        QCOMPARE(allocations, before);
+        QVERIFY(found);
+        m_tree.CreateNode(u"/Other");
+        QVERIFY(allocations > before); // it does count
+#else
+        QSKIP("the heap is not ours to watch");
+#endif
+    }
+
+    void ValuesTakeTheTypeOfTheirKindAndTheirDefault_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("initial");
+        QTest::newRow("bool") << int(ValueKind::Bool) << "true";
+        QTest::newRow("int") << int(ValueKind::Int) << "-3";
+        QTest::newRow("double") << int(ValueKind::Double) << "2.5";
+        QTest::newRow("frequency") << int(ValueKind::Frequency) << "5000000000";
+        QTest::newRow("text") << int(ValueKind::Text) << "some text";
+        QTest::newRow("date and time") << int(ValueKind::DateTime) << "2020-01-02T03:04:05";
+        QTest::newRow("list") << int(ValueKind::DoubleList) << "1;2.5";
+        QTest::newRow("selection") << int(ValueKind::Selection) << "4";
+    }
+    void ValuesTakeTheTypeOfTheirKindAndTheirDefault()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, initial);
+        ValueDescriptor descriptor;
+        descriptor.kind = ValueKind(kind);
+        descriptor.defaultText = initial;
+        const ValueBase* value = m_tree.CreateValue(u"/K", descriptor);
+        QCOMPARE(value->GetTypeCode(), kind);
+        QCOMPARE(value->GetStoredText(), initial);
+        const std::array<bool, 9> types{false,
+                                        dynamic_cast<const BoolValue*>(value) != nullptr,
+                                        dynamic_cast<const IntValue*>(value) != nullptr,
+                                        dynamic_cast<const DoubleValue*>(value) != nullptr,
+                                        dynamic_cast<const FrequencyValue*>(value) != nullptr,
+                                        dynamic_cast<const TextValue*>(value) != nullptr,
+                                        dynamic_cast<const DateTimeValue*>(value) != nullptr,
+                                        dynamic_cast<const DoubleListValue*>(value) != nullptr,
+                                        dynamic_cast<const ValueSelection*>(value) != nullptr};
+        QVERIFY(types[size_t(kind)]);
+    }
+
+    void NodesAndValuesStandInTheOrderOfCreation()
+    {
+        for (const char* path : {"/b/x", "/a/y", "c/z", "/b/w"})
+            m_tree.CreateValue(QString::fromUtf8(path), text);
+        QCOMPARE(int(m_tree.GetTopNodes().size()), 2);
+        QCOMPARE(NamesOf(m_tree.FindNode(u"/")->GetNodes()), QStringList({"b", "a"}));
+        m_tree.RemoveBranch(u"/b");
+        m_tree.CreateNode(u"/b");
+        QCOMPARE(NamesOf(m_tree.FindNode(u"/")->GetNodes()), QStringList({"a", "b"}));
+        m_tree.RemoveBranch(u"c/");
+        QCOMPARE(int(m_tree.GetTopNodes().size()), 1);
+        QVERIFY(m_tree.FindNode(u"/")->GetName().isEmpty());
+    }
+
+    void WhatIsRemovedIsOutOfReachThenReportsItsEndWhileAllOfItIsWhole_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"branch", "value", "clear", "root"})
+            QTest::newRow(way) << way;
+    }
+    void WhatIsRemovedIsOutOfReachThenReportsItsEndWhileAllOfItIsWhole()
+    {
+        QFETCH(QString, way);
+        const QStringList paths{"/a/b/K", "/a/b/L", "/a/b/c/M", "/a/b/c/d/N"};
+        std::vector<ValueBase*> values;
+        std::vector<std::pair<QString, QString>> told;
+        bool reachable = false, released = true, whole = true;
+        Hearer hearer(
+            [&](Observable* source, TChangeCode)
+            {
+                auto* value = static_cast<ValueBase*>(source);
+                released = released && value->GetState() == stReleased;
+                reachable = reachable || m_tree.FindValue(value->GetPathName());
+                told.emplace_back(value->GetPathName(), value->GetText());
+                for (const Node* node = value->GetNode(); node; node = node->GetParent())
+                {
+                    for (const auto& other : node->GetValues())
+                        whole = whole && (way == u"value" || !other->GetText().isEmpty());
+                }
+            });
+        for (const QString& path : paths)
+        {
+            values.push_back(m_tree.CreateValue(path, text));
+            values.back()->SetFromText(path.right(1));
+            values.back()->Attach(&hearer);
+        }
+        told.clear();
+        if (way == u"value")
+            m_tree.RemoveValue(u"/a/b/c/M");
+        else if (way == u"clear")
+            m_tree.Clear();
+        else
+            m_tree.RemoveBranch(way == u"root" ? u"/" : u"/a/b/");
+        QVERIFY(released && whole && !reachable);
+        QCOMPARE(told.size(), way == u"value" ? size_t(1) : size_t(4));
+        for (const auto& [path, content] : told)
+            QVERIFY(paths.contains(path) && content == path.right(1) && !m_tree.FindValue(path));
+        QCOMPARE(m_tree.ValueCount(), 4 - told.size());
+        QVERIFY(way == u"value" || !m_tree.FindNode(u"/a/b/c"));
+        // The place is free again.
+        QVERIFY(m_tree.CreateValue(u"/a/b/c/M", text));
+    }
+
+    void RemovingWhatIsNotThereDoesNothing()
+    {
+        m_tree.CreateValue(u"/a/K", text);
+        for (const char16_t* path : {u"", u"/b", u"/a/K/", u"a"})
+            m_tree.RemoveBranch(path);
+        for (const char16_t* path : {u"", u"/a", u"/a/", u"/a/L"})
+            m_tree.RemoveValue(path);
+        QVERIFY(m_tree.FindValue(u"/a/K"));
+    }
+
+    void WhoHearsOfAnEndMayRemoveMore_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("further");
+        QTest::newRow("a branch, then one beside it") << "/a/b"
+                                                      << "/x";
+        QTest::newRow("a branch, then the one above it") << "/a/b"
+                                                         << "/a";
+        QTest::newRow("a branch, then all") << "/a/b"
+                                            << "";
+        QTest::newRow("a value, then its node") << "/a/b/K"
+                                                << "/a/b";
+        QTest::newRow("a value, then all") << "/a/b/K"
+                                           << "";
+    }
+    void WhoHearsOfAnEndMayRemoveMore()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, further);
+        QStringList told;
+        Hearer remover([&](Observable*, TChangeCode)
+                       { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
+        Hearer witness(
+            [&](Observable* source, TChangeCode)
+            {
+                told += static_cast<ValueBase*>(source)->GetNode()->GetParent()->GetPathName() + u'|' +
+                        static_cast<ValueBase*>(source)->GetPathName();
+            });
+        for (const char* path : {"/a/b/K", "/a/b/L", "/a/b/c/M", "/a/N", "/x/y/O"})
+        {
+            ValueBase* value = m_tree.CreateValue(QString::fromUtf8(path), text);
+            value->Attach(&remover);
+            value->Attach(&witness);
+        }
+        m_tree.FindNode(first) ? m_tree.RemoveBranch(first) : m_tree.RemoveValue(first);
+        QVERIFY(told.contains(QStringLiteral("/a|/a/b/K")));
+        QCOMPARE(told.size() + int(m_tree.ValueCount()), 5);
+        QCOMPARE(told.removeDuplicates(), 0);
+        QVERIFY(!m_tree.FindValue(first) && !m_tree.FindNode(further));
+    }
+
+    void AValueMayBeRemovedWithinItsOwnWrite_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<bool>("alone");
+        for (const ValueKind kind : {ValueKind::Text, ValueKind::Selection})
+        {
+            QTest::addRow("kind %d, one observer", int(kind)) << int(kind) << true;
+            QTest::addRow("kind %d, many observers", int(kind)) << int(kind) << false;
+        }
+    }
+    void AValueMayBeRemovedWithinItsOwnWrite()
+    {
+        QFETCH(int, kind);
+        QFETCH(bool, alone);
+        ValueBase* value = m_tree.CreateValue(u"/a/K", ValueDescriptor::Plain(ValueKind(kind)));
+        ValueObservingPtr<ValueBase> pointer;
+        pointer = value;
+        std::vector<int> codes;
+        Hearer remover([&](Observable*, TChangeCode) { m_tree.RemoveBranch(u"/a"); });
+        Hearer later([&](Observable*, TChangeCode code) { codes.push_back(code); });
+        if (alone)
+            pointer.Reset();
+        value->Attach(&remover);
+        if (!alone)
+            value->Attach(&later);
+        QVERIFY(value->SetStoredText(QStringLiteral("1")));
+        QVERIFY(!pointer && m_tree.ValueCount() == 0);
+        // The round of the write ended with the value; of its end all were told.
+        QVERIFY(codes == (alone ? std::vector<int>{} : std::vector<int>{ccState}));
+    }
+
+    void ValuesMadeWhileOthersEndStay()
+    {
+        Hearer maker([&](Observable*, TChangeCode) { m_tree.CreateValue(u"/a/NEW", text); });
+        m_tree.CreateValue(u"/a/OLD", text)->Attach(&maker);
+        m_tree.Clear();
+        QVERIFY(m_tree.FindValue(u"/a/NEW") && !m_tree.FindValue(u"/a/OLD"));
+        QCOMPARE(m_tree.FindNode(u"/a")->GetValues().size(), size_t(1));
+    }
+
+    void ATreeThatDiesReportsTheEndOfItsValues()
+    {
+        auto tree = std::make_unique<Tree>();
+        int ends = 0;
+        Hearer hearer([&](Observable*, TChangeCode) { ++ends; });
+        tree->CreateValue(u"/a/K", text)->Attach(&hearer);
+        tree->CreateValue(u"K", text)->Attach(&hearer);
+        tree.reset();
+        QCOMPARE(ends, 2);
+    }
+
+    void RandomGrowthAndRemovalKeepEveryPathRight_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        for (unsigned seed = 1; seed <= 4; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    void RandomGrowthAndRemovalKeepEveryPathRight()
+    {
+        QFETCH(unsigned, seed);
+        std::mt19937 random(seed);
+        const auto any = [&](int below) { return std::uniform_int_distribution<int>(0, below - 1)(random); };
+        const auto anyPath = [&]
+        {
+            QString path;
+            for (int depth = any(4); depth >= 0; --depth)
+                path += u'/' + QString::number(any(5));
+            return path;
+        };
+        std::map<QString, ValueBase*> model;
+        m_tree.Reserve(seed % 2 ? 0 : 100);
+        for (int step = 0; step < 20000; ++step)
+        {
+            const QString path = anyPath();
+            const int choice = any(100);
+            if (choice < 55)
+            {
+                ValueBase* value = m_tree.CreateValue(path, text);
+                QCOMPARE(value != nullptr, model.try_emplace(path, value).second);
+            }
+            else if (choice < 98)
+            {
+                m_tree.RemoveValue(path);
+                model.erase(path);
+            }
+            else
+            {
+                m_tree.RemoveBranch(path);
+                std::erase_if(model, [&](const auto& entry) { return entry.first.startsWith(path + u'/'); });
+            }
+            const QString wanted = anyPath();
+            const auto found = model.find(wanted);
+            QVERIFY2(m_tree.FindValue(wanted) == (found == model.end() ? nullptr : found->second), qPrintable(wanted));
+        }
+        QCOMPARE(m_tree.ValueCount(), model.size());
+        QVERIFY(model.size() > 50);
+        for (const auto& [path, value] : model)
+            QVERIFY(m_tree.FindValue(path) == value && value->GetPathName() == path);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_tree)
+#include "test_tree.moc"
