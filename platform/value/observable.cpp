@@ -96,10 +96,8 @@ void Observable::AttachFurther(IObserver* observer)
 
 void Observable::DetachOneOfMany(IObserver* observer)
 {
-    if (!observer || !Many() || !IsAttached(observer))
-        return;
-    observer->m_observed.Remove(this);
-    Remove(observer);
+    if (observer && observer->m_observed.Remove(this))
+        Remove(observer);
 }
 
 void Observable::Remove(const IObserver* observer)

@@ -37,19 +37,21 @@ public:
             m_word = reinterpret_cast<quintptr>(new std::vector<T*>{reinterpret_cast<T*>(m_word), pointer}) | 1;
     }
 
-    void Remove(const T* pointer)
+    /// Returns whether `pointer` was in the set.
+    bool Remove(const T* pointer)
     {
         auto* many = Many();
         if (!many)
         {
-            if (m_word == reinterpret_cast<quintptr>(pointer))
+            const bool found = pointer && m_word == reinterpret_cast<quintptr>(pointer);
+            if (found)
                 m_word = 0;
-            return;
+            return found;
         }
         // From the back: what came last usually goes first.
         const auto found = std::find(many->rbegin(), many->rend(), pointer);
         if (found == many->rend())
-            return;
+            return false;
         *found = many->back();
         many->pop_back();
         if (many->empty())
@@ -57,6 +59,7 @@ public:
             delete many;
             m_word = 0;
         }
+        return true;
     }
 
     /// Takes some pointer out; null when the set is empty.

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "jobmodel/fileerror.h"
+#include "jobmodel/jobmodel.h"
+#include "jobmodel/nodespec.h"
+#include "value/tree.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <functional>
+#include <memory>
+
+class QIODevice;
+class QLockFile;
+
+namespace TKE
+{
+
+struct JobLayout;
+
+/// A job: the content of the value tree, as a file holds it. GUI thread only.
+///
+/// Loading fills the tree: nodes with their type texts, every value of every group of a node with its default, the
+/// values of the file, the start states and then the rules, which follow the values from then on. A file with an error
+/// changes nothing: what was there stays. Loading replaces the whole content of the tree; the old values report state 1
+/// as they go. The journal hears nothing of it.
+///
+/// Saving writes each value that the file named or that differs from its default. What the program does not know stays
+/// in place, byte for byte, as does every element that was not edited; a job that was not edited gives the bytes it was
+/// loaded from.
+class JobFile
+{
+    Q_DECLARE_TR_FUNCTIONS(TKE::JobFile)
+
+public:
+    /// Called now and then with the bytes done and all; false cancels.
+    using Progress = std::function<bool(qint64 done, qint64 all)>;
+
+    enum class DiskState
+    {
+        Unchanged,
+        Changed,
+        Vanished,
+    };
+
+    /// `tree` is not owned and outlives the job.
+    explicit JobFile(Tree& tree = *Tree::Instance());
+    /// Nodes and values stay in the tree; the rules end.
+    ~JobFile();
+    JobFile(const JobFile&) = delete;
+    JobFile& operator=(const JobFile&) = delete;
+
+    /// The model that files are read with from now on; the compiled-in one unless set.
+    void SetModel(std::shared_ptr<const JobModel> model);
+    const std::shared_ptr<const JobModel>& GetModel();
+
+    bool Load(const QString& fileName, FileError* error = nullptr);
+    /// A new job like the compiled-in sample; it has no file name.
+    bool LoadSample(FileError* error = nullptr);
+    /// What the last load kept without knowing it, at most 1000 warnings.
+    const FileErrors& GetWarnings() const { return m_warnings; }
+    void SetProgress(Progress progress) { m_progress = std::move(progress); }
+
+    /// Saves to the file that was loaded or saved last. The previous generation stays as "<file>~". Overwrites what
+    /// changed on disk meanwhile: ask GetDiskState before.
+    bool Save(FileError* error = nullptr);
+    bool SaveAs(const QString& fileName, FileError* error = nullptr);
+    /// The bytes that saving would write.
+    QByteArray ToUtf8() const;
+
+    /// Empty for a job that has no file yet.
+    const QString& GetFileName() const { return m_fileName; }
+    /// What became of the file on disk since it was loaded or saved.
+    DiskState GetDiskState() const;
+    bool ChangedOnDisk() const { return GetDiskState() != DiskState::Unchanged; }
+
+    /// Takes the lock "<file>.lock" that tells other editors; released by ReleaseLock, when another file is locked, and
+    /// by the end of the job. False when somebody else has it (`holder` then says who) or it cannot be made (`holder`
+    /// is empty then).
+    bool TakeLock(QString* holder = nullptr);
+    void ReleaseLock();
+
+    /// All errors and warnings of a file, at most 1000, without touching any tree that is in use.
+    static FileErrors Check(const QString& fileName, std::shared_ptr<const JobModel> model = {});
+
+    /// What the job says about the node at `path`; null when it says nothing (a channel's node, for example).
+    const NodeSpec* FindNodeSpec(QStringView path) const;
+    /// Adds a node with all values of its groups below the node at `parentPath` (empty: at the top). Null, with the
+    /// reason when asked for, when that is not possible.
+    Node* AddNode(QStringView parentPath, const NodeSpec& spec, QString* reason = nullptr);
+    /// Removes the node at `path` with all below it from the tree and from the job.
+    void RemoveNode(QStringView path);
+
+private:
+    struct Stamp
+    {
+        qint64 size = -1; // -1: no file
+        QDateTime changed;
+        bool operator==(const Stamp&) const = default;
+    };
+    static Stamp StampOf(const QString& fileName);
+    bool Read(QIODevice& device, const QString& shownName, FileError* error);
+
+    Tree& m_tree;
+    std::shared_ptr<const JobModel> m_model;
+    std::unique_ptr<JobLayout> m_layout;
+    FileErrors m_warnings;
+    Progress m_progress;
+    QString m_fileName;
+    Stamp m_stamp;
+    std::unique_ptr<QLockFile> m_lock;
+};
+
+} // namespace TKE

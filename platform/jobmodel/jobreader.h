@@ -1,0 +1,73 @@
+#pragma once
+
+#include "jobmodel/joblayout.h"
+#include "jobmodel/xmlreader.h"
+
+namespace TKE
+{
+
+/// Reads a job file: fills an empty tree with its nodes and values, and a layout with what is needed to write the file
+/// again.
+class JobReader final : public XmlReader
+{
+    Q_DECLARE_TR_FUNCTIONS(TKE::JobReader)
+
+public:
+    enum class Purpose
+    {
+        Load,  ///< the first error ends it
+        Check, ///< goes on as long as the file is well-formed
+    };
+
+    /// `tree` and `layout` are empty. The rules of the nodes are made for `finalTree`, which gets the content of `tree`
+    /// afterwards.
+    JobReader(Tree& tree, Tree& finalTree, JobLayout& layout, const JobModel& model, const QString& shownName,
+              Purpose purpose);
+
+private:
+    // A node whose end tag is yet to come.
+    struct OpenNode
+    {
+        JobNode* node;
+        std::vector<ValueBase*> values; // per entry of its template
+        size_t next = 0;                // the entry that probably comes next
+    };
+
+    void OnStart(std::string_view name, Attributes attributes) override;
+    void OnEnd(std::string_view name) override;
+    void OnText(std::string_view utf8) override;
+    void OnOther() override;
+    void OnFinish() override;
+
+    void StartRoot(std::string_view name, Attributes attributes);
+    void StartNode(Attributes attributes);
+    bool ReadSpec(Attributes attributes, NodeSpec& spec);
+    void EndNode();
+    void StartValue(Attributes attributes);
+    void EndValue();
+    void AddValuePiece(JobNode& node, ValueBase& value);
+    void StartUnknown(std::string_view name);
+
+    std::string_view TakeGap(qint64 end);
+    QString PathOf(const QString& name = {}) const;
+
+    Tree& m_tree;
+    Tree& m_finalTree;
+    JobLayout& m_layout;
+    const JobModel& m_model;
+    std::vector<OpenNode> m_open; // the root first
+    qint64 m_taken = 0;           // the file is in the layout up to here
+    int m_unknownDepth = 0;       // how deep in an unknown element
+
+    // The value being read.
+    bool m_inValue = false;
+    size_t m_entry = 0;
+    qint64 m_valueBegin = 0;
+    qint64 m_tagEnd = 0;
+    qint64 m_additionBegin = 0;
+    std::string m_text;
+    std::string m_additions;
+    std::string m_element; // as the writer would put it
+};
+
+} // namespace TKE

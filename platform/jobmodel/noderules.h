@@ -1,0 +1,28 @@
+#pragma once
+
+#include "jobmodel/nodetemplate.h"
+#include "value/tree.h"
+
+namespace TKE
+{
+
+/// Keeps the enable states of one node's values as the rules of its groups say, for as long as it lives. Values may go
+/// at any time; a rule whose value is missing is skipped.
+class NodeRules final : private IObserver
+{
+public:
+    /// `tree` is the one that holds the values from the first change on; `basePath` ends in "/".
+    NodeRules(Tree& tree, const QString& basePath, std::shared_ptr<const NodeTemplate> values);
+
+    /// Follows the values of `tree` from now on and sets all states once.
+    void Begin(Tree& tree);
+
+private:
+    void Update(Observable* source, TChangeCode code) override;
+
+    Tree* m_tree;
+    QString m_basePath;
+    std::shared_ptr<const NodeTemplate> m_values;
+};
+
+} // namespace TKE

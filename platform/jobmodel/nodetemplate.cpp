@@ -1,0 +1,149 @@
+#include "jobmodel/nodetemplate.h"
+
+#include "jobmodel/xmltext.h"
+#include "keys/keymanager.h"
+
+namespace TKE
+{
+
+using JOBXMLGENERATOR::Place;
+
+namespace
+{
+
+QString WithChannel(QString key, int channel)
+{
+    return key.replace(QLatin1String("{n}"), QString::number(channel));
+}
+
+struct Paths
+{
+    QString file; // below the node, as files name it
+    QString tree; // the same in the tree
+    bool absolute = false;
+};
+
+Paths PathsOf(const JOBXMLGENERATOR::Parameter& parameter, int channel, bool dataForm)
+{
+    const QString key = WithChannel(parameter.GetUniqueParameterName(), channel);
+    const auto mapped = [](const QString& path) { return Paths{path, KeyManager::Instance()->GetFullNameByKey(path)}; };
+    const auto raw = [](const QString& path) { return Paths{path, path}; };
+    const QString data = QStringLiteral("Data/");
+    const QString demodulator = QStringLiteral("WAVECOM_DEMODULATOR_HF/");
+    switch (parameter.GetPlace())
+    {
+    case Place::Mapped:
+        return mapped(key);
+    case Place::Raw:
+        return raw(key);
+    case Place::Channel:
+        return raw(parameter.GetChannelNoun() + QString::number(channel) + QLatin1Char('/') + key);
+    case Place::Data:
+        return dataForm ? raw(data + key) : mapped(key);
+    case Place::DataBeside:
+        return dataForm ? raw(key) : mapped(key);
+    case Place::Demodulator:
+        return dataForm ? raw(data + demodulator + key) : mapped(demodulator + key);
+    case Place::Absolute:
+        return {key, key, true};
+    }
+    return {};
+}
+
+} // namespace
+
+NodeTemplate::NodeTemplate(const JobModel& model, const NodeSpec& spec)
+{
+    HomeOf({}, false);
+    for (const QString& name : spec.groups)
+    {
+        if (const ParameterGroup* group = model.FindGroup(name, spec.band))
+            AddGroup(*group, spec);
+        else
+            m_unknownGroups.append(name);
+    }
+}
+
+void NodeTemplate::AddGroup(const ParameterGroup& group, const NodeSpec& spec)
+{
+    // Common values first, then channel by channel.
+    for (const auto& parameter : group.GetParameters())
+    {
+        if (!parameter->IsPerChannel())
+            AddParameter(*parameter, 1, spec);
+    }
+    for (int channel = 1; channel <= spec.count; ++channel)
+    {
+        for (const auto& parameter : group.GetParameters())
+        {
+            if (parameter->IsPerChannel())
+                AddParameter(*parameter, channel, spec);
+        }
+    }
+    for (const ParameterRule& rule : group.GetRules())
+    {
+        if (!group.FindParameter(rule.target)->IsPerChannel())
+            AddRule(rule, group, 1);
+        else
+        {
+            for (int channel = 1; channel <= spec.count; ++channel)
+                AddRule(rule, group, channel);
+        }
+    }
+}
+
+void NodeTemplate::AddParameter(const Parameter& parameter, int channel, const NodeSpec& spec)
+{
+    const Paths paths = PathsOf(parameter, channel, spec.dataForm);
+    const qsizetype slash = paths.tree.lastIndexOf(QLatin1Char('/'));
+    Entry entry;
+    entry.fileName = paths.file.toStdString();
+    // A key that several groups name exists once, as the first describes it.
+    if (!m_byFileName.try_emplace(entry.fileName, quint32(m_entries.size())).second)
+        return;
+    entry.startTag = "<Value name=\"";
+    XmlText::AppendAttribute(entry.startTag, entry.fileName);
+    entry.startTag += "\">";
+    entry.descriptor = &parameter.GetValueDescriptor(channel);
+    entry.defaultText = entry.descriptor->defaultText.toStdString();
+    entry.name = paths.tree.sliced(slash + 1);
+    entry.home = HomeOf(QStringView(paths.tree).first(slash + 1), paths.absolute);
+    entry.slot = m_homeSizes[entry.home]++;
+    entry.startsDisabled = parameter.StartsDisabled();
+    m_entries.push_back(std::move(entry));
+}
+
+void NodeTemplate::AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel)
+{
+    const auto indexOf = [&](const QString& key)
+    {
+        const Parameter& parameter = *group.FindParameter(key);
+        return FindEntry(PathsOf(parameter, channel, false).file.toStdString());
+    };
+    const qsizetype target = indexOf(rule.target);
+    const qsizetype source = indexOf(rule.source);
+    if (target >= 0 && source >= 0)
+        m_rules.push_back({quint32(target), quint32(source), rule.keys});
+}
+
+quint32 NodeTemplate::HomeOf(QStringView path, bool absolute)
+{
+    for (size_t i = 0; i < m_homes.size(); ++i)
+    {
+        if (m_homes[i].path == path && m_homes[i].absolute == absolute)
+            return quint32(i);
+    }
+    m_homes.push_back({path.toString(), absolute});
+    m_homeSizes.push_back(0);
+    return quint32(m_homes.size() - 1);
+}
+
+qsizetype NodeTemplate::FindEntry(std::string_view fileName, size_t hint) const
+{
+    if (hint < m_entries.size() && m_entries[hint].fileName == fileName)
+        return qsizetype(hint);
+    const auto found = m_byFileName.find(absl::string_view(fileName.data(), fileName.size()));
+    return found != m_byFileName.end() ? qsizetype(found->second) : -1;
+}
+
+} // namespace TKE
