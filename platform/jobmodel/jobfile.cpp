@@ -25,6 +25,13 @@ bool Fail(FileError* error, const QString& file, const QString& reason)
     return false;
 }
 
+// Room for the values that the file names.
+void ReserveFor(const QIODevice& file, Tree& tree)
+{
+    constexpr qint64 bytesOfValue = 64; // roughly
+    tree.Reserve(size_t(file.size() / bytesOfValue));
+}
+
 // Makes the current generation of `fileName` its backup, too. An older backup stays until the new one is whole.
 bool BackUp(const QString& fileName, QString& reason)
 {
@@ -126,8 +133,7 @@ bool JobFile::LoadSample(FileError* error)
 bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error)
 {
     Tree fresh;
-    constexpr qint64 bytesOfValue = 64; // roughly
-    fresh.Reserve(size_t(device.size() / bytesOfValue));
+    ReserveFor(device, fresh);
     auto layout = std::make_unique<JobLayout>();
     {
         const JournalPause pause(m_tree);
@@ -232,6 +238,7 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         return {error};
 
     Tree tree;
+    ReserveFor(file, tree);
     const JournalPause pause(tree);
     JobLayout layout;
     JobReader reader(tree, tree, layout, *model, fileName, JobReader::Purpose::Check);

@@ -55,7 +55,13 @@ void Append(std::string& out, qint64 content)
 }
 void Append(std::string& out, double content)
 {
-    AppendNumber(out, content);
+    // Without an exponent, as people write numbers; only the very large and the very small do not fit.
+    std::array<char, 32> digits;
+    char* const end = digits.data() + digits.size();
+    auto written = std::to_chars(digits.data(), end, content, std::chars_format::fixed);
+    if (written.ec != std::errc())
+        written = std::to_chars(digits.data(), end, content);
+    out.append(digits.data(), written.ptr);
 }
 
 void Append(std::string& out, const QString& content)
@@ -76,7 +82,7 @@ void Append(std::string& out, const QList<double>& content)
     for (const double number : content)
     {
         out += separator;
-        AppendNumber(out, number);
+        Append(out, number);
         separator = ";";
     }
 }

@@ -18,7 +18,7 @@ namespace Stored
 void Append(std::string& out, bool content);
 void Append(std::string& out, int content);
 void Append(std::string& out, qint64 content);
-void Append(std::string& out, double content); ///< shortest form that reads back the same
+void Append(std::string& out, double content); ///< shortest decimal that reads back the same
 void Append(std::string& out, const QString& content);
 void Append(std::string& out, const QDateTime& content);
 void Append(std::string& out, const QList<double>& content); ///< joined with ";"
