@@ -1,0 +1,8 @@
+#include "analysis/demodulatorpanelask.h"
+
+namespace TKE
+{
+
+void DemodulatorPanelASK::BuildSpecificRows() {}
+
+} // namespace TKE
