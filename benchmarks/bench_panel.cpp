@@ -169,7 +169,13 @@ std::unique_ptr<QTabWidget> BuildBound(int tabs)
 {
     auto dialog = std::make_unique<QTabWidget>();
     for (int i = 0; i < tabs; ++i)
-        dialog->addTab(new BoundPanel(dialog.get()), QStringLiteral("Tab %1").arg(i));
+    {
+        // As the dialog host inserts its panels.
+        auto* panel = new BoundPanel(dialog.get());
+        panel->layout()->setEnabled(false);
+        dialog->addTab(panel, QStringLiteral("Tab %1").arg(i));
+        panel->layout()->setEnabled(true);
+    }
     return dialog;
 }
 

@@ -19,6 +19,9 @@
 #include "tuner/tunervuhfdlg.h"
 #include "value/tree.h"
 
+#include <QLayout>
+#include <QPointer>
+
 namespace TKE
 {
 
@@ -80,6 +83,11 @@ QString IPCParam::TdsJobPath() const
 
 // The order of the rows is the order of the tabs, whatever the entry point. The rows are numbered from 1. Every panel
 // takes the host as its parent and the host's read-only flag; the rest of its arguments stands in its row.
+//
+// Flags whose meaning the row does not tell: the headers of rows 1 and 2 differ in their first flag, ClassifierReduced
+// drops their frequency lock; V/UHF extends the IF bandwidths of row 3, and read-only its improved dynamics; the WB
+// forms of the spectrum (12, 13) have the FFT length mode and the refresh rate; V/UHF means symbol recognition for the
+// classifier, and megahertz for the detection; activity options A and B stand for energy and level.
 const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
 {
     using H = IPCParam;
@@ -227,7 +235,12 @@ bool IPCParam::BuildTabDlg()
         if (assembly != m_assembly)
             return false;
         m_panels[row - 1] = std::move(panel);
+        // The first page counts as shown at once and would be laid out at a size that it never has.
+        const QPointer<QLayout> layout = m_panels[row - 1]->layout();
+        layout->setEnabled(false);
         addTab(m_panels[row - 1].get(), tr(entry.title));
+        if (layout)
+            layout->setEnabled(true);
     }
     return assembly == m_assembly;
 }

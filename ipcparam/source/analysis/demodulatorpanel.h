@@ -42,6 +42,7 @@ public:
     virtual bool HasAFCenterFrequency() const { return true; }
     /// Columns that a horizontal line covers; the column after the next one takes the room that is left.
     virtual int GetLineSpan() const = 0;
+    /// Nothing here asks for it.
     virtual int GetColumnCount() const = 0;
 
 protected:

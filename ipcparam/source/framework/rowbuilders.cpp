@@ -42,23 +42,26 @@ template <class W> W* Named(W* widget, const QString& name)
     return widget;
 }
 
-QLabel* AlignedLabel(const QString& text, Qt::Alignment alignment)
+// A label made under its later parent takes less heap than one that is moved there; there are as many labels as widgets.
+QWidget* ParentIn(const QLayout* layout) { return layout ? layout->parentWidget() : nullptr; }
+
+QLabel* AlignedLabel(const QString& text, Qt::Alignment alignment, const QLayout* layout)
 {
-    auto* label = new QLabel(text);
+    auto* label = new QLabel(text, ParentIn(layout));
     label->setAlignment(alignment);
     return label;
 }
 
 QLabel* AppendLabel(QHBoxLayout* box, const QString& text, Qt::Alignment alignment)
 {
-    QLabel* label = Named(AlignedLabel(text, alignment), text);
+    QLabel* label = Named(AlignedLabel(text, alignment, box), text);
     box->addWidget(label);
     return label;
 }
 
-QLabel* LineLabel(int frameStyle)
+QLabel* LineLabel(int frameStyle, const QLayout* layout)
 {
-    auto* line = new QLabel;
+    auto* line = new QLabel(ParentIn(layout));
     line->setFrameStyle(frameStyle);
     return line;
 }
@@ -97,12 +100,12 @@ void ParameterDlg::Sign(const QString& text, int row, int column) { m_signature 
 
 void ParameterDlg::AddLine(QGridLayout* grid, int row, int column, int rowSpan, int columnSpan)
 {
-    PlacePlain(LineLabel(horizontalLine), QString(), grid, row, column, rowSpan, columnSpan);
+    PlacePlain(LineLabel(horizontalLine, grid), QString(), grid, row, column, rowSpan, columnSpan);
 }
 
 void ParameterDlg::AddVerticalLine(QGridLayout* grid, int row, int column, int rowSpan, int columnSpan)
 {
-    PlacePlain(LineLabel(verticalLine), QString(), grid, row, column, rowSpan, columnSpan);
+    PlacePlain(LineLabel(verticalLine, grid), QString(), grid, row, column, rowSpan, columnSpan);
 }
 
 void ParameterDlg::AddSpacerItem(int width, int height, QGridLayout* grid, int row, int column)
@@ -114,12 +117,12 @@ void ParameterDlg::AddSpacerItem(int width, int height, QGridLayout* grid, int r
 
 QLabel* ParameterDlg::AddLabel(QGridLayout* grid, int row, int column, int rowSpan, int columnSpan, const QString& text)
 {
-    return PlacePlain(AlignedLabel(text, rightCentred), text, grid, row, column, rowSpan, columnSpan);
+    return PlacePlain(AlignedLabel(text, rightCentred, grid), text, grid, row, column, rowSpan, columnSpan);
 }
 
 QLabel* ParameterDlg::AddLeftLabel(QGridLayout* grid, int row, int column, int rowSpan, int columnSpan, const QString& text)
 {
-    return PlacePlain(AlignedLabel(text, leftCentred), text, grid, row, column, rowSpan, columnSpan);
+    return PlacePlain(AlignedLabel(text, leftCentred, grid), text, grid, row, column, rowSpan, columnSpan);
 }
 
 QLabel* ParameterDlg::AddLabelToHBoxLayout(QHBoxLayout* box, const QString& text)
