@@ -2,6 +2,431 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>JOBEDIT</name>
+    <message>
+        <source>jobedit --help tells more.</source>
+        <translation>jobedit --help sagt mehr.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. jobedit render writes the dialogs as pictures.</source>
+        <translation>Es gibt keinen Bildschirm für ein Fenster. jobedit render schreibt die Dialoge als Bilder.</translation>
+    </message>
+    <message>
+        <source>%1 could not be made.</source>
+        <translation>%1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The job has nothing to show for this.</source>
+        <translation>Der Auftrag hat dazu nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2</source>
+        <translation>%1 Bilder in %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Arguments</name>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+    <message>
+        <source>render: directory that the pictures go into.</source>
+        <translation>render: Verzeichnis für die Bilder.</translation>
+    </message>
+    <message>
+        <source>render: only the dialogs of this entry point or panel.</source>
+        <translation>render: nur die Dialoge dieses Einstiegs oder Felds.</translation>
+    </message>
+    <message>
+        <source>render: job (when absent) or standalone.</source>
+        <translation>render: job (Vorgabe) oder standalone.</translation>
+    </message>
+    <message>
+        <source>Language of the texts and form of numbers, for example de.</source>
+        <translation>Sprache der Texte und Form der Zahlen, zum Beispiel de.</translation>
+    </message>
+    <message>
+        <source>Edits the parameters of the processing chains of jobs.
+
+  jobedit [FILE]              edits a job; without a file a new one from the sample
+  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]
+                              writes a picture of every tab of the dialogs
+  jobedit check FILE...       checks files; exit status 1 when one has an error</source>
+        <translation>Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.
+
+  jobedit [FILE]              bearbeitet einen Auftrag; ohne Datei einen neuen aus dem Beispiel
+  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]
+                              schreibt ein Bild jedes Reiters der Dialoge
+  jobedit check FILE...       prüft Dateien; Status 1, wenn eine einen Fehler hat</translation>
+    </message>
+    <message>
+        <source>render or check.</source>
+        <translation>render oder check.</translation>
+    </message>
+    <message>
+        <source>Job files.</source>
+        <translation>Auftragsdateien.</translation>
+    </message>
+    <message>
+        <source>check needs a file.</source>
+        <translation>check braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>One job at a time: %1 files are given.</source>
+        <translation>Nur ein Auftrag auf einmal: Es sind %1 Dateien angegeben.</translation>
+    </message>
+    <message>
+        <source>--%1 belongs to render.</source>
+        <translation>--%1 gehört zu render.</translation>
+    </message>
+    <message>
+        <source>render needs --out DIR.</source>
+        <translation>render braucht --out DIR.</translation>
+    </message>
+    <message>
+        <source>There is no entry %1. There are: %2.</source>
+        <translation>Es gibt keinen Einstieg %1. Es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>--form is job or standalone.</source>
+        <translation>--form ist job oder standalone.</translation>
+    </message>
+    <message>
+        <source>%1 is no language.</source>
+        <translation>%1 ist keine Sprache.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::DialogPane</name>
+    <message>
+        <source>&amp;Job form</source>
+        <translation>&amp;Auftragsform</translation>
+    </message>
+    <message>
+        <source>Stand-&amp;alone form</source>
+        <translation>&amp;Eigenständige Form</translation>
+    </message>
+    <message>
+        <source>The node&apos;s parameters as a part of the job</source>
+        <translation>Die Parameter des Knotens als Teil des Auftrags</translation>
+    </message>
+    <message>
+        <source>The node&apos;s parameters on their own, with the general and antenna settings</source>
+        <translation>Die Parameter des Knotens für sich, mit allgemeinen und Antenneneinstellungen</translation>
+    </message>
+    <message>
+        <source>Select a node to see its parameters.</source>
+        <translation>Wählen Sie einen Knoten, um seine Parameter zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 has no parameters of its own to edit. Select a node below it.</source>
+        <translation>%1 hat keine eigenen Parameter. Wählen Sie einen Knoten darunter.</translation>
+    </message>
+    <message>
+        <source>There are no panels for %1 in this form.</source>
+        <translation>Für %1 gibt es in dieser Form keine Felder.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::DirectPanels</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Profile header</source>
+        <translation>Profilkopf</translation>
+    </message>
+    <message>
+        <source>Alarm conditions</source>
+        <translation>Alarmbedingungen</translation>
+    </message>
+    <message>
+        <source>Signal tracking</source>
+        <translation>Signalverfolgung</translation>
+    </message>
+    <message>
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message>
+        <source>Automatic recording</source>
+        <translation>Automatische Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Automatic recording of results</source>
+        <translation>Automatische Aufzeichnung der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Activity generation</source>
+        <translation>Aktivitätserzeugung</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::JobDocument</name>
+    <message>
+        <source>another editor</source>
+        <translation>ein anderer Editor</translation>
+    </message>
+    <message>
+        <source>%1 on %2, process %3</source>
+        <translation>%1 auf %2, Prozess %3</translation>
+    </message>
+    <message>
+        <source>%1 could not be locked against other editors.</source>
+        <translation>%1 konnte nicht gegen andere Editoren gesperrt werden.</translation>
+    </message>
+    <message>
+        <source>%1 is open in another editor as well: %2.</source>
+        <translation>%1 ist auch in einem anderen Editor geöffnet: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::MainWindow</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>The sample job could not be made.</source>
+        <translation>Der Beispielauftrag konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Open Job</source>
+        <translation>Auftrag öffnen</translation>
+    </message>
+    <message>
+        <source>%1 is open in another editor: %2.</source>
+        <translation>%1 ist in einem anderen Editor geöffnet: %2.</translation>
+    </message>
+    <message>
+        <source>Opened read-only, it can be saved under another name.</source>
+        <translation>Schreibgeschützt geöffnet, lässt sie sich unter anderem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Read-Only</source>
+        <translation>Schreib&amp;geschützt öffnen</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>%1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1 opened</source>
+        <translation>%1 geöffnet</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved.</source>
+        <translation>%1 konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>new.job.xml</source>
+        <translation>neu.job.xml</translation>
+    </message>
+    <message>
+        <source>Save Job</source>
+        <translation>Auftrag speichern</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Aufträge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>it is open in another editor: %1</source>
+        <translation>sie ist in einem anderen Editor geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New from Sample</source>
+        <translation>&amp;Neu aus dem Beispiel</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Knoten</translation>
+    </message>
+    <message>
+        <source>Open &amp;Panel</source>
+        <translation>&amp;Feld öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Job Form</source>
+        <translation>&amp;Auftragsform</translation>
+    </message>
+    <message>
+        <source>&amp;Stand-Alone Form</source>
+        <translation>&amp;Eigenständige Form</translation>
+    </message>
+    <message>
+        <source>Night &amp;Colours</source>
+        <translation>&amp;Nachtfarben</translation>
+    </message>
+    <message>
+        <source>&amp;Next Pane</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Pane</source>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About Job Editor</source>
+        <translation>Ü&amp;ber den Auftragseditor</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Neuer Auftrag</translation>
+    </message>
+    <message>
+        <source>%1[*] (read-only) - Job Editor</source>
+        <translation>%1[*] (schreibgeschützt) - Auftragseditor</translation>
+    </message>
+    <message>
+        <source>%1[*] - Job Editor</source>
+        <translation>%1[*] - Auftragseditor</translation>
+    </message>
+    <message>
+        <source>About Job Editor</source>
+        <translation>Über den Auftragseditor</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Job Editor %1&lt;/h3&gt;&lt;p&gt;Edits the parameters of the processing chains of jobs.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Auftragseditor %1&lt;/h3&gt;&lt;p&gt;Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>The new job</source>
+        <translation>Der neue Auftrag</translation>
+    </message>
+    <message>
+        <source>Job Editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since it was opened.</source>
+        <translation>%1 wurde seit dem Öffnen von jemand anderem geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::MessageList</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::NodePane</name>
+    <message>
+        <source>Filter by name or type</source>
+        <translation>Nach Name oder Typ filtern</translation>
+    </message>
+    <message>
+        <source>Filter of the nodes</source>
+        <translation>Filter der Knoten</translation>
+    </message>
+    <message>
+        <source>Nodes of the job</source>
+        <translation>Knoten des Auftrags</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::NodeTreeModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>%1
+Type: %2</source>
+        <translation>%1
+Typ: %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Noch keine Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Render</name>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>%1 konnte nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>REPORTGENERATOR::Exciter_Settings</name>
     <message>
         <source>Manual</source>
@@ -45,10 +470,814 @@
     </message>
 </context>
 <context>
+    <name>TKE::ActivityGenerationDlg</name>
+    <message>
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>Min. Burst Duration :</source>
+        <translation>Min. Burstdauer :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Max. Break Duration :</source>
+        <translation>Max. Pausendauer :</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message>
+        <source>Production Channel :</source>
+        <translation>Produktionskanal :</translation>
+    </message>
+    <message>
+        <source>DDem</source>
+        <translation>DDem</translation>
+    </message>
+    <message>
+        <source>Criteria :</source>
+        <translation>Kriterien :</translation>
+    </message>
+    <message>
+        <source>Morse Quality Threshold :</source>
+        <translation>Schwelle der Morsequalität :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Classifier</source>
+        <translation>Klassifikator</translation>
+    </message>
+    <message>
+        <source>Interm. Classification Score :</source>
+        <translation>Zwischenwert der Klassifikation :</translation>
+    </message>
+    <message>
+        <source>Final Classification Score :</source>
+        <translation>Endwert der Klassifikation :</translation>
+    </message>
+    <message>
+        <source>Start Score :</source>
+        <translation>Startwert :</translation>
+    </message>
+    <message>
+        <source>Stop Score :</source>
+        <translation>Stoppwert :</translation>
+    </message>
+    <message>
+        <source>Min. Classification Confidence :</source>
+        <translation>Min. Klassifikationssicherheit :</translation>
+    </message>
+    <message>
+        <source>Detection Conventional</source>
+        <translation>Konventionelle Detektion</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
+    <message>
+        <source>Session Close Time :</source>
+        <translation>Schließzeit der Sitzung :</translation>
+    </message>
+    <message>
+        <source>Restart Attachments On Session Close :</source>
+        <translation>Anhänge beim Schließen der Sitzung neu beginnen :</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>Write to Database :</source>
+        <translation>In die Datenbank schreiben :</translation>
+    </message>
+    <message>
+        <source>Cut at Locations :</source>
+        <translation>An Ortungen schneiden :</translation>
+    </message>
+    <message>
+        <source>Write Energy Results :</source>
+        <translation>Energieergebnisse schreiben :</translation>
+    </message>
+    <message>
+        <source>Write DDem Results :</source>
+        <translation>DDem-Ergebnisse schreiben :</translation>
+    </message>
+    <message>
+        <source>Write Classifier Results :</source>
+        <translation>Klassifikatorergebnisse schreiben :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::AlarmConditionsSPDlg</name>
+    <message>
+        <source>Minimal percentage of bursts that have to be within the profile frequency range &gt; threshold :</source>
+        <translation>Mindestanteil der Bursts, die im Frequenzbereich des Profils liegen müssen &gt; Schwelle :</translation>
+    </message>
+    <message>
+        <source>Maximal percentage of bursts that may be outside of the profile frequency range &gt; threshold :</source>
+        <translation>Höchstanteil der Bursts, die außerhalb des Frequenzbereichs des Profils liegen dürfen &gt; Schwelle :</translation>
+    </message>
+    <message>
+        <source>Minimal percentage of bursts that match the profile frequency list &gt; threshold :</source>
+        <translation>Mindestanteil der Bursts, die zur Frequenzliste des Profils passen &gt; Schwelle :</translation>
+    </message>
+    <message>
+        <source>Minimal percentage of bursts that have to match the profile modulation &gt; threshold :</source>
+        <translation>Mindestanteil der Bursts, die zur Modulation des Profils passen müssen &gt; Schwelle :</translation>
+    </message>
+    <message>
+        <source> Maximal percentage of time slots that contain no bursts &gt; threshold :</source>
+        <translation>Höchstanteil der Zeitschlitze ohne Bursts &gt; Schwelle :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::AutoRecordingDlg</name>
+    <message>
+        <source>Automatic Recording for</source>
+        <translation>Automatische Aufzeichnung von</translation>
+    </message>
+    <message>
+        <source>Record Results</source>
+        <translation>Ergebnisse aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Amrec</source>
+        <translation>Amrec</translation>
+    </message>
+    <message>
+        <source>Bitstream</source>
+        <translation>Bitstrom</translation>
+    </message>
+    <message>
+        <source>Decoded Text</source>
+        <translation>Decodierter Text</translation>
+    </message>
+    <message>
+        <source>Transmission Systems</source>
+        <translation>Übertragungssysteme</translation>
+    </message>
+    <message>
+        <source>FAX</source>
+        <translation>FAX</translation>
+    </message>
+    <message>
+        <source>Fixed frequency or scan</source>
+        <translation>Festfrequenz oder Suchlauf</translation>
+    </message>
+    <message>
+        <source>Scan type</source>
+        <translation>Art des Suchlaufs</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Deselect all</source>
+        <translation>Alle abwählen</translation>
+    </message>
+    <message>
+        <source>Trigger by</source>
+        <translation>Auslösen durch</translation>
+    </message>
+    <message>
+        <source>TriggerMode :</source>
+        <translation>Auslöseart :</translation>
+    </message>
+    <message>
+        <source>Reappearance Time :</source>
+        <translation>Wiederkehrzeit :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>First event</source>
+        <translation>Erstes Ereignis</translation>
+    </message>
+    <message>
+        <source>Combination of the events</source>
+        <translation>Verknüpfung der Ereignisse</translation>
+    </message>
+    <message>
+        <source>Second event</source>
+        <translation>Zweites Ereignis</translation>
+    </message>
+    <message>
+        <source>Threshold :</source>
+        <translation>Schwelle :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+</context>
+<context>
     <name>TKE::CfgCenter</name>
     <message>
         <source>The configuration %1 cannot be read.</source>
         <translation>Die Konfiguration %1 kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ClassificatorDlg</name>
+    <message>
+        <source>Auto segmentation</source>
+        <translation>Automatische Segmentierung</translation>
+    </message>
+    <message>
+        <source>Segmentation frequency :</source>
+        <translation>Segmentierungsfrequenz :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Segmentation bandw. :</source>
+        <translation>Segmentierungsbandbr. :</translation>
+    </message>
+    <message>
+        <source>Analog modulation</source>
+        <translation>Analoge Modulation</translation>
+    </message>
+    <message>
+        <source>Multi channel modulation</source>
+        <translation>Mehrkanalmodulation</translation>
+    </message>
+    <message>
+        <source>Symbol Recognition</source>
+        <translation>Symbolerkennung</translation>
+    </message>
+    <message>
+        <source>Mod. analysis method :</source>
+        <translation>Verfahren der Mod.-Analyse :</translation>
+    </message>
+    <message>
+        <source>ARQ modulation</source>
+        <translation>ARQ-Modulation</translation>
+    </message>
+    <message>
+        <source>Multitone modulation</source>
+        <translation>Mehrtonmodulation</translation>
+    </message>
+    <message>
+        <source>PSK modem</source>
+        <translation>PSK-Modem</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::CorrelatorDlg</name>
+    <message>
+        <source>Pattern 1</source>
+        <translation>Muster 1</translation>
+    </message>
+    <message>
+        <source>Pattern 2</source>
+        <translation>Muster 2</translation>
+    </message>
+    <message>
+        <source>Pattern 3</source>
+        <translation>Muster 3</translation>
+    </message>
+    <message>
+        <source>Pattern 4</source>
+        <translation>Muster 4</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Name :</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Threshold :</source>
+        <translation>Schwelle :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DecoderDlg</name>
+    <message>
+        <source>Decoder module:</source>
+        <translation>Decodermodul:</translation>
+    </message>
+    <message>
+        <source>Alphabet:</source>
+        <translation>Alphabet:</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorDlg</name>
+    <message>
+        <source>Demodulation:</source>
+        <translation>Demodulation:</translation>
+    </message>
+    <message>
+        <source>Frequency offset:</source>
+        <translation>Frequenzablage:</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanel</name>
+    <message>
+        <source>Type:</source>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>Variant :</source>
+        <translation>Variante :</translation>
+    </message>
+    <message>
+        <source>Baud rate :</source>
+        <translation>Baudrate :</translation>
+    </message>
+    <message>
+        <source>Bd</source>
+        <translation>Bd</translation>
+    </message>
+    <message>
+        <source>Baud rate capture range :</source>
+        <translation>Fangbereich der Baudrate :</translation>
+    </message>
+    <message>
+        <source>Baud rate tracking range :</source>
+        <translation>Haltebereich der Baudrate :</translation>
+    </message>
+    <message>
+        <source>Freq. offset tracking range :</source>
+        <translation>Haltebereich der Freq.-Ablage :</translation>
+    </message>
+    <message>
+        <source>Sideband :</source>
+        <translation>Seitenband :</translation>
+    </message>
+    <message>
+        <source>Primary modulation :</source>
+        <translation>Primärmodulation :</translation>
+    </message>
+    <message>
+        <source>Primary mod. bandwidth:</source>
+        <translation>Bandbreite der Primärmod.:</translation>
+    </message>
+    <message>
+        <source>AF center frequency :</source>
+        <translation>NF-Mittenfrequenz :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelF7W</name>
+    <message>
+        <source>Baudrate channel A :</source>
+        <translation>Baudrate Kanal A :</translation>
+    </message>
+    <message>
+        <source>Bd</source>
+        <translation>Bd</translation>
+    </message>
+    <message>
+        <source>Baudrate channel B :</source>
+        <translation>Baudrate Kanal B :</translation>
+    </message>
+    <message>
+        <source>Switch channel to ACID :</source>
+        <translation>Kanal auf ACID schalten :</translation>
+    </message>
+    <message>
+        <source>Tone spacing (Hz) :</source>
+        <translation>Tonabstand (Hz) :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelFSK</name>
+    <message>
+        <source>Shift :</source>
+        <translation>Shift :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Block length :</source>
+        <translation>Blocklänge :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Block cycle :</source>
+        <translation>Blockzyklus :</translation>
+    </message>
+    <message>
+        <source>Tone spacing (Hz) :</source>
+        <translation>Tonabstand (Hz) :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelGMSK</name>
+    <message>
+        <source>Bandwidth multiplied by Time :</source>
+        <translation>Bandbreite mal Zeit :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelMFSK</name>
+    <message>
+        <source>Shift :</source>
+        <translation>Shift :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Channel count :</source>
+        <translation>Kanalzahl :</translation>
+    </message>
+    <message>
+        <source>Visualisation channel :</source>
+        <translation>Anzeigekanal :</translation>
+    </message>
+    <message>
+        <source>same distance [Hz]</source>
+        <translation>gleicher Abstand [Hz]</translation>
+    </message>
+    <message>
+        <source>Channel spacing</source>
+        <translation>Kanalabstand</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelMORSE</name>
+    <message>
+        <source>Auto mode</source>
+        <translation>Automatik</translation>
+    </message>
+    <message>
+        <source>Speed :</source>
+        <translation>Geschwindigkeit :</translation>
+    </message>
+    <message>
+        <source>wpm</source>
+        <translation>WpM</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelMPSK</name>
+    <message>
+        <source>Channel count :</source>
+        <translation>Kanalzahl :</translation>
+    </message>
+    <message>
+        <source>Visualisation channel :</source>
+        <translation>Anzeigekanal :</translation>
+    </message>
+    <message>
+        <source>same distance [Hz]</source>
+        <translation>gleicher Abstand [Hz]</translation>
+    </message>
+    <message>
+        <source>Channel spacing</source>
+        <translation>Kanalabstand</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelMT</name>
+    <message>
+        <source>Tone duration :</source>
+        <translation>Tondauer :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Frequency offset tracking range :</source>
+        <translation>Haltebereich der Frequenzablage :</translation>
+    </message>
+    <message>
+        <source>Tone duration capture r. :</source>
+        <translation>Fangb. der Tondauer :</translation>
+    </message>
+    <message>
+        <source>Tone duration tracking r. :</source>
+        <translation>Halteb. der Tondauer :</translation>
+    </message>
+    <message>
+        <source>Number of channels :</source>
+        <translation>Anzahl der Kanäle :</translation>
+    </message>
+    <message>
+        <source>Tone spacing :</source>
+        <translation>Tonabstand :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelPSK</name>
+    <message>
+        <source>FFE filter order :</source>
+        <translation>FFE-Filterordnung :</translation>
+    </message>
+    <message>
+        <source>Equalizer</source>
+        <translation>Entzerrer</translation>
+    </message>
+    <message>
+        <source>FFE Convergence Factor :</source>
+        <translation>FFE-Konvergenzfaktor :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DemodulatorPanelProcedural</name>
+    <message>
+        <source>Channel spacing :</source>
+        <translation>Kanalabstand :</translation>
+    </message>
+    <message>
+        <source>Baudrate:</source>
+        <translation>Baudrate:</translation>
+    </message>
+    <message>
+        <source>Drum speed:</source>
+        <translation>Trommeldrehzahl:</translation>
+    </message>
+    <message>
+        <source>lpm</source>
+        <translation>Z/min</translation>
+    </message>
+    <message>
+        <source>Cooperation index:</source>
+        <translation>Modul:</translation>
+    </message>
+    <message>
+        <source>Shift :</source>
+        <translation>Shift :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Speedlevel:</source>
+        <translation>Geschwindigkeitsstufe:</translation>
+    </message>
+    <message>
+        <source>Use Automatic Mode</source>
+        <translation>Automatik verwenden</translation>
+    </message>
+    <message>
+        <source>Dataformat:</source>
+        <translation>Datenformat:</translation>
+    </message>
+    <message>
+        <source>Diversity:</source>
+        <translation>Diversity:</translation>
+    </message>
+    <message>
+        <source>Speedlevel :</source>
+        <translation>Geschwindigkeitsstufe :</translation>
+    </message>
+    <message>
+        <source>bps</source>
+        <translation>bit/s</translation>
+    </message>
+    <message>
+        <source>Interleaverlength :</source>
+        <translation>Interleaverlänge :</translation>
+    </message>
+    <message>
+        <source>Super Blocks :</source>
+        <translation>Superblöcke :</translation>
+    </message>
+    <message>
+        <source>UserDataRate:</source>
+        <translation>Nutzdatenrate:</translation>
+    </message>
+    <message>
+        <source>InterleaverMode:</source>
+        <translation>Interleaverart:</translation>
+    </message>
+    <message>
+        <source>Predefined Baudrate:</source>
+        <translation>Vordefinierte Baudrate:</translation>
+    </message>
+    <message>
+        <source>Baud</source>
+        <translation>Baud</translation>
+    </message>
+    <message>
+        <source>Custom Baudrate :</source>
+        <translation>Eigene Baudrate :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DetectionDlg</name>
+    <message>
+        <source>Detection quality :</source>
+        <translation>Detektionsgüte :</translation>
+    </message>
+    <message>
+        <source>Detection mode :</source>
+        <translation>Detektionsart :</translation>
+    </message>
+    <message>
+        <source>Decay time :</source>
+        <translation>Abfallzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Max signal level :</source>
+        <translation>Max. Signalpegel :</translation>
+    </message>
+    <message>
+        <source>dBµV/Hz</source>
+        <translation>dBµV/Hz</translation>
+    </message>
+    <message>
+        <source>Min signal bandwidth :</source>
+        <translation>Min. Signalbandbreite :</translation>
+    </message>
+    <message>
+        <source>Max signal bandwidth :</source>
+        <translation>Max. Signalbandbreite :</translation>
+    </message>
+    <message>
+        <source>Noise level mode :</source>
+        <translation>Art des Rauschpegels :</translation>
+    </message>
+    <message>
+        <source>Noise level absolute :</source>
+        <translation>Rauschpegel absolut :</translation>
+    </message>
+    <message>
+        <source>Noise level relative :</source>
+        <translation>Rauschpegel relativ :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (MHz)</source>
+        <translation>Ausgeschlossene Bereiche (MHz)</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (kHz)</source>
+        <translation>Ausgeschlossene Bereiche (kHz)</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DetectionShortDlg</name>
+    <message>
+        <source>Operating mode :</source>
+        <translation>Betriebsart :</translation>
+    </message>
+    <message>
+        <source>Analysis depth :</source>
+        <translation>Analysetiefe :</translation>
+    </message>
+    <message>
+        <source>Snapshot length :</source>
+        <translation>Länge der Momentaufnahme :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Max signal level :</source>
+        <translation>Max. Signalpegel :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Min signal bandwidth :</source>
+        <translation>Min. Signalbandbreite :</translation>
+    </message>
+    <message>
+        <source>kHz</source>
+        <translation>kHz</translation>
+    </message>
+    <message>
+        <source>Max signal bandwidth :</source>
+        <translation>Max. Signalbandbreite :</translation>
+    </message>
+    <message>
+        <source>Noise level mode :</source>
+        <translation>Art des Rauschpegels :</translation>
+    </message>
+    <message>
+        <source>Noise level :</source>
+        <translation>Rauschpegel :</translation>
+    </message>
+    <message>
+        <source>Min SNR :</source>
+        <translation>Min. SNR :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (MHz)</source>
+        <translation>Ausgeschlossene Bereiche (MHz)</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (kHz)</source>
+        <translation>Ausgeschlossene Bereiche (kHz)</translation>
+    </message>
+    <message>
+        <source>Signal Length (ms)</source>
+        <translation>Signallänge (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::FFTDataDlg</name>
+    <message>
+        <source>FFT length :</source>
+        <translation>FFT-Länge :</translation>
+    </message>
+    <message>
+        <source>Spectral resolution :</source>
+        <translation>Spektrale Auflösung :</translation>
+    </message>
+    <message>
+        <source>Refresh rate:</source>
+        <translation>Wiederholrate:</translation>
+    </message>
+    <message>
+        <source>(Refresh rate &gt;50: performance problems may occur)</source>
+        <translation>(Wiederholrate &gt;50: Leistungsprobleme möglich)</translation>
+    </message>
+    <message>
+        <source>Window type :</source>
+        <translation>Fensterart :</translation>
+    </message>
+    <message>
+        <source>FFT display mode :</source>
+        <translation>FFT-Anzeigeart :</translation>
+    </message>
+    <message>
+        <source>FFT measurement time :</source>
+        <translation>FFT-Messzeit :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
     </message>
 </context>
 <context>
@@ -71,10 +1300,989 @@
     </message>
 </context>
 <context>
+    <name>TKE::GeneralDlg</name>
+    <message>
+        <source>Detection Lock timeout :</source>
+        <translation>Zeitgrenze bis zum Einrasten :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Detection Relock timeout :</source>
+        <translation>Zeitgrenze bis zum Wiedereinrasten :</translation>
+    </message>
+    <message>
+        <source>Lock criterion :</source>
+        <translation>Einrastkriterium :</translation>
+    </message>
+    <message>
+        <source>Max dwelltime :</source>
+        <translation>Max. Verweilzeit :</translation>
+    </message>
+    <message>
+        <source>infinite</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Enable Configset</source>
+        <translation>Konfigurationssatz verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::IPCParam</name>
+    <message>
+        <source>Classifier HF Configuration</source>
+        <translation>Klassifikator HF einstellen</translation>
+    </message>
+    <message>
+        <source>Classifier VUHF Configuration</source>
+        <translation>Klassifikator VUHF einstellen</translation>
+    </message>
+    <message>
+        <source>Classifier DDC Configuration</source>
+        <translation>Klassifikator DDC einstellen</translation>
+    </message>
+    <message>
+        <source>Data Transmission HF Configuration</source>
+        <translation>Datenübertragung HF einstellen</translation>
+    </message>
+    <message>
+        <source>Data Transmission VUHF Configuration</source>
+        <translation>Datenübertragung VUHF einstellen</translation>
+    </message>
+    <message>
+        <source>Data Transmission DDC Configuration</source>
+        <translation>Datenübertragung DDC einstellen</translation>
+    </message>
+    <message>
+        <source>Detection Conventional Configuration</source>
+        <translation>Konventionelle Detektion einstellen</translation>
+    </message>
+    <message>
+        <source>Detection Shorttime Configuration</source>
+        <translation>Kurzzeitdetektion einstellen</translation>
+    </message>
+    <message>
+        <source>Receiver Configuration</source>
+        <translation>Empfänger einstellen</translation>
+    </message>
+    <message>
+        <source>Exciter Configuration</source>
+        <translation>Erreger einstellen</translation>
+    </message>
+    <message>
+        <source>JobEdit Online</source>
+        <translation>Auftragseditor online</translation>
+    </message>
+    <message>
+        <source>Exiter General Configuration</source>
+        <translation>Erreger allgemein einstellen</translation>
+    </message>
+    <message>
+        <source>Surveillance Memory Scan VUHF Configuration</source>
+        <translation>Überwachung Speichersuchlauf VUHF einstellen</translation>
+    </message>
+    <message>
+        <source>Surveillance Memory Scan HF Configuration</source>
+        <translation>Überwachung Speichersuchlauf HF einstellen</translation>
+    </message>
+    <message>
+        <source>Memory Scan Configuration</source>
+        <translation>Speichersuchlauf einstellen</translation>
+    </message>
+    <message>
+        <source>Rasterdetector Configuration</source>
+        <translation>Rasterdetektor einstellen</translation>
+    </message>
+    <message>
+        <source>SingleChannelDetector Configuration</source>
+        <translation>Einzelkanaldetektor einstellen</translation>
+    </message>
+    <message>
+        <source>Spectral Zoom Configuration</source>
+        <translation>Spektrale Lupe einstellen</translation>
+    </message>
+    <message>
+        <source>External Receiver Header Configuration</source>
+        <translation>Kopf des externen Empfängers einstellen</translation>
+    </message>
+    <message>
+        <source>Classifier DDC Header Configuration</source>
+        <translation>Kopf des Klassifikators DDC einstellen</translation>
+    </message>
+    <message>
+        <source>Voice DDC Header Configuration</source>
+        <translation>Kopf Sprache DDC einstellen</translation>
+    </message>
+    <message>
+        <source>Header Configuration</source>
+        <translation>Kopf einstellen</translation>
+    </message>
+    <message>
+        <source>Header MS Configuration</source>
+        <translation>Kopf MS einstellen</translation>
+    </message>
+    <message>
+        <source>Tuner Configuration</source>
+        <translation>Tuner einstellen</translation>
+    </message>
+    <message>
+        <source>Header WB Configuration</source>
+        <translation>Kopf WB einstellen</translation>
+    </message>
+    <message>
+        <source>External Tuner</source>
+        <translation>Externer Tuner</translation>
+    </message>
+    <message>
+        <source>Tuner HF Configuration</source>
+        <translation>Tuner HF einstellen</translation>
+    </message>
+    <message>
+        <source>Tuner VUHF Configuration</source>
+        <translation>Tuner VUHF einstellen</translation>
+    </message>
+    <message>
+        <source>Voice DDC Configuration</source>
+        <translation>Sprache DDC einstellen</translation>
+    </message>
+    <message>
+        <source>Voice HF Configuration</source>
+        <translation>Sprache HF einstellen</translation>
+    </message>
+    <message>
+        <source>Voice VUHF Configuration</source>
+        <translation>Sprache VUHF einstellen</translation>
+    </message>
+    <message>
+        <source>Tuner WB Configuration</source>
+        <translation>Tuner WB einstellen</translation>
+    </message>
+    <message>
+        <source>Simulation Configuration</source>
+        <translation>Simulation einstellen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>WB General</source>
+        <translation>WB allgemein</translation>
+    </message>
+    <message>
+        <source>Antenna</source>
+        <translation>Antenne</translation>
+    </message>
+    <message>
+        <source>AutoRecording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>WB Tuner</source>
+        <translation>WB-Tuner</translation>
+    </message>
+    <message>
+        <source>WB FFT Data</source>
+        <translation>WB-FFT-Daten</translation>
+    </message>
+    <message>
+        <source>FFT Data</source>
+        <translation>FFT-Daten</translation>
+    </message>
+    <message>
+        <source>Tuner</source>
+        <translation>Tuner</translation>
+    </message>
+    <message>
+        <source>VUHF Tuner</source>
+        <translation>VUHF-Tuner</translation>
+    </message>
+    <message>
+        <source>SMU</source>
+        <translation>SMU</translation>
+    </message>
+    <message>
+        <source>SCU</source>
+        <translation>SCU</translation>
+    </message>
+    <message>
+        <source>WDE</source>
+        <translation>WDE</translation>
+    </message>
+    <message>
+        <source>ScanSettings</source>
+        <translation>Suchlaufeinstellungen</translation>
+    </message>
+    <message>
+        <source>Receiver Tuner</source>
+        <translation>Empfängertuner</translation>
+    </message>
+    <message>
+        <source>Demodulator</source>
+        <translation>Demodulator</translation>
+    </message>
+    <message>
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message>
+        <source>Correlator</source>
+        <translation>Korrelator</translation>
+    </message>
+    <message>
+        <source>Classifier</source>
+        <translation>Klassifikator</translation>
+    </message>
+    <message>
+        <source>Alarm Conditions</source>
+        <translation>Alarmbedingungen</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchlauf</translation>
+    </message>
+    <message>
+        <source>Rasterdetector</source>
+        <translation>Rasterdetektor</translation>
+    </message>
+    <message>
+        <source>Singlechanneldetector</source>
+        <translation>Einzelkanaldetektor</translation>
+    </message>
+    <message>
+        <source>Exciter</source>
+        <translation>Erreger</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>Detection</source>
+        <translation>Detektion</translation>
+    </message>
+    <message>
+        <source>DFLocate</source>
+        <translation>Peilen/Orten</translation>
+    </message>
+    <message>
+        <source>Activity Generation</source>
+        <translation>Aktivitätserzeugung</translation>
+    </message>
+</context>
+<context>
     <name>TKE::IniCfg</name>
     <message>
         <source>not a well-formed INI file</source>
         <translation>keine wohlgeformte INI-Datei</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::JobFile</name>
+    <message>
+        <source>This is a directory</source>
+        <translation>Das ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>The job has no file yet</source>
+        <translation>Der Auftrag hat noch keine Datei</translation>
+    </message>
+    <message>
+        <source>The previous generation cannot be kept: %1</source>
+        <translation>Die vorige Fassung kann nicht aufgehoben werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1 (Prozess %2 auf %3)</translation>
+    </message>
+    <message>
+        <source>The job holds no node &quot;%1&quot;</source>
+        <translation>Der Auftrag enthält keinen Knoten „%1“</translation>
+    </message>
+    <message>
+        <source>The node occurs twice</source>
+        <translation>Der Knoten kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count of channels (1 to %2)</source>
+        <translation>„%1“ ist keine Kanalzahl (1 bis %2)</translation>
+    </message>
+    <message>
+        <source>The group &quot;%1&quot; is unknown</source>
+        <translation>Die Gruppe „%1“ ist unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::JobModelReader</name>
+    <message>
+        <source>The directory holds no descriptor file</source>
+        <translation>Das Verzeichnis enthält keine Beschreibungsdatei</translation>
+    </message>
+    <message>
+        <source>There is no such directory</source>
+        <translation>Dieses Verzeichnis gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not possible</source>
+        <translation>%1: „%2“ ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>Unknown element &quot;%1&quot;</source>
+        <translation>Unbekanntes Element „%1“</translation>
+    </message>
+    <message>
+        <source>The file holds no group</source>
+        <translation>Die Datei enthält keine Gruppe</translation>
+    </message>
+    <message>
+        <source>The group is described twice</source>
+        <translation>Die Gruppe ist zweimal beschrieben</translation>
+    </message>
+    <message>
+        <source>The parameter is described twice</source>
+        <translation>Der Parameter ist zweimal beschrieben</translation>
+    </message>
+    <message>
+        <source>The default is refused: %1</source>
+        <translation>Die Vorgabe wird abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>The key %1 occurs twice</source>
+        <translation>Der Schlüssel %1 kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>A rule names &quot;%1&quot;, which is no parameter of the group</source>
+        <translation>Eine Regel nennt „%1“, das kein Parameter der Gruppe ist</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::JobReader</name>
+    <message>
+        <source>Text outside of any value</source>
+        <translation>Text außerhalb eines Werts</translation>
+    </message>
+    <message>
+        <source>The text is longer than %1 bytes</source>
+        <translation>Der Text ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>This is no job file: its root element is &quot;%1&quot;</source>
+        <translation>Das ist keine Auftragsdatei: Ihr Wurzelelement ist „%1“</translation>
+    </message>
+    <message>
+        <source>The version is missing</source>
+        <translation>Die Version fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no version</source>
+        <translation>„%1“ ist keine Version</translation>
+    </message>
+    <message>
+        <source>The file has version %1; what version 1 does not know is kept as it stands</source>
+        <translation>Die Datei hat Version %1; was Version 1 nicht kennt, bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Unknown element &quot;%1&quot;</source>
+        <translation>Unbekanntes Element „%1“</translation>
+    </message>
+    <message>
+        <source>The type of the node is missing</source>
+        <translation>Der Typ des Knotens fehlt</translation>
+    </message>
+    <message>
+        <source>The node occurs twice</source>
+        <translation>Der Knoten kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count of channels (1 to %2)</source>
+        <translation>„%1“ ist keine Kanalzahl (1 bis %2)</translation>
+    </message>
+    <message>
+        <source>The form &quot;%1&quot; is unknown</source>
+        <translation>Die Form „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The band &quot;%1&quot; is unknown</source>
+        <translation>Der Bereich „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The group &quot;%1&quot; is unknown</source>
+        <translation>Die Gruppe „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The name of the value is missing</source>
+        <translation>Der Name des Werts fehlt</translation>
+    </message>
+    <message>
+        <source>No group of the node has this value</source>
+        <translation>Keine Gruppe des Knotens hat diesen Wert</translation>
+    </message>
+    <message>
+        <source>The value occurs twice</source>
+        <translation>Der Wert kommt zweimal vor</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::NodeSpec</name>
+    <message>
+        <source>The name of the node is missing</source>
+        <translation>Der Name des Knotens fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a node</source>
+        <translation>„%1“ ist kein Name für einen Knoten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than one name, which only a top node may have</source>
+        <translation>„%1“ ist mehr als ein Name; das darf nur ein oberster Knoten haben</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::NumericValue</name>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2</source>
+        <translation>%1 ist kleiner als %2</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2</source>
+        <translation>%1 ist größer als %2</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ParameterDlg</name>
+    <message>
+        <source> [kHz]</source>
+        <translation> [kHz]</translation>
+    </message>
+    <message>
+        <source> [MHz]</source>
+        <translation> [MHz]</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ShorttimeProfileDlg</name>
+    <message>
+        <source>Date of creation :</source>
+        <translation>Angelegt am :</translation>
+    </message>
+    <message>
+        <source>Last modification :</source>
+        <translation>Zuletzt geändert :</translation>
+    </message>
+    <message>
+        <source>Creating operator :</source>
+        <translation>Angelegt von :</translation>
+    </message>
+    <message>
+        <source>Modifying operator :</source>
+        <translation>Geändert von :</translation>
+    </message>
+    <message>
+        <source>Required Parameters</source>
+        <translation>Geforderte Parameter</translation>
+    </message>
+    <message>
+        <source>Burst Length Min.</source>
+        <translation>Burstlänge min.</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Burst Length Max.</source>
+        <translation>Burstlänge max.</translation>
+    </message>
+    <message>
+        <source>Hop Rate</source>
+        <translation>Sprungrate</translation>
+    </message>
+    <message>
+        <source>Burst Count Min.</source>
+        <translation>Burstanzahl min.</translation>
+    </message>
+    <message>
+        <source>Minimum bandwidth</source>
+        <translation>Kleinste Bandbreite</translation>
+    </message>
+    <message>
+        <source>Nominal bandwidth</source>
+        <translation>Nennbandbreite</translation>
+    </message>
+    <message>
+        <source>Maximum bandwidth</source>
+        <translation>Größte Bandbreite</translation>
+    </message>
+    <message>
+        <source>Use the frequency limits</source>
+        <translation>Frequenzgrenzen verwenden</translation>
+    </message>
+    <message>
+        <source>Min frequency :</source>
+        <translation>Min. Frequenz :</translation>
+    </message>
+    <message>
+        <source>Chs. :</source>
+        <translation>Kan. :</translation>
+    </message>
+    <message>
+        <source>Max frequency :</source>
+        <translation>Max. Frequenz :</translation>
+    </message>
+    <message>
+        <source>Use the hop step</source>
+        <translation>Sprungweite verwenden</translation>
+    </message>
+    <message>
+        <source>Max hopstep :</source>
+        <translation>Max. Sprungweite :</translation>
+    </message>
+    <message>
+        <source>Modulation type :</source>
+        <translation>Modulationsart :</translation>
+    </message>
+    <message>
+        <source>Use the frequency list</source>
+        <translation>Frequenzliste verwenden</translation>
+    </message>
+    <message>
+        <source>Freq. list [kHz] :</source>
+        <translation>Freq.-Liste [kHz] :</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ShorttimeProfileHeaderDlg</name>
+    <message>
+        <source>Matching accuracy :</source>
+        <translation>Übereinstimmung :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::SigTrackingControlDlg</name>
+    <message>
+        <source>Frequency range :</source>
+        <translation>Frequenzbereich :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::SpectralZoomDlg</name>
+    <message>
+        <source>Lock frequency</source>
+        <translation>Frequenz sperren</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::SuffixedDouble</name>
+    <message>
+        <source>&quot;%1&quot; is no unit of frequency (Hz, kHz, MHz, GHz)</source>
+        <translation>„%1“ ist keine Frequenzeinheit (Hz, kHz, MHz, GHz)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number of Hz</source>
+        <translation>„%1“ sind keine ganzen Hz</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TdsHeaderDDCDlg</name>
+    <message>
+        <source>Lock frequency</source>
+        <translation>Frequenz sperren</translation>
+    </message>
+    <message>
+        <source>Delayed signal modes</source>
+        <translation>Verzögerte Signalarten</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TdsHeaderMSDlg</name>
+    <message>
+        <source>Channels :</source>
+        <translation>Kanäle :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TdsHeaderWBDlg</name>
+    <message>
+        <source>Gain control :</source>
+        <translation>Verstärkungsregelung :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Ext.</source>
+        <translation>Ext.</translation>
+    </message>
+    <message>
+        <source>Chs. :</source>
+        <translation>Kan. :</translation>
+    </message>
+    <message>
+        <source>Delay :</source>
+        <translation>Verzögerung :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Reference frequency :</source>
+        <translation>Referenzfrequenz :</translation>
+    </message>
+    <message>
+        <source>RF mute</source>
+        <translation>HF stumm</translation>
+    </message>
+    <message>
+        <source>Improved dynamic behaviour at 1 MHz</source>
+        <translation>Verbesserte Dynamik bei 1 MHz</translation>
+    </message>
+    <message>
+        <source>AGC</source>
+        <translation>AGC</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchlauf</translation>
+    </message>
+    <message>
+        <source>Attack time :</source>
+        <translation>Anstiegszeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Decay time :</source>
+        <translation>Abfallzeit :</translation>
+    </message>
+    <message>
+        <source>Hysteresis :</source>
+        <translation>Hysterese :</translation>
+    </message>
+    <message>
+        <source>Step dwelltime :</source>
+        <translation>Verweilzeit je Schritt :</translation>
+    </message>
+    <message>
+        <source>infinite</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Scan dwelltime :</source>
+        <translation>Verweilzeit im Suchlauf :</translation>
+    </message>
+    <message>
+        <source>µs</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>Scan tuner mode :</source>
+        <translation>Tunerart im Suchlauf :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TunerDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>Decay :</source>
+        <translation>Abfall :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>IFSource :</source>
+        <translation>ZF-Quelle :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Preamplifier On/Off</source>
+        <translation>Vorverstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Demodulation :</source>
+        <translation>Demodulation :</translation>
+    </message>
+    <message>
+        <source>Output IF path :</source>
+        <translation>ZF-Ausgangspfad :</translation>
+    </message>
+    <message>
+        <source>IF shift :</source>
+        <translation>ZF-Versatz :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>BFO frequency :</source>
+        <translation>BFO-Frequenz :</translation>
+    </message>
+    <message>
+        <source>Notch filter 1</source>
+        <translation>Kerbfilter 1</translation>
+    </message>
+    <message>
+        <source>Frequency offset :</source>
+        <translation>Frequenzablage :</translation>
+    </message>
+    <message>
+        <source>Bandwidth :</source>
+        <translation>Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Notch filter 2</source>
+        <translation>Kerbfilter 2</translation>
+    </message>
+    <message>
+        <source>Squelch :</source>
+        <translation>Rauschsperre :</translation>
+    </message>
+    <message>
+        <source>Volume :</source>
+        <translation>Lautstärke :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Squelch Threshold :</source>
+        <translation>Rauschsperrschwelle :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Audio format :</source>
+        <translation>Audioformat :</translation>
+    </message>
+    <message>
+        <source>Syllabic :</source>
+        <translation>Silbenrate :</translation>
+    </message>
+    <message>
+        <source>Wideband mode</source>
+        <translation>Breitbandbetrieb</translation>
+    </message>
+    <message>
+        <source>Noise suppression</source>
+        <translation>Rauschunterdrückung</translation>
+    </message>
+    <message>
+        <source>Replay freq. offset :</source>
+        <translation>Freq.-Ablage bei Wiedergabe :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TunerVUHFDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>AFC</source>
+        <translation>AFC</translation>
+    </message>
+    <message>
+        <source>Demodulation :</source>
+        <translation>Demodulation :</translation>
+    </message>
+    <message>
+        <source>Measurement mode :</source>
+        <translation>Messart :</translation>
+    </message>
+    <message>
+        <source>Measurement time :</source>
+        <translation>Messzeit :</translation>
+    </message>
+    <message>
+        <source>µs</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>Squelch Threshold</source>
+        <translation>Rauschsperrschwelle</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Attenuation mode :</source>
+        <translation>Dämpfungsart :</translation>
+    </message>
+    <message>
+        <source>Attenuation value :</source>
+        <translation>Dämpfungswert :</translation>
+    </message>
+    <message>
+        <source>Volume :</source>
+        <translation>Lautstärke :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Audio balance :</source>
+        <translation>Audiobalance :</translation>
+    </message>
+    <message>
+        <source>Audio format :</source>
+        <translation>Audioformat :</translation>
+    </message>
+    <message>
+        <source>Analog audio offset :</source>
+        <translation>Ablage des Analogtons :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Amplifier mode :</source>
+        <translation>Verstärkerart :</translation>
+    </message>
+    <message>
+        <source>Reference frequency :</source>
+        <translation>Referenzfrequenz :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCDatePeriod</name>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>to:</source>
+        <translation>bis:</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCDateTimeEdit</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCFrequency</name>
+    <message>
+        <source>Tune</source>
+        <translation>Abstimmen</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCLineEdit</name>
+    <message>
+        <source>&quot;%1&quot; is not a date and time (dd.mm.yyyy hh:mm:ss)</source>
+        <translation>„%1“ ist kein Zeitpunkt (TT.MM.JJJJ hh:mm:ss)</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCListBoxNumeric</name>
+    <message>
+        <source>&amp;New row</source>
+        <translation>&amp;Neue Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Delete row</source>
+        <translation>Zeile &amp;löschen</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCListBoxString</name>
+    <message>
+        <source>Set to &amp;Default</source>
+        <translation>Auf &amp;Vorgabe setzen</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::VCTimePeriod</name>
+    <message>
+        <source>Start time:</source>
+        <translation>Startzeit:</translation>
+    </message>
+    <message>
+        <source>Stop time:</source>
+        <translation>Stoppzeit:</translation>
     </message>
 </context>
 <context>
@@ -97,6 +2305,80 @@
     <message>
         <source>There is no item &quot;%1&quot;</source>
         <translation>Es gibt keinen Eintrag „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WavecomDlg</name>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Workflow :</source>
+        <translation>Arbeitsablauf :</translation>
+    </message>
+    <message>
+        <source>Show expert GUI :</source>
+        <translation>Expertenansicht zeigen :</translation>
+    </message>
+    <message>
+        <source>Display metadata</source>
+        <translation>Metadaten anzeigen</translation>
+    </message>
+    <message>
+        <source>Decoder mode :</source>
+        <translation>Decoderbetriebsart :</translation>
+    </message>
+    <message>
+        <source>Decoder mode type:</source>
+        <translation>Art der Betriebsart:</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Professional modes</source>
+        <translation>Professionelle Verfahren</translation>
+    </message>
+    <message>
+        <source>Satellite modes</source>
+        <translation>Satellitenverfahren</translation>
+    </message>
+    <message>
+        <source>Classifier</source>
+        <translation>Klassifikator</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::XmlReader</name>
+    <message>
+        <source>The encoding %1 is not supported, only UTF-8 is</source>
+        <translation>Die Kodierung %1 wird nicht unterstützt, nur UTF-8</translation>
+    </message>
+    <message>
+        <source>A document type is not allowed</source>
+        <translation>Ein Dokumenttyp ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Elements are nested more than %1 deep</source>
+        <translation>Elemente sind tiefer als %1 geschachtelt</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>A tag or comment is longer than %1 bytes</source>
+        <translation>Eine Marke oder ein Kommentar ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>Not well-formed: a character is not UTF-8</source>
+        <translation>Nicht wohlgeformt: Ein Zeichen ist kein UTF-8</translation>
+    </message>
+    <message>
+        <source>Not well-formed: %1</source>
+        <translation>Nicht wohlgeformt: %1</translation>
     </message>
 </context>
 </TS>
