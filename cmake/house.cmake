@@ -1,8 +1,9 @@
 # The house rules of every target: one warning level, one set of switches, and functions that keep a folder's CMakeLists.txt to
 # a few lines. Each folder is one target that links only what it may see.
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wshadow=local)
+add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    add_compile_options(-Wshadow=local)
     add_compile_options(-fpch-preprocess) # lets a compiler cache see through the compiled headers
 endif()
 if(IPCPARAM_WERROR)
@@ -15,8 +16,14 @@ if(IPCPARAM_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(IPCPARAM_FUZZ)
+    # All is instrumented, or the fuzzer would not see where its inputs lead.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
 # The Qt headers that nearly every source includes are compiled once for the libraries without a window and once for all the rest.
-file(WRITE ${CMAKE_BINARY_DIR}/pch.cpp "")
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/pch.cpp CONTENT "")
 foreach(kind Core Widgets)
     add_library(pch_${kind} OBJECT ${CMAKE_BINARY_DIR}/pch.cpp)
     target_link_libraries(pch_${kind} PRIVATE Qt6::${kind})

@@ -81,6 +81,8 @@ Outcome RunProgram(const QStringList& arguments, bool display = false)
     if (display)
         environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("LC_ALL", "C.UTF-8");
+    static const QTemporaryDir runtime;
+    environment.insert("XDG_RUNTIME_DIR", runtime.path());
     program.setProcessEnvironment(environment);
     program.start(JOBEDIT_PROGRAM, arguments);
     if (!program.waitForFinished(120000) || program.exitStatus() != QProcess::NormalExit)
@@ -188,7 +190,7 @@ private Q_SLOTS:
     void theFilterKeepsWhatMatchesWithItsSurroundings()
     {
         QLineEdit* filter = m_window->Nodes().Filter();
-        QTest::keyClicks(filter, "tuner_vuhf");
+        QTest::keyClicks(filter, "ipc_tuner_vuhf");
         int shown = 0;
         QAbstractItemModel* model = m_window->Nodes().View()->model();
         for (QModelIndexList left = {QModelIndex()}; !left.isEmpty();)
@@ -226,6 +228,14 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
         QVERIFY(ReadAll(File("a.job.xml")).contains("7060000"));
         QVERIFY(FrequencyField()->hasFocus());
+    }
+
+    void anEntryThatWasRefusedIsNamedWhenSaving()
+    {
+        TypeFrequency("much");
+        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QVERIFY(m_window->Messages().GetText().contains("much"));
+        QVERIFY(!m_window->isWindowModified());
     }
 
     void lookingAtEveryFieldOfEveryDialogLeavesTheFileAsItIs()
@@ -266,7 +276,9 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("place");
         QTest::newRow("missing") << QByteArray() << "";
-        QTest::newRow("not well-formed") << QByteArray("<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n") << ":3:";
+        QTest::newRow("not well-formed") << QByteArray(
+                                                "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n")
+                                         << ":3:";
         QTest::newRow("a value refused")
             << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">\n"
                           "  <Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\">\n"
@@ -464,7 +476,7 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QString, says);
         QVERIFY(m_window->SaveTo(File("good.job.xml")));
-        WriteAll(File("bad.job.xml"), "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
+        WriteAll(File("bad.job.xml"), "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
         for (QString& argument : arguments)
             if (argument.endsWith(".xml") || argument == "d")
                 argument = File(argument);

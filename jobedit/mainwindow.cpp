@@ -1,0 +1,423 @@
+#include "mainwindow.h"
+
+#include "dialogpane.h"
+#include "messagelist.h"
+#include "nightcolours.h"
+#include "nodepane.h"
+#include "recentfiles.h"
+#include "valuewidgets/textentry.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace JOBEDIT
+{
+
+MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent)
+    : QMainWindow(parent)
+    , m_document(new JobDocument(std::move(model), this))
+    , m_nodes(new NodePane(this))
+    , m_dialog(new DialogPane(this))
+    , m_messages(new MessageList(this))
+    , m_splitter(new QSplitter(this))
+    , m_messageDock(new QDockWidget(tr("Messages"), this))
+{
+    MakePanes();
+    MakeFileMenu();
+    MakeNodeMenu();
+    MakeViewMenu();
+    MakeHelpMenu();
+    RestoreLayout();
+
+    connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
+    connect(m_document, &JobDocument::FileNameChanged, this, &MainWindow::Slot_OnFileNameChanged);
+    connect(m_document, &JobDocument::ModifiedChanged, this, &QWidget::setWindowModified);
+    connect(m_nodes, &NodePane::CurrentChanged, m_dialog, [this] { m_dialog->ShowNode(m_nodes->GetCurrentNode()); });
+    connect(m_nodes, &NodePane::Activated, m_dialog, &DialogPane::FocusDialog);
+    m_reports = TKE::ErrorHandler::Interface().Subscribe(
+        [this](const TKE::ErrorReport& report) { m_messages->Add(report.severity, report.text, report.details); });
+    Slot_OnFileNameChanged();
+    m_nodes->View()->setFocus();
+}
+
+MainWindow::~MainWindow()
+{
+    // Panels look into the tree, so they go while the document still holds it.
+    m_dialog->ShowNode(nullptr);
+}
+
+bool MainWindow::NewFromSample()
+{
+    if (!MayGo())
+        return false;
+    TKE::FileError error;
+    if (m_document->NewFromSample(error))
+        return true;
+    Fail(tr("The sample job could not be made."), error);
+    return false;
+}
+
+bool MainWindow::OpenFile(const QString& fileName)
+{
+    if (!MayGo())
+        return false;
+    auto access = JobDocument::Access::ReadWrite;
+    if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
+    {
+        QMessageBox question(QMessageBox::Question, tr("Open Job"),
+                             tr("%1 is open in another editor: %2.").arg(QFileInfo(fileName).fileName(), holder),
+                             QMessageBox::Cancel, this);
+        question.setInformativeText(tr("Opened read-only, it can be saved under another name."));
+        QPushButton* readOnly = question.addButton(tr("Open &Read-Only"), QMessageBox::AcceptRole);
+        question.setDefaultButton(readOnly);
+        question.exec();
+        if (question.clickedButton() != readOnly)
+            return false;
+        access = JobDocument::Access::ReadOnly;
+    }
+    TKE::FileError error;
+    if (!m_document->Open(fileName, access, error))
+    {
+        if (!QFileInfo::exists(fileName))
+            RecentFiles::Remove(fileName);
+        Fail(tr("%1 could not be opened.").arg(QFileInfo(fileName).fileName()), error);
+        return false;
+    }
+    for (const TKE::FileError& warning : m_document->GetWarnings())
+        m_messages->Add(TKE::Severity::Warning, warning.ToText());
+    RecentFiles::Add(fileName);
+    statusBar()->showMessage(tr("%1 opened").arg(m_document->GetFileName()), 5000);
+    return true;
+}
+
+bool MainWindow::Save()
+{
+    if (m_document->GetFileName().isEmpty() || m_document->IsReadOnly())
+        return SaveAs();
+    CommitPendingEdit();
+    if (!MayOverwrite())
+        return false;
+    ReportRefusals();
+    TKE::FileError error;
+    if (!m_document->Save(error))
+    {
+        Fail(tr("%1 could not be saved.").arg(QFileInfo(m_document->GetFileName()).fileName()), error);
+        return false;
+    }
+    statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
+    return true;
+}
+
+bool MainWindow::SaveAs()
+{
+    CommitPendingEdit();
+    const QString start = m_document->GetFileName().isEmpty() ? tr("new.job.xml") : m_document->GetFileName();
+    const QString fileName =
+        QFileDialog::getSaveFileName(this, tr("Save Job"), start, tr("Jobs (*.xml);;All files (*)"));
+    return !fileName.isEmpty() && SaveTo(fileName);
+}
+
+bool MainWindow::SaveTo(const QString& fileName)
+{
+    CommitPendingEdit();
+    if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
+    {
+        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()),
+             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+        return false;
+    }
+    ReportRefusals();
+    TKE::FileError error;
+    if (!m_document->SaveAs(fileName, error))
+    {
+        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()), error);
+        return false;
+    }
+    RecentFiles::Add(fileName);
+    statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
+    return true;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!MayGo())
+        return event->ignore();
+    QSettings settings;
+    settings.setValue("window/geometry", saveGeometry());
+    settings.setValue("window/state", saveState());
+    settings.setValue("window/splitter", m_splitter->saveState());
+    event->accept();
+}
+
+void MainWindow::MakePanes()
+{
+    m_splitter->setObjectName("splitter");
+    m_splitter->addWidget(m_nodes);
+    m_splitter->addWidget(m_dialog);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setContentsMargins(6, 6, 6, 0);
+    setCentralWidget(m_splitter);
+
+    m_messageDock->setObjectName("messageDock");
+    m_messageDock->setWidget(m_messages);
+    m_messageDock->setAllowedAreas(Qt::BottomDockWidgetArea | Qt::RightDockWidgetArea);
+    addDockWidget(Qt::BottomDockWidgetArea, m_messageDock);
+    statusBar();
+}
+
+QMenu* MainWindow::AddMenu(const QString& title) const
+{
+    return menuBar()->addMenu(title);
+}
+
+void MainWindow::MakeFileMenu()
+{
+    QMenu* menu = AddMenu(tr("&File"));
+    menu->addAction(tr("&New from Sample"), QKeySequence::New, this, &MainWindow::NewFromSample);
+    menu->addAction(tr("&Open..."), QKeySequence::Open, this, &MainWindow::Slot_OnOpen);
+    auto* recent = new RecentFiles(menu);
+    connect(recent, &RecentFiles::Chosen, this, &MainWindow::OpenFile);
+    menu->addMenu(recent);
+    menu->addSeparator();
+    menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
+    menu->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &MainWindow::SaveAs);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+}
+
+void MainWindow::MakeNodeMenu()
+{
+    QMenu* menu = AddMenu(tr("&Node"));
+    m_panelMenu = menu->addMenu(tr("Open &Panel"));
+    connect(menu, &QMenu::aboutToShow, this, &MainWindow::FillPanelMenu);
+    connect(m_nodes, &NodePane::MenuRequested, this,
+            [this](const QPoint& position)
+            {
+                FillPanelMenu();
+                if (!m_panelMenu->isEmpty())
+                    m_panelMenu->popup(position);
+            });
+    menu->addSeparator();
+    menu->addAction(tr("&Find..."), QKeySequence::Find, m_nodes->Filter(),
+                    [filter = m_nodes->Filter()]
+                    {
+                        filter->setFocus(Qt::ShortcutFocusReason);
+                        filter->selectAll();
+                    });
+}
+
+void MainWindow::MakeViewMenu()
+{
+    QMenu* menu = AddMenu(tr("&View"));
+    auto* forms = new QActionGroup(menu);
+    const auto addForm = [&](const QString& text, Qt::Key key, Form form)
+    {
+        QAction* action =
+            menu->addAction(text, QKeySequence(Qt::CTRL | key), m_dialog, [this, form] { m_dialog->SetForm(form); });
+        action->setCheckable(true);
+        action->setChecked(m_dialog->GetForm() == form);
+        forms->addAction(action);
+        connect(m_dialog, &DialogPane::FormChanged, action,
+                [this, action, form] { action->setChecked(m_dialog->GetForm() == form); });
+    };
+    addForm(tr("&Job Form"), Qt::Key_1, Form::Job);
+    addForm(tr("&Stand-Alone Form"), Qt::Key_2, Form::StandAlone);
+    menu->addSeparator();
+    menu->addAction(m_messageDock->toggleViewAction());
+    QAction* night = menu->addAction(tr("Night &Colours"));
+    night->setCheckable(true);
+    night->setChecked(NightColours::AreOn());
+    connect(night, &QAction::toggled, this, &NightColours::Switch);
+    menu->addSeparator();
+    menu->addAction(tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
+    menu->addAction(tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this, [this] { MovePane(-1); });
+}
+
+void MainWindow::MakeHelpMenu()
+{
+    AddMenu(tr("&Help"))->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
+}
+
+void MainWindow::Slot_OnOpen()
+{
+    const QString start = QFileInfo(m_document->GetFileName()).absolutePath();
+    const QString fileName =
+        QFileDialog::getOpenFileName(this, tr("Open Job"), start, tr("Jobs (*.xml);;All files (*)"));
+    if (!fileName.isEmpty())
+        OpenFile(fileName);
+}
+
+void MainWindow::Slot_OnReplaced()
+{
+    for (QDialog* panel : findChildren<QDialog*>("panel"))
+        panel->close();
+    m_nodes->SetNodes(m_document->GetNodes());
+}
+
+void MainWindow::Slot_OnFileNameChanged()
+{
+    const QString& fileName = m_document->GetFileName();
+    const QString shown = fileName.isEmpty() ? tr("New job") : QFileInfo(fileName).fileName();
+    setWindowTitle(m_document->IsReadOnly() ? tr("%1[*] (read-only) - Job Editor").arg(shown)
+                                            : tr("%1[*] - Job Editor").arg(shown));
+    setWindowFilePath(fileName);
+    setWindowModified(m_document->IsModified());
+}
+
+void MainWindow::Slot_OnAbout()
+{
+    QMessageBox::about(this, tr("About Job Editor"),
+                       tr("<h3>Job Editor %1</h3><p>Edits the parameters of the processing chains of jobs.</p>")
+                           .arg(QCoreApplication::applicationVersion()));
+}
+
+void MainWindow::FillPanelMenu()
+{
+    m_panelMenu->clear();
+    const JobNode* node = m_nodes->GetCurrentNode();
+    if (node)
+        for (const DirectPanel* panel : FindDirectPanels(*node))
+            m_panelMenu->addAction(QCoreApplication::translate("JOBEDIT::DirectPanels", panel->title), this,
+                                   [this, node = *node, panel] { OpenPanel(node, *panel); });
+    m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
+}
+
+void MainWindow::OpenPanel(const JobNode& node, const DirectPanel& panel)
+{
+    auto* window = new QDialog(this);
+    window->setObjectName("panel");
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(
+        tr("%1 - %2").arg(node.name, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
+    auto* area = new QScrollArea(window);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    QWidget* page = MakePanels(node, {&panel}, area->viewport()).release();
+    area->setWidget(page);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);
+    connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
+    auto* layout = new QVBoxLayout(window);
+    layout->addWidget(area);
+    layout->addWidget(buttons);
+    window->resize(page->sizeHint().expandedTo({500, 300}).boundedTo(size()) + QSize(40, 70));
+    window->show();
+}
+
+void MainWindow::MovePane(int step)
+{
+    QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    const QWidget* focus = QApplication::focusWidget();
+    int pane = 0;
+    // The dialog stands within the pane of the switch: the innermost counts.
+    for (int index = 0; index < int(std::size(panes)); ++index)
+        if (panes[index] && focus && (panes[index] == focus || panes[index]->isAncestorOf(focus)))
+            pane = index;
+    do
+        pane = (pane + step + int(std::size(panes))) % int(std::size(panes));
+    while (!panes[pane] || !panes[pane]->isVisible());
+    switch (pane)
+    {
+    case 0:
+        return m_nodes->View()->setFocus(Qt::TabFocusReason);
+    case 1:
+        return m_dialog->FocusSwitch();
+    case 2:
+        return m_dialog->FocusDialog();
+    default:
+        return m_messages->setFocus(Qt::TabFocusReason);
+    }
+}
+
+bool MainWindow::MayGo()
+{
+    CommitPendingEdit();
+    if (!m_document->IsModified())
+        return true;
+    const QString name =
+        m_document->GetFileName().isEmpty() ? tr("The new job") : QFileInfo(m_document->GetFileName()).fileName();
+    QMessageBox question(QMessageBox::Warning, tr("Job Editor"), tr("%1 has changes that are not saved.").arg(name),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setDefaultButton(QMessageBox::Save);
+    switch (question.exec())
+    {
+    case QMessageBox::Save:
+        return Save();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool MainWindow::MayOverwrite()
+{
+    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed)
+        return true; // what has vanished is written again
+    QMessageBox question(
+        QMessageBox::Warning, tr("Save Job"),
+        tr("%1 was changed by somebody else since it was opened.").arg(QFileInfo(m_document->GetFileName()).fileName()),
+        QMessageBox::Cancel, this);
+    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.exec();
+    return question.clickedButton() == overwrite;
+}
+
+void MainWindow::ReportRefusals()
+{
+    if (!m_dialog->GetDialog())
+        return;
+    for (QLineEdit* field : m_dialog->GetDialog()->findChildren<QLineEdit*>())
+    {
+        // The field itself, or the line edit of a spin box.
+        const auto* entry = dynamic_cast<const TKE::TextEntry*>(field);
+        if (!entry)
+            entry = dynamic_cast<const TKE::TextEntry*>(field->parentWidget());
+        if (entry && !entry->GetRefusal().isEmpty())
+            m_messages->Add(TKE::Severity::Warning,
+                            tr("The entry \"%1\" was refused and is not saved").arg(field->text()),
+                            entry->GetRefusal());
+    }
+}
+
+void MainWindow::Fail(const QString& text, const TKE::FileError& error)
+{
+    m_messages->Add(TKE::Severity::Error, text, error.ToText());
+    m_messageDock->show();
+    // Before the window is up there is nobody to press a button: the message waits in the list.
+    if (isVisible())
+        QMessageBox(QMessageBox::Critical, tr("Job Editor"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this)
+            .exec();
+}
+
+void MainWindow::RestoreLayout()
+{
+    resize(1240, 780);
+    m_splitter->setSizes({350, 890});
+    resizeDocks({m_messageDock}, {90}, Qt::Vertical);
+    const QSettings settings;
+    restoreGeometry(settings.value("window/geometry").toByteArray());
+    restoreState(settings.value("window/state").toByteArray());
+    m_splitter->restoreState(settings.value("window/splitter").toByteArray());
+}
+
+} // namespace JOBEDIT

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "application/errorhandler.h"
+#include "chains.h"
+#include "jobdocument.h"
+
+#include <QMainWindow>
+
+class QDockWidget;
+class QMenu;
+class QSplitter;
+
+namespace JOBEDIT
+{
+
+class DialogPane;
+class MessageList;
+class NodePane;
+
+/// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
+///
+/// An operation that would lose changes asks first; what fails is reported, and what was open stays.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // All return whether it was done: not when the user cancelled, nor when it failed, which the user has been told
+    // then.
+    bool NewFromSample();
+    bool OpenFile(const QString& fileName);
+    bool Save();
+    bool SaveAs();
+    bool SaveTo(const QString& fileName);
+
+    JobDocument& Document() { return *m_document; }
+    NodePane& Nodes() { return *m_nodes; }
+    DialogPane& Dialog() { return *m_dialog; }
+    MessageList& Messages() { return *m_messages; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void MakePanes();
+    void MakeFileMenu();
+    void MakeNodeMenu();
+    void MakeViewMenu();
+    void MakeHelpMenu();
+    QMenu* AddMenu(const QString& title) const;
+
+    void Slot_OnOpen();
+    void Slot_OnReplaced();
+    void Slot_OnFileNameChanged();
+    void Slot_OnAbout();
+    void FillPanelMenu();
+    void OpenPanel(const JobNode& node, const DirectPanel& panel);
+    void MovePane(int step);
+
+    /// Asks what becomes of unsaved changes. False: leave everything as it is.
+    bool MayGo();
+    /// False: the user does not want to overwrite what somebody else wrote.
+    bool MayOverwrite();
+    /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
+    void ReportRefusals();
+    void Fail(const QString& text, const TKE::FileError& error);
+    void RestoreLayout();
+
+    JobDocument* m_document;
+    NodePane* m_nodes;
+    DialogPane* m_dialog;
+    MessageList* m_messages;
+    QSplitter* m_splitter;
+    QDockWidget* m_messageDock;
+    QMenu* m_panelMenu = nullptr;
+    TKE::ErrorHandler::Subscription m_reports;
+};
+
+} // namespace JOBEDIT

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "nodetreemodel.h"
+
+#include <QWidget>
+
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTreeView;
+
+namespace JOBEDIT
+{
+
+/// The job's nodes with a filter above them. A filter keeps the nodes whose name or type holds its text, with all above
+/// and below them.
+class NodePane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NodePane(QWidget* parent = nullptr);
+
+    /// Shows these nodes and selects the first that has a dialog.
+    void SetNodes(std::vector<JobNode> nodes);
+    const std::vector<JobNode>& GetNodes() const { return m_model->GetNodes(); }
+    /// Null when none is selected.
+    const JobNode* GetCurrentNode() const;
+    /// False when the job has no such node. A filter that hides the node is dropped.
+    bool SelectNode(const QString& path);
+
+    QTreeView* View() const { return m_view; }
+    QLineEdit* Filter() const { return m_filter; }
+
+signals:
+    void CurrentChanged();
+    /// The node is to be edited: Return was pressed or it was double-clicked.
+    void Activated();
+    void MenuRequested(const QPoint& globalPosition);
+
+private:
+    void ApplyFilter(const QString& text);
+
+    NodeTreeModel* m_model;
+    QSortFilterProxyModel* m_filtered;
+    QLineEdit* m_filter;
+    QTreeView* m_view;
+};
+
+} // namespace JOBEDIT

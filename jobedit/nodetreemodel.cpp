@@ -1,0 +1,64 @@
+#include "nodetreemodel.h"
+
+#include "chains.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <algorithm>
+
+namespace JOBEDIT
+{
+
+namespace
+{
+
+constexpr int numberRole = Qt::UserRole + 1;
+
+} // namespace
+
+NodeTreeModel::NodeTreeModel(QObject* parent) : QStandardItemModel(parent) {}
+
+void NodeTreeModel::SetNodes(std::vector<JobNode> nodes)
+{
+    clear();
+    setHorizontalHeaderLabels({tr("Node"), tr("Type")});
+    m_nodes = std::move(nodes);
+    m_items.clear();
+    m_items.reserve(m_nodes.size());
+    for (const JobNode& node : m_nodes)
+    {
+        QList<QStandardItem*> row{new QStandardItem(node.name), new QStandardItem(node.type)};
+        for (QStandardItem* item : row)
+        {
+            item->setEditable(false);
+            item->setToolTip(node.type.isEmpty() ? node.path : tr("%1\nType: %2").arg(node.path, node.type));
+            item->setData(int(m_items.size()), numberRole);
+        }
+        QStandardItem* above = node.parent < 0 ? invisibleRootItem() : m_items[size_t(node.parent)];
+        m_items.push_back(row.first());
+        above->appendRow(row);
+    }
+}
+
+const JobNode* NodeTreeModel::NodeOf(const QModelIndex& index) const
+{
+    return index.isValid() ? &m_nodes[size_t(index.data(numberRole).toInt())] : nullptr;
+}
+
+QModelIndex NodeTreeModel::IndexOf(const QString& path) const
+{
+    const QString base = path.endsWith('/') ? path : path + '/';
+    const auto found = std::ranges::find(m_nodes, base, &JobNode::path);
+    return found == m_nodes.end() ? QModelIndex() : m_items[size_t(found - m_nodes.begin())]->index();
+}
+
+QVariant NodeTreeModel::data(const QModelIndex& index, int role) const
+{
+    const QVariant data = QStandardItemModel::data(index, role);
+    // Asked for at each painting, so that it follows the palette.
+    if (role == Qt::ForegroundRole && !HasDialog(*NodeOf(index)))
+        return QGuiApplication::palette().brush(QPalette::PlaceholderText);
+    return data;
+}
+
+} // namespace JOBEDIT
