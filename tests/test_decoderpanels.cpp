@@ -40,6 +40,7 @@ class TestDecoderPanels : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void init()
     {
         for (const char* group : {"G_DECODER", "G_DEMOD_HF", "G_DEMOD_VUHF", "G_CLASSIFIER", "G_CORRELATOR"})

@@ -18,6 +18,7 @@ class TestHeaderPanels : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void init()
     {
         for (const char* group : {"G_GENERAL_TDS", "G_GENERAL_CS", "G_HDR_DDC", "G_HDR_MS", "G_HDR_WB"})

@@ -3,11 +3,11 @@
 #include "jobedit/mainwindow.h"
 #include "jobedit/messagelist.h"
 #include "jobedit/nodepane.h"
+#include "jobedit/panelwindow.h"
 #include "jobedit/recentfiles.h"
 #include "keys/keys.h"
 
 #include <QLockFile>
-#include <QProcess>
 #include <QTest>
 #include <QtWidgets>
 #include <set>
@@ -64,32 +64,6 @@ private:
     QString m_text;
     QTimer m_timer;
 };
-
-struct Outcome
-{
-    int status;
-    QString out;
-    QString errors;
-};
-
-Outcome RunProgram(const QStringList& arguments, bool display = false)
-{
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        environment.remove(name);
-    if (display)
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-    environment.insert("LC_ALL", "C.UTF-8");
-    static const QTemporaryDir runtime;
-    environment.insert("XDG_RUNTIME_DIR", runtime.path());
-    program.setProcessEnvironment(environment);
-    program.start(JOBEDIT_PROGRAM, arguments);
-    if (!program.waitForFinished(120000) || program.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, program.errorString()};
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
-}
 
 } // namespace
 
@@ -177,6 +151,25 @@ private Q_SLOTS:
         QVERIFY(standAlone);
         QCOMPARE(standAlone->tabText(standAlone->currentIndex()), QStringLiteral("Tuner"));
         QVERIFY(m_window->Dialog().findChild<QRadioButton*>("standAloneForm")->isChecked());
+    }
+
+    void panelsOfANodeOpenInWindowsOfTheirOwnUntilAnotherJobComes()
+    {
+        int opened = 0;
+        for (const JobNode& node : m_window->Nodes().GetNodes())
+            for (const DirectPanel* panel : FindDirectPanels(node))
+            {
+                auto* window = new PanelWindow(node, *panel, m_window.get());
+                window->show();
+                ++opened;
+                const auto values = Tree::Instance()->FindNode(node.path)->GetValues().size();
+                QVERIFY2(values == 0 || window->findChildren<QWidget*>().size() > 5, panel->name);
+            }
+        QVERIFY(opened > 0);
+        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(m_window->NewFromSample());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(m_window->findChildren<PanelWindow*>().isEmpty());
     }
 
     void aNodeWithoutADialogSaysSo()
@@ -445,76 +438,6 @@ private Q_SLOTS:
         QVERIFY(m_window->Dialog().GetDialog()->isAncestorOf(reached.at(1)));
         QCOMPARE(reached.at(2), &m_window->Messages());
         QCOMPARE(reached.at(3), m_window->Nodes().View());
-    }
-
-    void theCommandLineTellsByItsExitStatus_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("says");
-        QTest::newRow("help") << QStringList{"--help"} << 0 << "render";
-        QTest::newRow("version") << QStringList{"--version"} << 0 << "jobedit ";
-        QTest::newRow("a good file") << QStringList{"check", "good.job.xml"} << 0 << "";
-        QTest::newRow("one bad file of two")
-            << QStringList{"check", "good.job.xml", "bad.job.xml"} << 1 << "bad.job.xml:3:";
-        QTest::newRow("a missing file") << QStringList{"check", "nowhere.xml"} << 1 << "nowhere.xml";
-        QTest::newRow("nothing to check") << QStringList{"check"} << 2 << "--help";
-        QTest::newRow("unknown option") << QStringList{"--sing"} << 2 << "sing";
-        QTest::newRow("render without a directory") << QStringList{"render"} << 2 << "--out";
-        QTest::newRow("unknown entry") << QStringList{"render", "--out", "d", "--entry", "X"} << 2 << "VoiceDDCDlg";
-        QTest::newRow("unknown form") << QStringList{"render", "--out", "d", "--form", "round"} << 2 << "standalone";
-        QTest::newRow("unknown language") << QStringList{"--language", "12"} << 2 << "12";
-        QTest::newRow("option of another command") << QStringList{"check", "x", "--out", "d"} << 2 << "render";
-        QTest::newRow("two jobs at once") << QStringList{"a", "b"} << 2 << "2";
-        QTest::newRow("render a bad file")
-            << QStringList{"render", "bad.job.xml", "--out", "d"} << 1 << "bad.job.xml:3:";
-        QTest::newRow("a window without a display") << QStringList{"good.job.xml"} << 1 << "display";
-    }
-    void theCommandLineTellsByItsExitStatus()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, status);
-        QFETCH(QString, says);
-        QVERIFY(m_window->SaveTo(File("good.job.xml")));
-        WriteAll(File("bad.job.xml"), "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
-        for (QString& argument : arguments)
-            if (argument.endsWith(".xml") || argument == "d")
-                argument = File(argument);
-        const Outcome outcome = RunProgram(arguments);
-        QVERIFY2(outcome.status == status, qPrintable(outcome.out + outcome.errors));
-        QVERIFY2((status == 0 ? outcome.out : outcome.errors).contains(says), qPrintable(outcome.out + outcome.errors));
-        QVERIFY(status == 0 || outcome.out.isEmpty());
-    }
-
-    void renderWritesAPicturePerTab()
-    {
-        const Outcome outcome = RunProgram({"render", "--out", File("d"), "--entry", "TunerNBDlg", "--form", "job"});
-        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-        QStringList expected;
-        m_window->Nodes().SelectNode(tunerPath);
-        const QTabWidget* dialog = m_window->Dialog().GetDialog();
-        for (int tab = 0; tab < dialog->count(); ++tab)
-            expected << QString("TunerNBDlg_IPC_TUNER_HF_job_%1_%2.png")
-                            .arg(tab + 1)
-                            .arg(dialog->tabText(tab).replace(' ', '_'));
-        QCOMPARE(QDir(File("d")).entryList(QDir::Files, QDir::Name), expected);
-        QVERIFY(outcome.out.contains(File("d/") + expected.first()));
-        const QImage picture(File("d/") + expected.first());
-        QVERIFY(picture.width() >= 775 && picture.height() >= 480);
-    }
-
-    void tasksOfOneTypeAreRenderedEach()
-    {
-        const Outcome outcome = RunProgram({"render", "--out", File("d"), "--form", "standalone"});
-        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-        QCOMPARE(outcome.errors, QString());
-        const auto count = [this](const QString& filter) { return QDir(File("d")).entryList({filter}).size(); };
-        int tabs = 0;
-        m_window->Dialog().SetForm(Form::StandAlone);
-        for (const JobNode& node : std::vector<JobNode>(m_window->Nodes().GetNodes()))
-            if (FindChain(node))
-                tabs += MakeDialog(node, Form::StandAlone, nullptr)->count();
-        QCOMPARE(count("*_standalone_*.png"), qsizetype(tabs));
     }
 };
 

@@ -23,7 +23,8 @@ void VCComboBoxClassic::OnChosen()
     if (IsHolding())
         OnEdited();
     else
-        QMetaObject::invokeMethod(this, [this] { OnEdited(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { OnEdited(); }, Qt::QueuedConnection);
 }
 
 ValueSelection* VCComboBoxClassic::Selection() const

@@ -1,0 +1,117 @@
+// What the tests of the value widgets share.
+#pragma once
+
+#include "value/tree.h"
+
+#include <QtTest>
+#include <QtWidgets>
+#include <deque>
+
+namespace WidgetFixture
+{
+
+using namespace TKE;
+
+inline const QString path = QStringLiteral("/Job/Value");
+inline const QLocale german(QLocale::German, QLocale::Germany);
+inline const QLocale english(QLocale::English, QLocale::UnitedStates);
+
+inline std::deque<ValueDescriptor> s_descriptors;
+
+inline ValueDescriptor& Described(ValueKind kind)
+{
+    ValueDescriptor& descriptor = s_descriptors.emplace_back();
+    descriptor.kind = kind;
+    return descriptor;
+}
+
+inline ValueBase* Make(const QString& at, ValueKind kind, const QString& stored)
+{
+    ValueDescriptor& descriptor = Described(kind);
+    if (kind == ValueKind::Selection)
+        descriptor.items = {{0, "Off"}, {1, "On"}, {5, "Auto & more"}};
+    descriptor.precision = 1;
+    descriptor.defaultText = stored;
+    return Tree::Instance()->CreateValue(at, descriptor);
+}
+
+inline ValueBase* MakeNumber(ValueKind kind, const QString& stored, double minimum, double maximum, double step = 1.0)
+{
+    ValueBase* value = Make(path, kind, stored);
+    ValueDescriptor& descriptor = s_descriptors.back();
+    descriptor.minimum = minimum;
+    descriptor.maximum = maximum;
+    descriptor.step = step;
+    return value;
+}
+
+class Counter : public IObserver
+{
+public:
+    explicit Counter(std::function<void()> then = {}) : m_then(std::move(then)) {}
+    void Update(Observable*, TChangeCode code) override
+    {
+        if (code != ccContent)
+            return;
+        ++count;
+        if (m_then)
+            m_then();
+    }
+    int count = 0;
+
+private:
+    std::function<void()> m_then;
+};
+
+// A window with the widget under test and another field to go to.
+struct Window : QWidget
+{
+    Window()
+    {
+        auto* box = new QVBoxLayout(this);
+        panel = new QWidget(this);
+        new QVBoxLayout(panel);
+        other = new QLineEdit(this);
+        box->addWidget(panel);
+        box->addWidget(other);
+    }
+    ~Window() override { delete panel; }
+    template <class W> W* Add(W* widget)
+    {
+        panel->layout()->addWidget(widget);
+        return widget;
+    }
+    void Open()
+    {
+        show();
+        activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(this));
+    }
+    QPointer<QWidget> panel;
+    QLineEdit* other;
+};
+
+inline void Wheel(QWidget* widget)
+{
+    const QPointF at = widget->rect().center();
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(widget, &event);
+}
+
+inline bool HasRedFrame(QWidget* widget)
+{
+    const QImage image = widget->grab().toImage();
+    const QColor edge = image.pixelColor(image.width() / 2, 1);
+    return edge.red() > 150 && edge.green() < 100;
+}
+
+// Each test leaves an empty tree.
+inline void CleanUp()
+{
+    Tree::Instance()->SetJournal({});
+    Tree::Instance()->Clear();
+    s_descriptors.clear();
+}
+
+} // namespace WidgetFixture
