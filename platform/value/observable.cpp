@@ -129,7 +129,6 @@ void Observable::NotifyMany(TChangeCode code, const IObserver* excluded)
     const Round round(*this);
     Crowd& crowd = round.crowd;
     const size_t count = crowd.observers.size();
-#pragma GCC unroll 4
     for (size_t i = 0; i < count; ++i)
     {
         IObserver* observer = crowd.observers[i];

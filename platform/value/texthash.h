@@ -43,11 +43,10 @@ inline quint64 HashOf(QStringView text)
     }
     else if (size >= 8)
         left = Mix(word(at) ^ a, word(at + size - 8) ^ left);
-    else if (size > 0)
+    else if (size > 0) // an empty text may have no data
     {
         quint64 rest = 0;
-        if (size > 0) // an empty text may have no data
-            std::memcpy(&rest, at, size);
+        std::memcpy(&rest, at, size);
         left = Mix(rest ^ a, left);
     }
     return Mix(left ^ c, right);
