@@ -1,5 +1,6 @@
 // Changing the demodulation (old panel deleted, new one built, shown and painted) against the same bare widgets.
 
+#include "baretwin.h"
 #include "harness.h"
 
 #include "analysis/demodulatordlg.h"
@@ -9,14 +10,9 @@
 #include "value/tree.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QTableWidget>
 
 using namespace TKE;
 
@@ -32,124 +28,6 @@ void Paint()
     QCoreApplication::processEvents();
 }
 
-// One widget of a panel, to be made again without a value behind it.
-struct Recipe
-{
-    enum Kind
-    {
-        Text,
-        Line,
-        Combo,
-        Check,
-        Number,
-        Table
-    } kind;
-    QString text;
-    QStringList items;
-    int current = 0, decimals = 0, frame = 0, row = 0, column = 0, rows = 1, columns = 1;
-    double value = 0, minimum = 0, maximum = 0;
-    Qt::Alignment alignment;
-    QSize fixed;
-};
-using Panel = std::vector<Recipe>;
-
-Panel Record(const QWidget& panel)
-{
-    Panel recipes;
-    auto* grid = qobject_cast<QGridLayout*>(panel.layout());
-    for (int i = 0; i < grid->count(); ++i)
-    {
-        QWidget* widget = grid->itemAt(i)->widget();
-        if (!widget)
-            continue;
-        Recipe recipe{};
-        grid->getItemPosition(i, &recipe.row, &recipe.column, &recipe.rows, &recipe.columns);
-        if (auto* label = qobject_cast<QLabel*>(widget))
-        {
-            recipe.kind = label->frameStyle() == 0 ? Recipe::Text : Recipe::Line;
-            recipe.text = label->text();
-            recipe.alignment = label->alignment();
-            recipe.frame = label->frameStyle();
-        }
-        else if (auto* combo = qobject_cast<QComboBox*>(widget))
-        {
-            recipe.kind = Recipe::Combo;
-            for (int item = 0; item < combo->count(); ++item)
-                recipe.items << combo->itemText(item);
-            recipe.current = combo->currentIndex();
-        }
-        else if (auto* check = qobject_cast<QCheckBox*>(widget))
-        {
-            recipe.kind = Recipe::Check;
-            recipe.text = check->text();
-            recipe.current = check->isChecked();
-        }
-        else if (auto* table = qobject_cast<QTableWidget*>(widget))
-        {
-            recipe.kind = Recipe::Table;
-            for (int row = 0; row < table->rowCount(); ++row)
-                recipe.items << table->item(row, 0)->text();
-            recipe.fixed = table->size();
-        }
-        else
-        {
-            recipe.kind = Recipe::Number;
-            recipe.value = widget->property("value").toDouble();
-            recipe.minimum = widget->property("minimum").toDouble();
-            recipe.maximum = widget->property("maximum").toDouble();
-            recipe.decimals = widget->property("decimals").toInt();
-        }
-        recipes.push_back(recipe);
-    }
-    return recipes;
-}
-
-QWidget* Make(const Recipe& recipe)
-{
-    switch (recipe.kind)
-    {
-    case Recipe::Text:
-    case Recipe::Line:
-    {
-        auto* label = new QLabel(recipe.text);
-        label->setFrameStyle(recipe.frame);
-        label->setAlignment(recipe.alignment);
-        return label;
-    }
-    case Recipe::Combo:
-    {
-        auto* combo = new QComboBox;
-        combo->addItems(recipe.items);
-        combo->setCurrentIndex(recipe.current);
-        return combo;
-    }
-    case Recipe::Check:
-    {
-        auto* check = new QCheckBox(recipe.text);
-        check->setChecked(recipe.current);
-        return check;
-    }
-    case Recipe::Table:
-    {
-        auto* table = new QTableWidget(int(recipe.items.size()), 1);
-        table->horizontalHeader()->hide();
-        table->verticalHeader()->hide();
-        for (int row = 0; row < recipe.items.size(); ++row)
-            table->setItem(row, 0, new QTableWidgetItem(recipe.items[row]));
-        table->setColumnWidth(0, table->sizeHint().width() - 15);
-        table->setFixedSize(recipe.fixed);
-        return table;
-    }
-    case Recipe::Number:
-        break;
-    }
-    auto* spin = new QDoubleSpinBox;
-    spin->setDecimals(recipe.decimals);
-    spin->setRange(recipe.minimum, recipe.maximum);
-    spin->setValue(recipe.value);
-    return spin;
-}
-
 Bench::Sides ChangeOfDemodulation()
 {
     static const auto model = JobModel::Load();
@@ -161,12 +39,12 @@ Bench::Sides ChangeOfDemodulation()
     dialog->BuildPanel();
     dialog->resize(800, 600);
     dialog->show();
-    std::vector<Panel> panels;
+    std::vector<BareTwin::Panel> panels;
     for (const char* name : names)
     {
         selection->SetFromText(QString::fromLatin1(name));
         Paint();
-        panels.push_back(Record(*dialog->findChild<DemodulatorPanel*>()));
+        panels.push_back(BareTwin::Record(dialog->findChild<DemodulatorPanel*>()->layout()));
     }
 
     // The yardstick's dialog has the same top row in the same frame, which stays.
@@ -202,13 +80,11 @@ Bench::Sides ChangeOfDemodulation()
         return Bench::Time(
             [&]
             {
-                for (const Panel& recipes : panels)
+                for (const BareTwin::Panel& recipes : panels)
                 {
                     delete *child;
                     *child = new QWidget(bare.get());
-                    auto* grid = new QGridLayout(*child);
-                    for (const Recipe& recipe : recipes)
-                        grid->addWidget(Make(recipe), recipe.row, recipe.column, recipe.rows, recipe.columns);
+                    BareTwin::Fill(*child, recipes);
                     (*child)->setGeometry(0, 40, 800, 560);
                     (*child)->show();
                     Paint();

@@ -1,4 +1,5 @@
-// Bound panels against the same bare Qt widgets: building, showing, deleting, heap, and changes that come through the tree.
+// Bound panels against the same bare Qt widgets: building, showing, deleting, heap, and changes that come through the
+// tree.
 
 #include "harness.h"
 
@@ -24,8 +25,14 @@ constexpr int manyTabs = 10;
 const QString basePath = QStringLiteral("/Jobs/Bench/Task/");
 const QStringList items{"100 Hz", "300 Hz", "600 Hz", "1 kHz", "2.7 kHz", "10 kHz"};
 
-QString LabelText(int i) { return QStringLiteral("Parameter %1 :").arg(i); }
-QString Key(const char* kind, int i) { return QStringLiteral("BENCH_PANEL_%1_%2").arg(QLatin1String(kind)).arg(i); }
+QString LabelText(int i)
+{
+    return QStringLiteral("Parameter %1 :").arg(i);
+}
+QString Key(const char* kind, int i)
+{
+    return QStringLiteral("BENCH_PANEL_%1_%2").arg(QLatin1String(kind)).arg(i);
+}
 
 ValueDescriptor Described(ValueKind kind, double minimum, double maximum, int precision)
 {
@@ -64,14 +71,19 @@ void FillTree()
 }
 
 // The i-th editor's place: three columns of label and editor.
-int Row(int i) { return i / 3; }
-int Column(int i) { return i % 3 * 2; }
+int Row(int i)
+{
+    return i / 3;
+}
+int Column(int i)
+{
+    return i % 3 * 2;
+}
 
 class BoundPanel : public ParameterDlg
 {
 public:
-    explicit BoundPanel(QWidget* parent)
-        : ParameterDlg(basePath, parent, QStringLiteral("BoundPanel"), false, true)
+    explicit BoundPanel(QWidget* parent) : ParameterDlg(basePath, parent, QStringLiteral("BoundPanel"), false, true)
     {
         SetTranslationNamespace("BoundPanel");
         for (int i = 0; i < labels; ++i)
@@ -87,7 +99,8 @@ public:
         for (int i = 0; i < spins; ++i)
             at([&](int row, int column) { AddIntSpinFromVT(Grid(), row, column, 1, 1, Key("SPIN", i), false, 1.0); });
         for (int i = 0; i < doubleSpins; ++i)
-            at([&](int row, int column) { AddFloatSpinFromVT(Grid(), row, column, 1, 1, Key("DOUBLE", i), 2, false, 1.0); });
+            at([&](int row, int column)
+               { AddFloatSpinFromVT(Grid(), row, column, 1, 1, Key("DOUBLE", i), 2, false, 1.0); });
         for (int i = 0; i < checks; ++i)
             at([&](int row, int column)
                { AddCheckBoxFromVT(Grid(), row, column, 1, 1, Key("CHECK", i), LabelText(i), false); });
@@ -340,8 +353,9 @@ int main(int argc, char** argv)
     FillTree();
 
     using Bench::Kind;
-    const auto pair = [](auto measure, int tabs)
-    { return [=] { return Bench::Sides{measure(BuildBound, tabs), measure(BuildBare, tabs)}; }; };
+    const auto pair = [](auto measure, int tabs) {
+        return [=] { return Bench::Sides{measure(BuildBound, tabs), measure(BuildBare, tabs)}; };
+    };
     Bench::Register({1, "build a bound panel", Kind::Share, 1.15, 1.06}, 200, pair(Building, 1));
     Bench::Register({2, "build, show, paint, delete: 1 tab", Kind::Share, 1.03, 0.90}, 100, pair(WholeLife, 1));
     Bench::Register({3, "build, show, paint, delete: 10 tabs", Kind::Share, 0.75, 0.62}, 40, pair(WholeLife, manyTabs));

@@ -19,6 +19,8 @@ namespace TKE
 namespace
 {
 
+constexpr qsizetype mostHints = 1000;
+
 std::string& DefaultTranslationNamespace()
 {
     static std::string ns;
@@ -230,6 +232,8 @@ QSize ParameterDlg::CachedHint(bool minimum) const
             return *found;
     }
     const QSize hint = minimum ? QWidget::minimumSizeHint() : QWidget::sizeHint();
+    if (hints.size() >= mostHints) // panels that rebuild parts of themselves look different each time
+        hints.clear();
     hints.insert(key, hint);
     return hint;
 }

@@ -33,7 +33,7 @@ void AlarmConditionsSPDlg::BuildPanel()
                  MATCHEDBURSTSWITHMODULATION_CHECK, MATCHEDBURSTSWITHMODULATION);
     AddCondition(5, QT_TR_NOOP(" Maximal percentage of time slots that contain no bursts > threshold :"),
                  TIMESLOTSWITHOUTBURST_CHECK, TIMESLOTSWITHOUTBURST);
-    Grid()->setColumnStretch(0, 3); // most of the room that is left is the questions'
+    Grid()->setColumnStretch(0, 10); // most of the room that is left is the questions'
 }
 
 // The switch stands under the full name of its key, the threshold under the key as it is.
@@ -44,11 +44,14 @@ void AlarmConditionsSPDlg::AddCondition(int row, const char* question, const QSt
     PanelRows threshold(*this, *Grid(), Binding::Raw);
     threshold.IntSpin({row, 2}, nullptr, thresholdKey, QT_TR_NOOP("%"));
     threshold.AccessibleName({row, 2}, question);
-    // The questions are long: they wrap.
+    // The questions are long: they wrap, the longest into two lines where that is possible.
     if (QLayoutItem* item = Grid()->itemAtPosition(row, 0))
     {
         if (auto* label = qobject_cast<QLabel*>(item->widget()))
+        {
             label->setWordWrap(true);
+            label->setMinimumWidth(50 * label->fontMetrics().averageCharWidth());
+        }
     }
 }
 
