@@ -3,6 +3,7 @@
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/alarmconditionsspdlg.h"
 #include "ipcparam/autorecordingdlg.h"
+#include "ipcparam/excitergeneraldlg.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/shorttimeprofiledlg.h"
 #include "ipcparam/shorttimeprofileheaderdlg.h"
@@ -81,6 +82,7 @@ constexpr DirectPanel directPanels[] = {
     {"SHORTTIMEPROFILE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Alarm conditions"), PANEL(AlarmConditionsSPDlg, node.path, parent)},
     {"SHORTTIMEPROFILE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Signal tracking"), PANEL(SigTrackingControlDlg, node.path, parent)},
     {"IPC_WAVECOM", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Decoder"), PANEL(WavecomDlg, node.path, parent, node.dataForm, false)},
+    {"IPC_EXCITER_GENERAL", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Exciter"), PANEL(ExciterGeneralDlg, node.path, false, false, parent, false)},
     {"IPC_HEADER_HF_AGSC", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Automatic recording"), PANEL(AutoRecordingDlg, node.path, parent, false, false)},
     {"IPC_HEADER_HF_AGSC", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Automatic recording of results"), PANEL(AutoRecordingDlg, node.path, parent, true, false)},
     {"IPC_HEADER_HF_AGSC", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Activity generation"), PANEL(ActivityGenerationDlg, node.path, parent, true, true, true, false)},

@@ -34,34 +34,36 @@ enum ExitStatus
     esUsage = 2,
 };
 
-QString tr(const char* text)
+/// Context of the texts below.
+class CommandLine
 {
-    return QCoreApplication::translate("JOBEDIT::CommandLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(JOBEDIT::CommandLine)
+};
 
 /// The arguments, read once without an application (to know which kind of application is needed) and once with it.
 struct Arguments
 {
     QCommandLineParser parser;
-    QCommandLineOption help{{"h", "help"}, tr("Shows this help.")};
-    QCommandLineOption version{{"v", "version"}, tr("Shows the version.")};
-    QCommandLineOption out{"out", tr("render: directory that the pictures go into."), "DIR"};
-    QCommandLineOption entry{"entry", tr("render: only the dialogs of this entry point or panel."), "NAME"};
-    QCommandLineOption form{"form", tr("render: job (when absent) or standalone."), "FORM"};
-    QCommandLineOption language{"language", tr("Language of the texts and form of numbers, for example de."),
-                                "LANGUAGE"};
+    QCommandLineOption help{{"h", "help"}, CommandLine::tr("Shows this help.")};
+    QCommandLineOption version{{"v", "version"}, CommandLine::tr("Shows the version.")};
+    QCommandLineOption out{"out", CommandLine::tr("render: directory that the pictures go into."), "DIR"};
+    QCommandLineOption entry{"entry", CommandLine::tr("render: only the dialogs of this entry point or panel."),
+                             "NAME"};
+    QCommandLineOption form{"form", CommandLine::tr("render: job (when absent) or standalone."), "FORM"};
+    QCommandLineOption language{
+        "language", CommandLine::tr("Language of the texts and form of numbers, for example de."), "LANGUAGE"};
 
     Arguments()
     {
         parser.setApplicationDescription(
-            tr("Edits the parameters of the processing chains of jobs.\n\n"
-               "  jobedit [FILE]              edits a job; without a file a new one from the sample\n"
-               "  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]\n"
-               "                              writes a picture of every tab of the dialogs\n"
-               "  jobedit check FILE...       checks files; exit status 1 when one has an error"));
+            CommandLine::tr("Edits the parameters of the processing chains of jobs.\n\n"
+                            "  jobedit [FILE]              edits a job; without a file a new one from the sample\n"
+                            "  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]\n"
+                            "                              writes a picture of every tab of the dialogs\n"
+                            "  jobedit check FILE...       checks files; exit status 1 when one has an error"));
         parser.addOptions({help, version, out, entry, form, language});
-        parser.addPositionalArgument("command", tr("render or check."), "[render|check]");
-        parser.addPositionalArgument("files", tr("Job files."), "[FILE...]");
+        parser.addPositionalArgument("command", CommandLine::tr("render or check."), "[render|check]");
+        parser.addPositionalArgument("files", CommandLine::tr("Job files."), "[FILE...]");
     }
 
     QString Command() const
@@ -77,20 +79,21 @@ struct Arguments
         const QString command = Command();
         const QStringList files = Files();
         if (command == "check" && files.isEmpty())
-            return tr("check needs a file.");
+            return CommandLine::tr("check needs a file.");
         if (command != "check" && files.size() > 1)
-            return tr("One job at a time: %1 files are given.").arg(files.size());
+            return CommandLine::tr("One job at a time: %1 files are given.").arg(files.size());
         for (const QCommandLineOption* option : {&out, &entry, &form})
             if (parser.isSet(*option) && command != "render")
-                return tr("--%1 belongs to render.").arg(option->names().constFirst());
+                return CommandLine::tr("--%1 belongs to render.").arg(option->names().constFirst());
         if (command == "render" && parser.value(out).isEmpty())
-            return tr("render needs --out DIR.");
+            return CommandLine::tr("render needs --out DIR.");
         if (parser.isSet(entry) && !EntryNames().contains(parser.value(entry)))
-            return tr("There is no entry %1. There are: %2.").arg(parser.value(entry), EntryNames().join(", "));
+            return CommandLine::tr("There is no entry %1. There are: %2.")
+                .arg(parser.value(entry), EntryNames().join(", "));
         if (parser.isSet(form) && parser.value(form) != "job" && parser.value(form) != "standalone")
-            return tr("--form is job or standalone.");
+            return CommandLine::tr("--form is job or standalone.");
         if (parser.isSet(language) && QLocale(parser.value(language)).language() == QLocale::C)
-            return tr("%1 is no language.").arg(parser.value(language));
+            return CommandLine::tr("%1 is no language.").arg(parser.value(language));
         return {};
     }
 };
@@ -196,7 +199,7 @@ int RunCommandLine(int argc, char* argv[])
         return out << "jobedit " << QCoreApplication::applicationVersion() << '\n', esGood;
     if (const QString fault = parsed ? arguments.Fault() : parser.errorText(); !fault.isEmpty())
     {
-        errors << "jobedit: " << fault << '\n' << tr("jobedit --help tells more.") << '\n';
+        errors << "jobedit: " << fault << '\n' << CommandLine::tr("jobedit --help tells more.") << '\n';
         return esUsage;
     }
 
@@ -210,7 +213,9 @@ int RunCommandLine(int argc, char* argv[])
         { errors << report.text << (report.details.isEmpty() ? "" : ": ") << report.details << '\n'; });
     if (window)
     {
-        errors << tr("There is no display to open a window on. jobedit render writes the dialogs as pictures.") << '\n';
+        errors << CommandLine::tr(
+                      "There is no display to open a window on. jobedit render writes the dialogs as pictures.")
+               << '\n';
         return esFailed;
     }
     if (arguments.Command() == "check")

@@ -119,7 +119,8 @@ void DialogPane::Rebuild()
     if (!m_node)
         return ShowHint(tr("Select a node to see its parameters."));
     if (!HasDialog(*m_node))
-        return ShowHint(tr("%1 has no parameters of its own to edit. Select a node below it.").arg(m_node->name));
+        return ShowHint(
+            tr("%1 has no parameters of its own to edit. Select a node that is not dimmed.").arg(m_node->name));
 
     std::unique_ptr<QTabWidget> dialog = MakeDialog(*m_node, m_form, m_area->viewport());
     m_title->setText(dialog->windowTitle());

@@ -4,14 +4,13 @@
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
+#include "panelwindow.h"
 #include "recentfiles.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -19,13 +18,11 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeView>
-#include <QVBoxLayout>
 #include <algorithm>
 
 namespace JOBEDIT
@@ -268,7 +265,7 @@ void MainWindow::Slot_OnOpen()
 
 void MainWindow::Slot_OnReplaced()
 {
-    for (QDialog* panel : findChildren<QDialog*>("panel"))
+    for (PanelWindow* panel : findChildren<PanelWindow*>())
         panel->close();
     m_nodes->SetNodes(m_document->GetNodes());
 }
@@ -297,29 +294,8 @@ void MainWindow::FillPanelMenu()
     if (node)
         for (const DirectPanel* panel : FindDirectPanels(*node))
             m_panelMenu->addAction(QCoreApplication::translate("JOBEDIT::DirectPanels", panel->title), this,
-                                   [this, node = *node, panel] { OpenPanel(node, *panel); });
+                                   [this, node = *node, panel] { (new PanelWindow(node, *panel, this))->show(); });
     m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
-}
-
-void MainWindow::OpenPanel(const JobNode& node, const DirectPanel& panel)
-{
-    auto* window = new QDialog(this);
-    window->setObjectName("panel");
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowTitle(
-        tr("%1 - %2").arg(node.name, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
-    auto* area = new QScrollArea(window);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    QWidget* page = MakePanels(node, {&panel}, area->viewport()).release();
-    area->setWidget(page);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);
-    connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
-    auto* layout = new QVBoxLayout(window);
-    layout->addWidget(area);
-    layout->addWidget(buttons);
-    window->resize(page->sizeHint().expandedTo({500, 300}).boundedTo(size()) + QSize(40, 70));
-    window->show();
 }
 
 void MainWindow::MovePane(int step)

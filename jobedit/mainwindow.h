@@ -57,7 +57,6 @@ private:
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
-    void OpenPanel(const JobNode& node, const DirectPanel& panel);
     void MovePane(int step);
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.

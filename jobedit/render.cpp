@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 #include <QPixmap>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTabWidget>
 
 namespace JOBEDIT
@@ -29,8 +29,9 @@ public:
     {
         // Several nodes may be of one type: from the second on, they are told apart by their place in the job.
         const QString kind = QStringList{QLatin1StringView(entry), node.type, form}.join('_');
-        const QString place = m_kinds.contains(kind) ? node.path : QString();
-        m_kinds.insert(kind);
+        if (!m_kinds.contains(kind))
+            m_kinds.insert(kind, node.path);
+        const QString place = m_kinds.value(kind) == node.path ? QString() : node.path;
         dialog.setAttribute(Qt::WA_DontShowOnScreen);
         dialog.resize(dialog.sizeHint().expandedTo({775, 480}));
         dialog.show();
@@ -67,7 +68,7 @@ private:
     QString m_directory;
     QTextStream& m_out;
     QTextStream& m_errors;
-    QSet<QString> m_kinds; // of dialogs: entry, type and form
+    QHash<QString, QString> m_kinds; // entry, type and form of the dialogs: path of the first
     int m_count = 0;
     bool m_failed = false;
 };
@@ -78,10 +79,9 @@ bool Render(const std::vector<JobNode>& nodes, const RenderRequest& request, QTe
 {
     const auto wanted = [&](const char* name)
     { return request.entry.isEmpty() || request.entry == QLatin1StringView(name); };
-    const auto tr = [](const char* text) { return QCoreApplication::translate("JOBEDIT::Render", text); };
     if (!QDir().mkpath(request.directory))
     {
-        errors << tr("%1 could not be made.").arg(request.directory) << '\n';
+        errors << Pictures::tr("%1 could not be made.").arg(request.directory) << '\n';
         return false;
     }
     Pictures pictures(request.directory, out, errors);
@@ -96,10 +96,11 @@ bool Render(const std::vector<JobNode>& nodes, const RenderRequest& request, QTe
     }
     if (pictures.Count() == 0 && !pictures.Failed())
     {
-        errors << tr("The job has nothing to show for this.") << '\n';
+        errors << Pictures::tr("The job has nothing to show for this.") << '\n';
         return false;
     }
-    out << tr("%1 pictures in %2").arg(pictures.Count()).arg(QDir::toNativeSeparators(request.directory)) << '\n';
+    out << Pictures::tr("%1 pictures in %2").arg(pictures.Count()).arg(QDir::toNativeSeparators(request.directory))
+        << '\n';
     return !pictures.Failed();
 }
 

@@ -1,0 +1,32 @@
+#include "panelwindow.h"
+
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace JOBEDIT
+{
+
+PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent) : QDialog(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("%1 - %2").arg(node.path, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
+    auto* area = new QScrollArea(this);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(MakePanels(node, {&panel}, area->viewport()).release());
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // Return in a field commits the field; it does not close the window.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(area);
+    layout->addWidget(buttons);
+    const QSize frame(40, 70); // scroll bar, margins and buttons
+    resize(area->widget()->sizeHint().expandedTo({500, 300}).boundedTo({1200, 800}) + frame);
+}
+
+} // namespace JOBEDIT
