@@ -2,30 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
-    <name>JOBEDIT</name>
-    <message>
-        <source>jobedit --help tells more.</source>
-        <translation>jobedit --help sagt mehr.</translation>
-    </message>
-    <message>
-        <source>There is no display to open a window on. jobedit render writes the dialogs as pictures.</source>
-        <translation>Es gibt keinen Bildschirm für ein Fenster. jobedit render schreibt die Dialoge als Bilder.</translation>
-    </message>
-    <message>
-        <source>%1 could not be made.</source>
-        <translation>%1 konnte nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>The job has nothing to show for this.</source>
-        <translation>Der Auftrag hat dazu nichts zu zeigen.</translation>
-    </message>
-    <message>
-        <source>%1 pictures in %2</source>
-        <translation>%1 Bilder in %2</translation>
-    </message>
-</context>
-<context>
-    <name>JOBEDIT::Arguments</name>
+    <name>JOBEDIT::CommandLine</name>
     <message>
         <source>Shows this help.</source>
         <translation>Zeigt diese Hilfe.</translation>
@@ -100,6 +77,14 @@
         <source>%1 is no language.</source>
         <translation>%1 ist keine Sprache.</translation>
     </message>
+    <message>
+        <source>jobedit --help tells more.</source>
+        <translation>jobedit --help sagt mehr.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. jobedit render writes the dialogs as pictures.</source>
+        <translation>Es gibt keinen Bildschirm für ein Fenster. jobedit render schreibt die Dialoge als Bilder.</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::DialogPane</name>
@@ -124,12 +109,12 @@
         <translation>Wählen Sie einen Knoten, um seine Parameter zu sehen.</translation>
     </message>
     <message>
-        <source>%1 has no parameters of its own to edit. Select a node below it.</source>
-        <translation>%1 hat keine eigenen Parameter. Wählen Sie einen Knoten darunter.</translation>
-    </message>
-    <message>
         <source>There are no panels for %1 in this form.</source>
         <translation>Für %1 gibt es in dieser Form keine Felder.</translation>
+    </message>
+    <message>
+        <source>%1 has no parameters of its own to edit. Select a node that is not dimmed.</source>
+        <translation>%1 hat keine eigenen Parameter. Wählen Sie einen Knoten, der nicht abgeblendet ist.</translation>
     </message>
 </context>
 <context>
@@ -165,6 +150,10 @@
     <message>
         <source>Activity generation</source>
         <translation>Aktivitätserzeugung</translation>
+    </message>
+    <message>
+        <source>Exciter</source>
+        <translation>Erreger</translation>
     </message>
 </context>
 <context>
@@ -333,10 +322,6 @@
         <translation>&lt;h3&gt;Auftragseditor %1&lt;/h3&gt;&lt;p&gt;Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>%1 - %2</source>
-        <translation>%1 - %2</translation>
-    </message>
-    <message>
         <source>The new job</source>
         <translation>Der neue Auftrag</translation>
     </message>
@@ -355,6 +340,10 @@
     <message>
         <source>&amp;Overwrite</source>
         <translation>Ü&amp;berschreiben</translation>
+    </message>
+    <message>
+        <source>The entry &quot;%1&quot; was refused and is not saved</source>
+        <translation>Die Eingabe „%1“ wurde abgelehnt und ist nicht gespeichert</translation>
     </message>
 </context>
 <context>
@@ -405,6 +394,13 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>JOBEDIT::PanelWindow</name>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+</context>
+<context>
     <name>JOBEDIT::RecentFiles</name>
     <message>
         <source>Open &amp;Recent</source>
@@ -424,6 +420,18 @@ Typ: %2</translation>
     <message>
         <source>%1 could not be written.</source>
         <translation>%1 konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 could not be made.</source>
+        <translation>%1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The job has nothing to show for this.</source>
+        <translation>Der Auftrag hat dazu nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2</source>
+        <translation>%1 Bilder in %2</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1254,305 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::ExciterGeneralDlg</name>
+    <message>
+        <source>WDE Exciters</source>
+        <translation>WDE-Erreger</translation>
+    </message>
+    <message>
+        <source>Single channel detector</source>
+        <translation>Einzelkanaldetektor</translation>
+    </message>
+    <message>
+        <source>Raster channel detector</source>
+        <translation>Rasterkanaldetektor</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>Exciter mode :</source>
+        <translation>Erregerbetriebsart :</translation>
+    </message>
+    <message>
+        <source>Autostart</source>
+        <translation>Autostart</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ExciterSCUDlg</name>
+    <message>
+        <source>Output path :</source>
+        <translation>Ausgangspfad :</translation>
+    </message>
+    <message>
+        <source>Attenuation :</source>
+        <translation>Dämpfung :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Output filter :</source>
+        <translation>Ausgangsfilter :</translation>
+    </message>
+    <message>
+        <source>Level limit :</source>
+        <translation>Pegelgrenze :</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>Amplifier On/Off</source>
+        <translation>Verstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>Trigger :</source>
+        <translation>Auslöser :</translation>
+    </message>
+    <message>
+        <source>Settling time :</source>
+        <translation>Einschwingzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Receiver blanking</source>
+        <translation>Empfängeraustastung</translation>
+    </message>
+    <message>
+        <source>Blanking time :</source>
+        <translation>Austastzeit :</translation>
+    </message>
+    <message>
+        <source>µs</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>Remark :</source>
+        <translation>Bemerkung :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ExciterSMUDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>generator frequency</source>
+        <translation>Generatorfrequenz</translation>
+    </message>
+    <message>
+        <source>Level :</source>
+        <translation>Pegel :</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>RF output On/Off</source>
+        <translation>HF-Ausgang ein/aus</translation>
+    </message>
+    <message>
+        <source>Reference frequency :</source>
+        <translation>Referenzfrequenz :</translation>
+    </message>
+    <message>
+        <source>Start time :</source>
+        <translation>Startzeit :</translation>
+    </message>
+    <message>
+        <source>Modulation :</source>
+        <translation>Modulation :</translation>
+    </message>
+    <message>
+        <source>Modulation source :</source>
+        <translation>Modulationsquelle :</translation>
+    </message>
+    <message>
+        <source>Modulation depth :</source>
+        <translation>Modulationsgrad :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Deviation :</source>
+        <translation>Hub :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Symbol rate :</source>
+        <translation>Symbolrate :</translation>
+    </message>
+    <message>
+        <source>Bd</source>
+        <translation>Bd</translation>
+    </message>
+    <message>
+        <source>Tone frequency :</source>
+        <translation>Tonfrequenz :</translation>
+    </message>
+    <message>
+        <source>Message :</source>
+        <translation>Nachricht :</translation>
+    </message>
+    <message>
+        <source>Burst length :</source>
+        <translation>Burstlänge :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Burst pause :</source>
+        <translation>Burstpause :</translation>
+    </message>
+    <message>
+        <source>Burst count :</source>
+        <translation>Burstanzahl :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ExciterScanSettingsDlg</name>
+    <message>
+        <source>Start frequency [kHz] :</source>
+        <translation>Startfrequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Stop frequency [kHz] :</source>
+        <translation>Stoppfrequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>stop</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Step width [kHz] :</source>
+        <translation>Schrittweite [kHz] :</translation>
+    </message>
+    <message>
+        <source>step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>First memory channel :</source>
+        <translation>Erster Speicherkanal :</translation>
+    </message>
+    <message>
+        <source>Last memory channel :</source>
+        <translation>Letzter Speicherkanal :</translation>
+    </message>
+    <message>
+        <source>Dwell time :</source>
+        <translation>Verweilzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Pause :</source>
+        <translation>Pause :</translation>
+    </message>
+    <message>
+        <source>Direction :</source>
+        <translation>Richtung :</translation>
+    </message>
+    <message>
+        <source>Cycles :</source>
+        <translation>Durchläufe :</translation>
+    </message>
+    <message>
+        <source>Start time :</source>
+        <translation>Startzeit :</translation>
+    </message>
+    <message>
+        <source>Scan frequencies</source>
+        <translation>Suchlauffrequenzen</translation>
+    </message>
+    <message>
+        <source>Start frequency [MHz] :</source>
+        <translation>Startfrequenz [MHz] :</translation>
+    </message>
+    <message>
+        <source>Stop frequency [MHz] :</source>
+        <translation>Stoppfrequenz [MHz] :</translation>
+    </message>
+    <message>
+        <source>Step width [MHz] :</source>
+        <translation>Schrittweite [MHz] :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ExciterWDEDlg</name>
+    <message>
+        <source>Centre frequency :</source>
+        <translation>Mittenfrequenz :</translation>
+    </message>
+    <message>
+        <source>centre frequency</source>
+        <translation>Mittenfrequenz</translation>
+    </message>
+    <message>
+        <source>Bandwidth :</source>
+        <translation>Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Total level :</source>
+        <translation>Gesamtpegel :</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>Sample rate :</source>
+        <translation>Abtastrate :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Channel raster :</source>
+        <translation>Kanalraster :</translation>
+    </message>
+    <message>
+        <source>Active channels :</source>
+        <translation>Aktive Kanäle :</translation>
+    </message>
+    <message>
+        <source>Carrier phase :</source>
+        <translation>Trägerphase :</translation>
+    </message>
+    <message>
+        <source>Crest factor reduction</source>
+        <translation>Crestfaktorverminderung</translation>
+    </message>
+    <message>
+        <source>Reserved frequencies</source>
+        <translation>Gesperrte Frequenzen</translation>
+    </message>
+</context>
+<context>
     <name>TKE::FFTDataDlg</name>
     <message>
         <source>FFT length :</source>
@@ -1660,6 +1967,10 @@ Typ: %2</translation>
     <message>
         <source>A rule names &quot;%1&quot;, which is no parameter of the group</source>
         <translation>Eine Regel nennt „%1“, das kein Parameter der Gruppe ist</translation>
+    </message>
+    <message>
+        <source>Missing parameters: %1</source>
+        <translation>Fehlende Parameter: %1</translation>
     </message>
 </context>
 <context>
@@ -2305,6 +2616,322 @@ Typ: %2</translation>
     <message>
         <source>There is no item &quot;%1&quot;</source>
         <translation>Es gibt keinen Eintrag „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WDEExciterDlg</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Level reference :</source>
+        <translation>Pegelbezug :</translation>
+    </message>
+    <message>
+        <source>Burst length :</source>
+        <translation>Burstlänge :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Burst pause :</source>
+        <translation>Burstpause :</translation>
+    </message>
+    <message>
+        <source>Start time :</source>
+        <translation>Startzeit :</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Frequency [kHz] :</source>
+        <translation>Frequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>channel frequency</source>
+        <translation>Kanalfrequenz</translation>
+    </message>
+    <message>
+        <source>Level :</source>
+        <translation>Pegel :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Modulation :</source>
+        <translation>Modulation :</translation>
+    </message>
+    <message>
+        <source>Symbol rate :</source>
+        <translation>Symbolrate :</translation>
+    </message>
+    <message>
+        <source>Bd</source>
+        <translation>Bd</translation>
+    </message>
+    <message>
+        <source>Shift :</source>
+        <translation>Shift :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Message :</source>
+        <translation>Nachricht :</translation>
+    </message>
+    <message>
+        <source>Frequency [MHz] :</source>
+        <translation>Frequenz [MHz] :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WDERasterDetectorDlg</name>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Threshold mode :</source>
+        <translation>Art der Schwelle :</translation>
+    </message>
+    <message>
+        <source>Threshold absolute :</source>
+        <translation>Schwelle absolut :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Threshold relative :</source>
+        <translation>Schwelle relativ :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Integration time :</source>
+        <translation>Integrationszeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Min. signal duration :</source>
+        <translation>Min. Signaldauer :</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Start frequency [kHz] :</source>
+        <translation>Startfrequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Stop frequency [kHz] :</source>
+        <translation>Stoppfrequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>stop</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Channel spacing :</source>
+        <translation>Kanalabstand :</translation>
+    </message>
+    <message>
+        <source>Channel bandwidth :</source>
+        <translation>Kanalbandbreite :</translation>
+    </message>
+    <message>
+        <source>Excluded channels</source>
+        <translation>Ausgeschlossene Kanäle</translation>
+    </message>
+    <message>
+        <source>Start frequency [MHz] :</source>
+        <translation>Startfrequenz [MHz] :</translation>
+    </message>
+    <message>
+        <source>Stop frequency [MHz] :</source>
+        <translation>Stoppfrequenz [MHz] :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WDESimulationDlg</name>
+    <message>
+        <source>Emitter</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Duration :</source>
+        <translation>Dauer :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Noise level :</source>
+        <translation>Rauschpegel :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Fading seed :</source>
+        <translation>Startwert des Schwunds :</translation>
+    </message>
+    <message>
+        <source>Start time :</source>
+        <translation>Startzeit :</translation>
+    </message>
+    <message>
+        <source>Channel model :</source>
+        <translation>Kanalmodell :</translation>
+    </message>
+    <message>
+        <source>Fading</source>
+        <translation>Schwund</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Frequency [kHz] :</source>
+        <translation>Frequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Level :</source>
+        <translation>Pegel :</translation>
+    </message>
+    <message>
+        <source>Modulation :</source>
+        <translation>Modulation :</translation>
+    </message>
+    <message>
+        <source>Signal-to-noise ratio :</source>
+        <translation>Signal-Rausch-Abstand :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>On time :</source>
+        <translation>Ein-Zeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Off time :</source>
+        <translation>Aus-Zeit :</translation>
+    </message>
+    <message>
+        <source>Bearing :</source>
+        <translation>Peilwinkel :</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Frequency [MHz] :</source>
+        <translation>Frequenz [MHz] :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WDESingleChannelDetectorDlg</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Integration time :</source>
+        <translation>Integrationszeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Min. signal duration :</source>
+        <translation>Min. Signaldauer :</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Report level changes</source>
+        <translation>Pegeländerungen melden</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Frequency [kHz] :</source>
+        <translation>Frequenz [kHz] :</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Bandwidth :</source>
+        <translation>Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Threshold :</source>
+        <translation>Schwelle :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Hysteresis :</source>
+        <translation>Hysterese :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Frequency [MHz] :</source>
+        <translation>Frequenz [MHz] :</translation>
     </message>
 </context>
 <context>
