@@ -10,8 +10,17 @@
 #include "analysis/tdsheaderddcdlg.h"
 #include "analysis/tdsheadermsdlg.h"
 #include "analysis/tdsheaderwbdlg.h"
+#include "exciter/exciterscansettingsdlg.h"
+#include "exciter/exciterscudlg.h"
+#include "exciter/excitersmudlg.h"
+#include "exciter/exciterwdedlg.h"
+#include "exciter/wdeexciterdlg.h"
+#include "exciter/wderasterdetectordlg.h"
+#include "exciter/wdesimulationdlg.h"
+#include "exciter/wdesinglechanneldetectordlg.h"
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/autorecordingdlg.h"
+#include "ipcparam/excitergeneraldlg.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
 #include "keys/keys.h"
@@ -105,7 +114,8 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<TdsHeaderMSDlg>(h.m_baseItemPath, &h, h.m_readOnly); }},
         /*  5 */ {&F::ShowGeneral, Any, QT_TR_NOOP("General"), [](H& h) {
           return New<GeneralDlg>(h.m_baseItemPath, &h, h.m_readOnly, h.m_generalPanelOption); }},
-        /*  6 */ {&F::ShowExciterGeneral, Any, QT_TR_NOOP("General"), nullptr},
+        /*  6 */ {&F::ShowExciterGeneral, Any, QT_TR_NOOP("General"), [](H& h) {
+          return New<ExciterGeneralDlg>(h.m_baseItemPath, h.m_vuhf, false, &h, h.m_readOnly); }},
         /*  7 */ {&F::ShowAntenna, Any, QT_TR_NOOP("Antenna"), nullptr},
         /*  8 */ {&F::ShowSpectralZoom, Any, QT_TR_NOOP("General"), [](H& h) {
           return New<SpectralZoomDlg>(h.TdsItemPath(), &h, h.m_readOnly); }},
@@ -129,10 +139,14 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<TunerDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_jobContext, &h, h.m_readOnly); }},
         /* 20 */ {&F::ShowTunerVUHF, Any, QT_TR_NOOP("VUHF Tuner"), [](H& h) {
           return New<TunerVUHFDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_jobContext, &h, h.m_readOnly); }},
-        /* 21 */ {&F::ShowExciterSMU, Any, QT_TR_NOOP("SMU"), nullptr},
-        /* 22 */ {&F::ShowExciterSCU, Any, QT_TR_NOOP("SCU"), nullptr},
-        /* 23 */ {&F::ShowExciterWDE, Any, QT_TR_NOOP("WDE"), nullptr},
-        /* 24 */ {&F::ShowExciterScanSettings, Any, QT_TR_NOOP("ScanSettings"), nullptr},
+        /* 21 */ {&F::ShowExciterSMU, Any, QT_TR_NOOP("SMU"), [](H& h) {
+          return New<ExciterSMUDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 22 */ {&F::ShowExciterSCU, Any, QT_TR_NOOP("SCU"), [](H& h) {
+          return New<ExciterSCUDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 23 */ {&F::ShowExciterWDE, Any, QT_TR_NOOP("WDE"), [](H& h) {
+          return New<ExciterWDEDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 24 */ {&F::ShowExciterScanSettings, Any, QT_TR_NOOP("ScanSettings"), [](H& h) {
+          return New<ExciterScanSettingsDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
         /* 25 */ {&F::ShowTunerReceiver, Any, QT_TR_NOOP("Receiver Tuner"), nullptr},
         /* 26 */ {&F::ShowDemodulator, Any, QT_TR_NOOP("Demodulator"), [](H& h) {
           auto panel = std::make_unique<DemodulatorDlg>(h.m_baseItemPath, h.m_vuhf, &h, h.m_readOnly);
@@ -149,10 +163,15 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
         /* 31 */ {&F::ShowScan, Any, QT_TR_NOOP("Scan"), nullptr},
         /* 32 */ {&F::ShowWBRXScan, Any, QT_TR_NOOP("Scan"), nullptr},
         /* 33 */ {&F::ShowMemoryScan, Any, QT_TR_NOOP("Tuner"), nullptr},
-        /* 34 */ {&F::ShowRasterDetector, Any, QT_TR_NOOP("Rasterdetector"), nullptr},
-        /* 35 */ {&F::ShowSingleChannelDetector, Any, QT_TR_NOOP("Singlechanneldetector"), nullptr},
-        /* 36 */ {&F::ShowWDEExciter, Any, QT_TR_NOOP("Exciter"), nullptr},
-        /* 37 */ {&F::ShowWDESimulation, Any, QT_TR_NOOP("Simulation"), nullptr},
+        /* 34 */ {&F::ShowRasterDetector, Any, QT_TR_NOOP("Rasterdetector"), [](H& h) {
+          return New<WDERasterDetectorDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 35 */ {&F::ShowSingleChannelDetector, Any, QT_TR_NOOP("Singlechanneldetector"), [](H& h) {
+          return New<WDESingleChannelDetectorDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h,
+                                                  h.m_readOnly); }},
+        /* 36 */ {&F::ShowWDEExciter, Any, QT_TR_NOOP("Exciter"), [](H& h) {
+          return New<WDEExciterDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 37 */ {&F::ShowWDESimulation, Any, QT_TR_NOOP("Simulation"), [](H& h) {
+          return New<WDESimulationDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
         /* 38 */ {&F::ShowDetection, Job, QT_TR_NOOP("Detection"), [](H& h) {
           return New<DetectionDlg>(h.m_baseItemPath, h.m_vuhf, &h, h.m_readOnly); }},
         /* 39 */ {&F::ShowDetection, StandAlone, QT_TR_NOOP("Detection"), [](H& h) {

@@ -42,6 +42,10 @@ enum class Place
 class Parameter
 {
 public:
+    Parameter() = default;
+    /// Stands in for a parameter that the job model lacks: it has a key, no texts and no control.
+    explicit Parameter(const QString& uniqueName) : m_name(uniqueName), m_controlType(ControlType::Real) {}
+
     /// The key. "{n}" in it stands for the number of a channel.
     const QString& GetUniqueParameterName() const { return m_name; }
     const QString& GetLabel() const { return m_descriptor.label; }

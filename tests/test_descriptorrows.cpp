@@ -1,0 +1,330 @@
+#include "jobmodel/jobmodel.h"
+#include "keys/keymanager.h"
+#include "panelgrid.h"
+#include "valuewidgets/guicentral.h"
+#include "widgets/vclistboxnumeric.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+using namespace TKE;
+using PanelTest::basePath;
+using PanelTest::Place;
+
+namespace
+{
+
+// One parameter that a descriptor file with these attributes describes; the model stays.
+const JOBXMLGENERATOR::Parameter& Describe(const QByteArray& attributes)
+{
+    static QTemporaryDir directory;
+    static std::vector<std::shared_ptr<const JobModel>> models;
+    QFile file(directory.filePath(QString::number(models.size()) + QStringLiteral(".xml")));
+    if (file.open(QIODevice::WriteOnly))
+        file.write("<JobModel version=\"1\"><Group name=\"G\"><Parameter name=\"Key\" at=\"U\" label=\"Label\" "
+                   "description=\"Help\" " +
+                   attributes + "/></Group></JobModel>");
+    file.close();
+    models.push_back(JobModel::LoadFiles({file.fileName()}));
+    return *models.back()->GetGroups().at(0)->GetParameters().at(0);
+}
+
+QByteArray Frequency(const QByteArray& subControl = {})
+{
+    return "kind=\"frequency\" default=\"5000000\" control=\"6\"" +
+           (subControl.isEmpty() ? QByteArray() : " subControl=\"" + subControl + '"');
+}
+
+const QByteArray list = "kind=\"list\" default=\"3000000;5000000\" control=\"6\" rows=\"3\"";
+
+class RowPanel : public ParameterDlg
+{
+public:
+    explicit RowPanel(const QString& path = basePath, bool readOnly = false)
+        : ParameterDlg(path, nullptr, QStringLiteral("RowPanel"), readOnly, false)
+    {
+        SetTranslationNamespace("TKE::RowPanel");
+    }
+    // The row lies at (1, 2).
+    void Build(const Parameter& parameter, const BuildRowSettings& settings = {true, true, false, false})
+    {
+        BuildRow(Grid(), value, parameter, 1, 2, settings);
+    }
+    ValueObservingPtr<ValueBase> value{this};
+};
+
+ValueBase* Create(const QString& path, const JOBXMLGENERATOR::Parameter& parameter)
+{
+    return Tree::Instance()->CreateValue(path, parameter.GetValueDescriptor());
+}
+
+/// Translates every text of the row panel.
+struct Foreign : QTranslator
+{
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return qstrcmp(context, "TKE::RowPanel") == 0 ? QStringLiteral("~") + QString::fromUtf8(text) : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TestDescriptorRows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        Tree::Instance()->Clear();
+        KeyManager::Instance()->Clear();
+    }
+
+    void theControlTypePicksTheWidget_data()
+    {
+        QTest::addColumn<QByteArray>("attributes");
+        QTest::addColumn<QString>("widget"); // class; empty: none
+        QTest::addColumn<bool>("hasLabel");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("columns");
+        const auto row = [](const char* name, const QByteArray& attributes, const char* widget, bool hasLabel = true,
+                            int rows = 1, int columns = 1)
+        { QTest::newRow(name) << attributes << QString::fromUtf8(widget) << hasLabel << rows << columns; };
+
+        const QByteArray whole = "kind=\"int\" default=\"1\" ";
+        const QByteArray real = "kind=\"double\" default=\"1\" precision=\"2\" ";
+        const QByteArray time = "kind=\"datetime\" default=\"2024-01-15T08:00:00\" ";
+        row("combo", "kind=\"selection\" default=\"0\" control=\"0\"", "TKE::VCComboBoxClassic");
+        row("check box", "kind=\"bool\" default=\"true\" control=\"1\"", "TKE::VCCheckBox", false);
+        row("integer", whole + "control=\"2\"", "TKE::VCNumericFloatSpin");
+        row("integer, other sub-type", whole + "control=\"2\" subControl=\"2\"", "TKE::VCNumericFloatSpin");
+        row("integer as time", time + "control=\"2\" subControl=\"3\"", "TKE::VCDateTimeEdit");
+        row("float", real + "control=\"3\" number=\"float\"", "TKE::VCNumericFloatSpin");
+        row("double", real + "control=\"3\" number=\"double\"", "TKE::VCNumericFloatSpin");
+        row("real, neither float nor double", real + "control=\"3\" number=\"long\"", "");
+        row("text", "kind=\"text\" default=\"\" control=\"4\"", "TKE::VCLineEdit");
+        row("long", whole + "control=\"5\" number=\"long\"", "TKE::VCNumericFloatSpin");
+        row("number, integer", whole + "control=\"5\" number=\"integer\"", "TKE::VCNumericFloatSpin");
+        row("number as time", time + "control=\"5\" subControl=\"3\"", "TKE::VCDateTimeEdit");
+        row("number, neither long nor integer", real + "control=\"5\"", "");
+        row("frequency", Frequency(), "TKE::VCFrequency", true, 2, 3);
+        row("frequency 0", Frequency("0"), "TKE::VCFrequency", true, 2, 3);
+        row("frequency as plain text", Frequency("1"), "TKE::VCLineEdit");
+        row("frequency as text", Frequency("2"), "TKE::VCLineEdit", true, 1, 2);
+        row("frequency, other sub-type", Frequency("5"), "");
+    }
+    void theControlTypePicksTheWidget()
+    {
+        QFETCH(QByteArray, attributes);
+        QFETCH(QString, widget);
+        QFETCH(bool, hasLabel);
+        QFETCH(int, rows);
+        QFETCH(int, columns);
+        const auto& parameter = Describe(attributes + " panelUnit=\"unit\"");
+        Create(basePath + "Key", parameter);
+        RowPanel panel;
+        panel.Build(parameter);
+        const PanelTest::Grid grid(panel);
+
+        QCOMPARE(grid.TextAt(1, 2), hasLabel ? "Label" : "");
+        if (hasLabel)
+            QCOMPARE(grid.At(1, 2)->toolTip(), "Help");
+        QWidget* made = grid.At(1, 3);
+        QCOMPARE(made ? QString::fromUtf8(made->metaObject()->className()) : QString(), widget);
+        if (made)
+        {
+            QCOMPARE(grid.PlaceOf(made), (Place{1, 3, rows, columns}));
+            QCOMPARE(made->objectName(), "Key");
+            if (!hasLabel)
+                QCOMPARE(grid.TextAt(1, 3), "Label");
+        }
+        if (columns == 1)
+            QCOMPARE(grid.TextAt(1, 4), "unit"); // whatever became of the widget
+        QCOMPARE(panel.value.Get(), PanelTest::ValueOf("Key"));
+    }
+
+    void precisionsAndFramesAreThoseOfTheRow()
+    {
+        const auto decimals = [](const QByteArray& attributes)
+        {
+            const auto& parameter = Describe(attributes);
+            Create(basePath + "Key", parameter);
+            RowPanel panel;
+            panel.Build(parameter);
+            const int result = PanelTest::Grid(panel).At(1, 3)->property("decimals").toInt();
+            Tree::Instance()->Clear();
+            return result;
+        };
+        const QByteArray real = "kind=\"double\" default=\"1\" control=\"3\" ";
+        QCOMPARE(decimals(real + "number=\"float\" precision=\"1\""), 1);
+        QCOMPARE(decimals(real + "number=\"double\" precision=\"3\""), 3);
+        QCOMPARE(decimals("kind=\"int\" default=\"1\" control=\"5\" number=\"long\""), 0);
+
+        const auto hasFrame = [](const QByteArray& attributes)
+        {
+            RowPanel panel;
+            panel.Build(Describe(attributes));
+            return qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->hasFrame();
+        };
+        QVERIFY(!hasFrame("kind=\"text\" default=\"\" control=\"4\""));
+        QVERIFY(!hasFrame(Frequency("1")));
+        QVERIFY(hasFrame(Frequency("2")));
+    }
+
+    void frequenciesAsTextFollowTheUnitOfTheSettings()
+    {
+        const auto text = [](bool kiloHertz)
+        {
+            const auto& parameter = Describe(Frequency("2"));
+            Create(basePath + "Key", parameter);
+            RowPanel panel;
+            panel.Build(parameter, {true, true, false, kiloHertz});
+            QString shown = qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->text();
+            Tree::Instance()->Clear();
+            return QLocale().toDouble(shown);
+        };
+        QCOMPARE(text(true), 5000.0);
+        QCOMPARE(text(false), 5.0);
+    }
+
+    void aListOfFrequenciesHasNoLabelButAHeader_data()
+    {
+        QTest::addColumn<bool>("kiloHertz");
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<double>("first");
+        QTest::newRow("kHz") << true << "Label [kHz]" << 3000.0;
+        QTest::newRow("MHz") << false << "Label [MHz]" << 3.0;
+    }
+    void aListOfFrequenciesHasNoLabelButAHeader()
+    {
+        QFETCH(bool, kiloHertz);
+        QFETCH(double, first);
+        const auto& parameter = Describe(list);
+        Create(basePath + "Key", parameter);
+        RowPanel panel;
+        panel.Build(parameter, {true, true, false, kiloHertz});
+        const PanelTest::Grid grid(panel);
+        auto* table = qobject_cast<VCListBoxNumeric*>(grid.At(1, 2));
+        QVERIFY(table);
+        QCOMPARE(grid.PlaceOf(table), (Place{1, 2, 5, 2}));
+        QCOMPARE(table->columnCount(), 1);
+        QTEST(table->horizontalHeaderItem(0)->text(), "header");
+        QCOMPARE(table->columnWidth(0), 200);
+        QCOMPARE(QLocale().toDouble(table->item(0, 0)->text()), first);
+        QCOMPARE(grid.PathAt(1, 2), basePath + "Key");
+    }
+
+    void theDisplayUnitAdjustsUnlessItIsKept()
+    {
+        const auto& parameter = Describe(Frequency());
+        Create(basePath + "Key", parameter);
+        for (const bool keep : {true, false})
+        {
+            GuiCentral::Instance().SetFrequencyUnit(SuffixedDouble::Giga);
+            RowPanel panel;
+            panel.Build(parameter, {true, keep, false, false});
+            QCOMPARE(GuiCentral::Instance().GetFrequencyUnit(), keep ? SuffixedDouble::Giga : SuffixedDouble::Kilo);
+        }
+    }
+
+    void valuesAreFoundAtTheBasePathAndAbove_data()
+    {
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<bool>("search");
+        QTest::addColumn<bool>("rebase");
+        QTest::addColumn<bool>("isHeld");  // by the row
+        QTest::addColumn<bool>("isBound"); // by the widget
+        QTest::newRow("here") << "/J/T/P/Key" << true << false << true << true;
+        QTest::newRow("here, rebased") << "/J/T/P/Key" << true << true << true << true;
+        QTest::newRow("above") << "/J/T/Key" << true << false << true << false;
+        QTest::newRow("above, rebased") << "/J/T/Key" << true << true << true << true;
+        QTest::newRow("two levels above, rebased") << "/J/Key" << true << true << true << true;
+        QTest::newRow("below the root") << "/Key" << true << true << false << false;
+        QTest::newRow("mapped") << "/J/T/P/Full/Key" << false << false << true << true;
+        QTest::newRow("mapped, searched raw") << "/J/T/P/Full/Key" << true << false << false << false;
+        QTest::newRow("raw, looked up mapped") << "/J/T/P/Key" << false << false << false << false;
+        QTest::newRow("nowhere, rebased") << "/X/Key" << true << true << false << false;
+    }
+    void valuesAreFoundAtTheBasePathAndAbove()
+    {
+        QFETCH(QString, where);
+        QFETCH(bool, search);
+        QFETCH(bool, rebase);
+        QFETCH(bool, isHeld);
+        QFETCH(bool, isBound);
+        KeyManager::Instance()->Register(QStringLiteral("Key"), QStringLiteral("Full/Key"));
+        const auto& parameter = Describe("kind=\"int\" default=\"1\" control=\"2\"");
+        ValueBase* value = Create(where, parameter);
+        RowPanel panel;
+        panel.Build(parameter, {search, true, rebase, false});
+        QCOMPARE(panel.value.Get(), isHeld ? value : nullptr);
+        QCOMPARE(PanelTest::Grid(panel).PathAt(1, 3), isBound ? where : QString());
+        QCOMPARE(panel.GetBasePath(), basePath);
+    }
+
+    void anotherValueIsLetGoOf()
+    {
+        const auto& parameter = Describe("kind=\"int\" default=\"1\" control=\"2\"");
+        RowPanel panel;
+        panel.value = Tree::Instance()->CreateValue<BoolValue>(QStringLiteral("/X/Other"));
+        panel.Build(parameter);
+        QVERIFY(!panel.value);
+    }
+
+    void onlyTheToolTipOfAFrequencyIsTranslated()
+    {
+        Foreign translator;
+        QCoreApplication::installTranslator(&translator);
+        const auto check = [](const QByteArray& attributes, const QString& toolTip)
+        {
+            RowPanel panel;
+            panel.Build(Describe(attributes + " panelUnit=\"unit\""));
+            const PanelTest::Grid grid(panel);
+            QCOMPARE(grid.TextAt(1, 2), "~Label");
+            QCOMPARE(grid.At(1, 2)->toolTip(), toolTip);
+            QCOMPARE(grid.TextAt(1, 4), "~unit");
+        };
+        check("kind=\"int\" default=\"1\" control=\"2\"", "Help");
+        check("kind=\"text\" default=\"\" control=\"4\"", "Help");
+        check(Frequency("1"), "~Help");
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void aReadOnlyPanelLocksTheWidget()
+    {
+        for (const QByteArray& attributes : {QByteArray("kind=\"int\" default=\"1\" control=\"2\""), Frequency(), list})
+        {
+            const auto& parameter = Describe(attributes);
+            ValueBase* value = Create(basePath + "Key", parameter);
+            RowPanel panel(basePath, true);
+            panel.Build(parameter);
+            value->SetState(stDisabled);
+            value->SetState(stEnabled);
+            const PanelTest::Grid grid(panel);
+            QVERIFY(!(parameter.IsDoubleList() ? grid.At(1, 2) : grid.At(1, 3))->isEnabled());
+            Tree::Instance()->Clear();
+        }
+    }
+
+    void theLabelIsTheBuddyOfItsWidget()
+    {
+        RowPanel panel;
+        panel.Build(Describe(Frequency()));
+        const PanelTest::Grid grid(panel);
+        QVERIFY(grid.At(1, 3)->isAncestorOf(grid.LabelAt(1, 2)->buddy()));
+    }
+
+    void aStandInMakesAnEmptyRow()
+    {
+        RowPanel panel;
+        panel.Build(JOBXMLGENERATOR::Parameter(QStringLiteral("Key")));
+        const PanelTest::Grid grid(panel);
+        QCOMPARE(grid.TextAt(1, 2), QString());
+        QVERIFY(!grid.At(1, 3));
+    }
+};
+
+QTEST_MAIN(TestDescriptorRows)
+#include "test_descriptorrows.moc"

@@ -1,0 +1,251 @@
+#include "exciterfixture.h"
+#include "ipcparam/ipcparam.h"
+#include "jobmodel/jobfile.h"
+#include "valuewidgets/vcfrequency.h"
+
+#include <QTest>
+
+using namespace ExciterTest;
+
+class TestExciterModes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { FillTree(); }
+    void cleanup() { Tree::Instance()->Clear(); }
+
+    void theModeDecidesOnTheSwitches_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("switches");
+        const std::array<const char*, 12> rows{"---- true", "---- false", "---- true", "+-+- true",
+                                               "+--+ true", "+--+ true",  "++-- true", "++-- true",
+                                               "---- true", "---- true",  "---- true", "---- true"};
+        for (int mode = 0; mode < int(rows.size()); ++mode)
+            QTest::addRow("%d", mode) << mode << QString::fromUtf8(rows[size_t(mode)]);
+    }
+    void theModeDecidesOnTheSwitches()
+    {
+        QFETCH(int, mode);
+        const Panel panel = Make("ExciterGeneralDlg");
+        QCOMPARE(Switches(), "+-+- true"); // the mode is 3
+        for (const int before : {1, 6, 5})
+        {
+            SetMode(before);
+            SetMode(mode);
+            QTEST(Switches(), "switches");
+        }
+        QCOMPARE(panel->GetExciterMode(), mode);
+        QCOMPARE(panel->IsScanMode(), mode >= 8 && mode <= 10);
+        QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
+
+        const Panel later = Make("ExciterGeneralDlg"); // on building, too
+        QTEST(Switches(), "switches");
+    }
+
+    void aModeThatIsNoSelectionCountsAsUnknown()
+    {
+        Tree::Instance()->RemoveValue(modePath);
+        auto* mode = Tree::Instance()->CreateValue<IntValue>(modePath);
+        mode->SetValue(1);
+        const auto panels = MakeAll();
+        QCOMPARE(Switches(), "---- true");
+        Switch(ExciterCheck)->SetState(stEnabled);
+        mode->SetValue(3);
+        QCOMPARE(Switches(), "---- true");
+        QCOMPARE(Disabled(), "RasterThresholdAbs ScuBlankingTime");
+        for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetExciterMode(), -1);
+            QVERIFY(!panel->IsScanMode());
+            QCOMPARE(panel->GetTitle(), QString());
+        }
+    }
+
+    void withoutModeNothingIsTouched()
+    {
+        Tree::Instance()->RemoveValue(modePath);
+        const QString before = Switches();
+        const auto panels = MakeAll();
+        QCOMPARE(Switches(), before);
+        QCOMPARE(Disabled(), QString());
+        for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetExciterMode(), -1);
+            QCOMPARE(panel->GetTitle(), QString());
+        }
+    }
+
+    void theUserMayClearASwitchUntilTheModeChanges()
+    {
+        const Panel panel = Make("ExciterGeneralDlg");
+        panel->show();
+        auto* box = panel->findChild<QCheckBox*>(QString(RasterDetectorCheck));
+        QVERIFY(box->isChecked() && box->isEnabled());
+        box->click();
+        QVERIFY(!Switch(RasterDetectorCheck)->GetBool());
+
+        panel->Update(Mode(), ccState);                 // another code
+        panel->Update(Switch(ExciterCheck), ccContent); // another value
+        QVERIFY(!Switch(RasterDetectorCheck)->GetBool());
+        SetMode(6);
+        QVERIFY(!box->isEnabled());
+        SetMode(3);
+        QVERIFY(box->isChecked() && box->isEnabled());
+    }
+
+    void theModeDecidesWhatCanBeEdited_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("disabled");
+        const QString always = QStringLiteral("RasterThresholdAbs ScuBlankingTime");
+        const QString wde = QStringLiteral("SmuDeviation SmuFrequency SmuMessage SmuModulation SmuModulationDepth "
+                                           "SmuModulationSource SmuSymbolRate SmuToneFrequency");
+        const QString memory = QStringLiteral("ExciterScanFirstMemory ExciterScanLastMemory");
+        const QString range = QStringLiteral("ExciterScanStartFrequency ExciterScanStepWidth ExciterScanStopFrequency");
+        const QString list = QStringLiteral("ExciterScanFrequencies");
+        const QString smu = QStringLiteral("SmuFrequency");
+        const QString scenario = QStringLiteral("WdeCenterFrequency WdeExciterRepeat");
+        const auto row = [&](int mode, const QStringList& more)
+        {
+            QStringList names = (QStringList(more) << always).join(u' ').split(u' ');
+            names.sort();
+            QTest::addRow("%d", mode) << mode << names.join(u' ');
+        };
+        for (const int mode : {0, 1, 2, 11})
+            row(mode, {});
+        for (const int mode : {3, 6, 7})
+            row(mode, {wde});
+        for (const int mode : {4, 5})
+            row(mode, {wde, scenario});
+        row(8, {smu, list, memory});
+        row(9, {smu, range, memory});
+        row(10, {smu, range, list});
+    }
+    void theModeDecidesWhatCanBeEdited()
+    {
+        QFETCH(int, mode);
+        const auto panels = MakeAll();
+        for (const int before : {2, 4, 8, 9, 10})
+        {
+            SetMode(before);
+            SetMode(mode);
+            QTEST(Disabled(), "disabled");
+        }
+        for (const Panel& panel : panels)
+            QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
+    }
+
+    void rulesFollowTheirOwnValue_data()
+    {
+        QTest::addColumn<QString>("panel");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QStringList>("texts");    // the stored content of the value ...
+        QTest::addColumn<QStringList>("disabled"); // ... and what it disables
+        QTest::newRow("blanking") << "ExciterSCUDlg" << QString(ScuBlanking) << QStringList{"true", "false"}
+                                  << QStringList{"", "ScuBlankingTime"};
+        // An unknown threshold mode leaves things as they are.
+        QTest::newRow("threshold") << "WDERasterDetectorDlg" << QString(RasterThresholdMode)
+                                   << QStringList{"0", "7", "1"}
+                                   << QStringList{"RasterThresholdRel", "RasterThresholdRel", "RasterThresholdAbs"};
+        QTest::newRow("fading") << "WDESimulationDlg" << QString(SimulationFading) << QStringList{"false", "true"}
+                                << QStringList{"SimulationChannelModel SimulationSeed", ""};
+    }
+    void rulesFollowTheirOwnValue()
+    {
+        QFETCH(QString, panel);
+        QFETCH(QString, key);
+        QFETCH(QStringList, texts);
+        QFETCH(QStringList, disabled);
+        ValueBase* source = PanelTest::ValueOf(key);
+        const Panel first = Make(panel);
+        for (qsizetype i = 0; i < texts.size(); ++i)
+        {
+            source->SetStoredText(texts[i]);
+            QCOMPARE(Disabled(), disabled[i]);
+        }
+        const Panel second = Make(panel); // the same at once
+        QCOMPARE(Disabled(), disabled.last());
+        Tree::Instance()->RemoveValue(basePath + key);
+        SetMode(5); // without the value there is no rule
+        QCOMPARE(Disabled(), disabled.last());
+    }
+
+    void rulesReachValuesAboveTheBasePath()
+    {
+        for (const auto key : {SmuFrequency, SmuMessage})
+            Tree::Instance()->RemoveValue(basePath + key);
+        PanelTest::Fill(QStringLiteral("G_EXC_SMU"), switchPath);
+        const Panel panel = Make("ExciterSMUDlg");
+        const auto state = [](QLatin1StringView key)
+        { return Tree::Instance()->FindValue(switchPath + key)->GetState(); };
+        QCOMPARE(state(SmuFrequency), stDisabled);
+        QCOMPARE(state(SmuMessage), stDisabled);
+        QCOMPARE(state(SmuModulation), stEnabled); // hidden by the one below
+        QCOMPARE(PanelTest::Grid(*panel).PathAt(6, 6), switchPath + SmuMessage);
+    }
+
+    void aModeSetWhileAnotherIsAppliedWins()
+    {
+        const auto panels = MakeAll();
+        Listener meddler([] { SetMode(7); });
+        Switch(RasterDetectorCheck)->Attach(&meddler);
+        SetMode(1);
+        QCOMPARE(Switches(), "++-- true");
+    }
+
+    void theModeDecidesOnTheTabsOfTheSample_data()
+    {
+        QTest::addColumn<bool>("isJob");
+        QTest::addColumn<int>("mode");
+        for (const bool isJob : {true, false})
+        {
+            for (int mode = -1; mode <= 11; ++mode)
+                QTest::addRow("%s %d", isJob ? "job" : "stand-alone", mode) << isJob << mode;
+        }
+    }
+    void theModeDecidesOnTheTabsOfTheSample()
+    {
+        QFETCH(bool, isJob);
+        QFETCH(int, mode);
+        JobFile job;
+        QVERIFY(job.LoadSample());
+        for (const QString set : {"/Jobs/Demo/TDS_EXC/", "/Jobs/Demo/TDS_EXC_SCAN/"})
+        {
+            if (mode == -1)
+                Tree::Instance()->RemoveValue(set + ExciterMode);
+            else
+                Tree::Instance()->FindValue(set + ExciterMode)->SetStoredText(QString::number(mode));
+            const QString task = set + "CS_EXC/EXCITER/";
+            std::vector<QString> resources;
+            const auto host =
+                isJob ? std::make_unique<IPCParam>(set + "CS_EXC/", task, resources, task, task, QString(), task,
+                                                   QStringLiteral("TKE"))
+                      : std::make_unique<IPCParam>(task, nullptr, false, false, false, task, QStringLiteral("TKE"));
+            host->ExciterDlg(1, set.contains("SCAN"));
+            QStringList tabs;
+            for (int i = 0; i < host->count(); ++i)
+                tabs << host->tabText(i);
+            QStringList wanted{"SMU", "SCU"};
+            if (mode >= 3 && mode <= 7)
+                wanted << "WDE";
+            if (mode >= 8 && mode <= 10)
+                wanted << "ScanSettings";
+            QCOMPARE(tabs, wanted);
+            for (int i = 0; i < host->count(); ++i)
+            {
+                for (QWidget* widget : host->widget(i)->findChildren<QWidget*>())
+                {
+                    // The parts of a frequency editor are its own business.
+                    const bool isPart = qobject_cast<VCFrequency*>(widget->parentWidget());
+                    const auto* link = isPart ? nullptr : dynamic_cast<ValueLink*>(widget);
+                    QVERIFY2(!link || link->GetBoundValue(), qPrintable(widget->objectName()));
+                }
+            }
+        }
+    }
+};
+
+QTEST_MAIN(TestExciterModes)
+#include "test_excitermodes.moc"

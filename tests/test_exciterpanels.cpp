@@ -1,0 +1,198 @@
+#include "application/cfgcenter.h"
+#include "application/errorhandler.h"
+#include "exciterfixture.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ExciterTest;
+using PanelTest::Place;
+
+class TestExciterPanels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { FillTree(); }
+    void cleanup()
+    {
+        Tree::Instance()->Clear();
+        CfgCenter::Instance()->SetDirectory(QString());
+    }
+
+    void aReadOnlyPanelStaysLockedAndAppliesNoRule()
+    {
+        const auto panels = MakeAll(true);
+        for (const int mode : {4, 9, 2, 3})
+        {
+            SetMode(mode);
+            QCOMPARE(Disabled(), QString());
+        }
+        PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
+        for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetTitle(), "WDE raster test");
+            for (QWidget* widget : panel->findChildren<QWidget*>())
+            {
+                if (dynamic_cast<ValueLink*>(widget))
+                    QVERIFY2(!widget->isEnabled(), qPrintable(panel->objectName() + ' ' + widget->objectName()));
+            }
+        }
+        // The mode has enabled the value itself.
+        QCOMPARE(Switch(ExciterCheck)->GetState(), stEnabled);
+    }
+
+    void everyRowIsBoundAndViewingWritesNothing_data()
+    {
+        QTest::addColumn<QStringList>("groups");
+        const auto row = [](const char* name, const char* group)
+        { QTest::newRow(name) << QStringList{QString::fromUtf8(group)}; };
+        QTest::newRow("ExciterGeneralDlg") << QStringList{"G_EXC_MODE", "G_EXC_CHECKS"};
+        row("ExciterSMUDlg", "G_EXC_SMU");
+        row("ExciterSCUDlg", "G_EXC_SCU");
+        row("ExciterWDEDlg", "G_EXC_WDE");
+        row("ExciterScanSettingsDlg", "G_EXC_SCAN");
+        row("WDEExciterDlg", "G_WDE_EXCITER");
+        row("WDERasterDetectorDlg", "G_WDE_RASTER");
+        row("WDESingleChannelDetectorDlg", "G_WDE_SINGLE");
+        row("WDESimulationDlg", "G_WDE_SIMULATION");
+    }
+    void everyRowIsBoundAndViewingWritesNothing()
+    {
+        QFETCH(QStringList, groups);
+        QStringList written;
+        Tree::Instance()->SetJournal([&](const JournalEntry& entry) { written << entry.value.GetPathName(); });
+        const Panel panel = Make(QString::fromUtf8(QTest::currentDataTag()));
+        panel->show();
+        Tree::Instance()->SetJournal({});
+        QCOMPARE(written, QStringList());
+        QCOMPARE(panel->objectName(), QString::fromUtf8(QTest::currentDataTag()));
+        QCOMPARE(panel->GetBasePath(), basePath);
+
+        QSet<QString> names = PanelTest::BoundNames(*panel);
+        for (const char* key : {"SmuFrequency", "WdeCenterFrequency"}) // not of the common kind of widget
+        {
+            if (panel->findChild<QWidget*>(key))
+                names << key;
+        }
+        QSet<QString> wanted;
+        for (const QString& group : groups)
+        {
+            for (const auto& parameter : JobModel::Load()->FindGroup(group, Band::Hf)->GetParameters())
+                wanted << parameter->GetUniqueParameterName();
+        }
+        QCOMPARE(names, wanted);
+    }
+
+    void channelsHaveTheirOwnValues()
+    {
+        Tree::Instance()->RemoveValue(basePath + "Channel2/WdeChannelLevel");
+        // Neither the one above nor the neighbour's serves instead.
+        Tree::Instance()->CreateValue<IntValue>(switchPath + "WdeChannelLevel");
+        const Panel panel = Make("WDEExciterDlg");
+        const PanelTest::Grid grid(*panel);
+        auto* area = panel->findChild<QScrollArea*>("WDE_CHANNELS");
+        QVERIFY(area && area->widgetResizable());
+        QCOMPARE(area->minimumHeight(), 220);
+        QCOMPARE(grid.PlaceOf(area), (Place{4, 0, 1, 6}));
+        QCOMPARE(grid.PlaceOfLine(QFrame::HLine), (Place{3, 0, 1, 6}));
+        const auto boxes = area->widget()->findChildren<QGroupBox*>();
+        QCOMPARE(boxes.size(), 2);
+        QCOMPARE(boxes[1]->title(), "Channel 2");
+        const PanelTest::Grid second(boxes[1]);
+        QCOMPARE(second.PathAt(1, 1), basePath + "Channel2/WdeChannelFrequency");
+        QCOMPARE(second.PathAt(2, 1), QString());
+        QCOMPARE(PanelTest::Grid(boxes[0]).PathAt(2, 1), basePath + "Channel1/WdeChannelLevel");
+    }
+
+    void channelsStandInTwoColumnsAndMayBeNone()
+    {
+        const Panel three = Make("WDERasterDetectorDlg", false, 3);
+        auto* area = three->findChild<QScrollArea*>("WDE_CHANNELS");
+        auto* groups = qobject_cast<QGridLayout*>(area->widget()->layout());
+        QCOMPARE(qobject_cast<QGroupBox*>(groups->itemAtPosition(1, 0)->widget())->title(), "Range 3");
+        QCOMPARE(qobject_cast<QGroupBox*>(groups->itemAtPosition(0, 1)->widget())->title(), "Range 2");
+        for (const int count : {0, -1})
+        {
+            const Panel none = Make("WDERasterDetectorDlg", false, count);
+            QVERIFY(!none->findChild<QScrollArea*>());
+            QCOMPARE(PanelTest::Grid(*none).PlaceOfLine(QFrame::HLine), Place{});
+        }
+    }
+
+    void aParameterSetThatCannotBeLoadedIsReportedAndThePanelsStand()
+    {
+        QTemporaryDir directory;
+        CfgCenter::Instance()->SetDirectory(directory.path());
+        const QString fileName = CfgCenter::Instance()->GetFileName("JobManagement", cfgSystem);
+        QDir().mkpath(QFileInfo(fileName).path());
+        QSettings(fileName, QSettings::IniFormat).setValue("JobModelXMLDir", directory.path());
+        QFile file(directory.filePath("exciter_hf.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<JobModel version=\"1\">\n<Group name=\"G_EXC_SMU\" band=\"HF\">\n<Parameter name=\"SmuLevel\" "
+                   "kind=\"double\" at=\"U\" default=\"0\" label=\"Power :\" description=\"d\" control=\"3\" "
+                   "number=\"double\"/>\n");
+        file.close();
+
+        ErrorHandler::Interface().Clear();
+        QStringList reports;
+        const auto subscription =
+            ErrorHandler::Interface().Subscribe([&](const ErrorReport& report) { reports << report.text; });
+        for (const QString& name : panelNames)
+        {
+            reports.clear();
+            const Panel panel = Make(name);
+            QCOMPARE(reports.size(), 1);
+            QVERIFY2(reports[0].contains("exciter_hf.xml:4:"), qPrintable(reports[0]));
+            QCOMPARE(panel->GetTitle(), "WDE raster test"); // the mode needs no descriptor
+            if (name == "ExciterSMUDlg")
+                QCOMPARE(PanelTest::Grid(*panel).TextAt(2, 0), "Power :");
+        }
+        SetMode(6);
+        QCOMPARE(Switches(), "+-+- true"); // of a panel that is gone
+        const Panel general = Make("ExciterGeneralDlg");
+        QCOMPARE(Switches(), "++-- true");
+    }
+
+    void valuesMayGoBeforeThePanels()
+    {
+        auto panels = MakeAll();
+        Tree::Instance()->RemoveBranch(switchPath);
+        SetMode(6);
+        Tree::Instance()->Clear();
+        for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetExciterMode(), -1);
+            panel->Update(nullptr, ccContent);
+        }
+    }
+
+    void aPanelMayGoWhileItAppliesTheMode()
+    {
+        // What hears of the change deletes the panel, whatever it writes first.
+        for (const auto key : switches)
+        {
+            SetMode(3);
+            Panel panel = Make("ExciterGeneralDlg");
+            Listener killer([&] { panel.reset(); });
+            Switch(key)->Attach(&killer);
+            SetMode(key == RasterDetectorCheck || key == SingleChannelDetectorCheck ? 6 : key == ExciterCheck ? 2 : 4);
+            QVERIFY(!panel);
+        }
+        SetMode(2);
+        Panel panel = Make("ExciterSMUDlg");
+        Listener killer([&] { panel.reset(); });
+        PanelTest::ValueOf(SmuModulation)->Attach(&killer);
+        SetMode(3);
+        QVERIFY(!panel);
+        panel = Make("ExciterSCUDlg");
+        Listener another([&] { panel.reset(); });
+        PanelTest::ValueOf(ScuBlankingTime)->Attach(&another);
+        PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
+        QVERIFY(!panel);
+    }
+};
+
+QTEST_MAIN(TestExciterPanels)
+#include "test_exciterpanels.moc"
