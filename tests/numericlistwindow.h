@@ -1,59 +1,42 @@
 #pragma once
 
-#include "value/tree.h"
+#include "widgetfixture.h"
 #include "widgets/vclistboxnumeric.h"
-
-#include <QTest>
-#include <QtWidgets>
 
 /// A numeric list as a person uses it, for its test programs.
 namespace NumericListTest
 {
 
-using namespace TKE;
+using namespace WidgetFixture;
 
-inline const QString path = QStringLiteral("/J/LIST");
 inline constexpr double megahertz = 1000000;
 
 /// A list of doubles from 9 kHz to 3 GHz.
 inline DoubleListValue* MakeList(const QString& stored)
 {
-    static const ValueDescriptor descriptor = []
-    {
-        ValueDescriptor list;
-        list.kind = ValueKind::DoubleList;
-        list.minimum = 9000;
-        list.maximum = 3000000000;
-        return list;
-    }();
-    auto* value = Tree::Instance()->CreateValue<DoubleListValue>(path, descriptor);
-    value->SetStoredText(stored);
-    return value;
+    return dynamic_cast<DoubleListValue*>(MakeNumber(ValueKind::DoubleList, stored, 9000, 3000000000));
 }
 
 /// A window with a table between two fields that can have the focus.
-struct Window : QWidget
+struct ListWindow : Window
 {
-    Window(int columns, int minRows, int maxRows, bool sorted, double factor)
-        : list(new VCListBoxNumeric(this, "list", columns, minRows, maxRows, sorted, {}, factor))
+    ListWindow(int columns, int minRows, int maxRows, bool sorted, double factor)
+        : before(Add(new QLineEdit(panel)))
+        , list(Add(new VCListBoxNumeric(panel, "list", columns, minRows, maxRows, sorted, {}, factor)))
     {
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(before);
-        layout->addWidget(list);
-        layout->addWidget(after);
         setTabOrder(before, list);
-        setTabOrder(list, after);
+        setTabOrder(list, other);
         list->SetList_ValuePath(path);
-        show();
-        activateWindow();
-        (void)QTest::qWaitForWindowActive(this);
+        Open();
         list->setFocus();
     }
 
-    QLineEdit* before = new QLineEdit(this);
+    QLineEdit* before;
     QPointer<VCListBoxNumeric> list;
-    QLineEdit* after = new QLineEdit(this);
 };
+
+/// Something that a person does in the window.
+using Way = std::function<void(const ListWindow&)>;
 
 inline QLineEdit* Editor(const VCListBoxNumeric* list)
 {
@@ -80,45 +63,36 @@ inline void Press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers 
     QCoreApplication::processEvents(); // Return is handled later
 }
 
-inline QString Shown(const VCListBoxNumeric* list)
+/// Types into the open editor and leaves it.
+inline void TypeAndLeave(const VCListBoxNumeric* list, const QString& text, Qt::Key key = Qt::Key_Return)
 {
-    QStringList rows;
-    for (int row = 0; row < list->rowCount(); ++row)
-    {
-        QStringList cells;
-        for (int column = 0; column < list->columnCount(); ++column)
-            cells << list->item(row, column)->text();
-        rows << cells.join('-');
-    }
-    return rows.join(' ');
+    QTest::keyClicks(Editor(list), text);
+    Press(Editor(list), key);
 }
 
-/// The menu that a click with the right button opens.
-inline QMenu* OpenMenu(QAbstractItemView* list)
+inline void Paste(VCListBoxNumeric* list, const QString& text)
+{
+    QApplication::clipboard()->setText(text);
+    Press(list, Qt::Key_V, Qt::ControlModifier);
+}
+
+inline QString Shown(const VCListBoxNumeric* list)
+{
+    QString rows;
+    for (int cell = 0; cell < list->rowCount() * list->columnCount(); ++cell)
+    {
+        const int column = cell % list->columnCount();
+        rows += (column > 0 ? "-" : " ") + list->item(cell / list->columnCount(), column)->text();
+    }
+    return rows.trimmed();
+}
+
+/// The actions of the menu that a click with the right button opens.
+inline QList<QAction*> OpenMenu(QAbstractItemView* list)
 {
     emit list->customContextMenuRequested({5, 5});
     const auto menus = list->findChildren<QMenu*>();
-    return menus.isEmpty() ? nullptr : menus.last();
+    return menus.isEmpty() ? QList<QAction*>() : menus.last()->actions();
 }
-
-/// Runs something on each change.
-class Listener : public IObserver
-{
-public:
-    explicit Listener(Observable* value, std::function<void()> reaction = {}) : m_reaction(std::move(reaction))
-    {
-        value->Attach(this);
-    }
-    void Update(Observable*, TChangeCode) override
-    {
-        ++heard;
-        if (m_reaction)
-            m_reaction();
-    }
-    int heard = 0;
-
-private:
-    std::function<void()> m_reaction;
-};
 
 } // namespace NumericListTest

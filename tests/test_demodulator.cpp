@@ -23,29 +23,25 @@ DemodulatorPanel* PanelOf(const DemodulatorDlg& dialog)
     return panels.size() == 1 ? panels.first() : nullptr;
 }
 
-/// Runs a function in each notification.
-class Listener : public IObserver
+/// Chooses a demodulation in each notification.
+struct Chooser : IObserver
 {
-public:
-    Listener(Observable* source, std::function<void()> reaction) : m_reaction(std::move(reaction))
-    {
-        source->Attach(this);
-    }
+    Chooser(Observable* source, const QString& name) : m_name(name) { source->Attach(this); }
     void Update(Observable*, TChangeCode code) override
     {
-        if (code == ccContent)
-            m_reaction();
+        if (code == ccContent && Demodulation()->GetText() != m_name)
+            Demodulation()->SetFromText(m_name);
     }
-
-private:
-    std::function<void()> m_reaction;
+    const QString m_name;
 };
 
+/// The dialog in view, with the keyboard.
 std::unique_ptr<DemodulatorDlg> Open(bool vuhf = false, bool readOnly = false)
 {
     auto dialog = std::make_unique<DemodulatorDlg>(basePath, vuhf, nullptr, readOnly);
     dialog->BuildPanel();
-    return dialog;
+    dialog->show();
+    return QTest::qWaitForWindowActive(dialog.get()) ? std::move(dialog) : nullptr;
 }
 
 } // namespace
@@ -62,14 +58,13 @@ private Q_SLOTS:
     {
         Demodulation()->SetFromText(QStringLiteral("McFSK"));
         const auto dialog = Open(false, true);
-        dialog->show();
-        const auto editors = EditorsOf(*PanelOf(*dialog));
-        QVERIFY(editors.size() > 5);
         for (const auto& value : Tree::Instance()->FindNode(basePath)->GetValues())
         {
             value->SetState(stDisabled);
             value->SetState(stEnabled);
         }
+        const auto editors = EditorsOf(*PanelOf(*dialog));
+        QVERIFY(editors.size() > 5);
         for (QWidget* editor : editors)
             QVERIFY2(!editor->isEnabled(), qPrintable(editor->objectName()));
         QVERIFY(!dialog->findChild<VCComboBoxClassic*>(Demodulation()->GetName())->isEnabled());
@@ -80,30 +75,24 @@ private Q_SLOTS:
         const auto dialog = Open();
         QCOMPARE(PanelOf(*dialog)->GetModulationTag(), "FSK");
         QCOMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 600, 400));
-        QCOMPARE(dialog->minimumSize(), QSize(600, 400));
-        QCOMPARE(PanelOf(*dialog)->parentWidget(), dialog.get());
-
         QPointer<DemodulatorPanel> old = PanelOf(*dialog);
         Demodulation()->SetFromText(QStringLiteral("ACARS HF"));
         QVERIFY(!old);
-        QCOMPARE(PanelOf(*dialog)->GetModulationTag(), "ACARS");
-
         old = PanelOf(*dialog);
-        dialog->Update(Demodulation(), ccContent); // told again without a new name
-        QVERIFY(!old);
-        old = PanelOf(*dialog);
+        QCOMPARE(old->GetModulationTag(), "ACARS");
         Demodulation()->SetState(stDisabled);
         dialog->Update(Demodulation(true), ccContent);
-        QVERIFY(old); // neither another code nor another value counts
+        QVERIFY(old);                              // neither another code nor another value counts
+        dialog->Update(Demodulation(), ccContent); // told again without a new name
+        QVERIFY(!old);
     }
 
-    void anUnknownNameLeavesTheTopRowAlone()
+    void withoutAKnownDemodulationThereIsNoPanel()
     {
         auto items = Demodulation()->GetItems();
         items.emplace_back(99, QStringLiteral("NEWER"));
         Demodulation()->SetItems(items);
         const auto dialog = Open();
-        dialog->show();
         Demodulation()->SelectKey(99);
         QVERIFY(!dialog->findChild<DemodulatorPanel*>());
         QCOMPARE(dialog->minimumSize(), QSize(600, 400));
@@ -111,14 +100,14 @@ private Q_SLOTS:
         QVERIFY(!dialog->findChild<DemodulatorPanel*>());
         Demodulation()->SetFromText(QStringLiteral("GMSK"));
         QVERIFY(PanelOf(*dialog) && PanelOf(*dialog)->isVisible());
+        Tree::Instance()->RemoveValue(basePath + Keys::DEMODULATOR_HF_DDC_MODTYPE);
+        QVERIFY(!Open()->findChild<DemodulatorPanel*>());
     }
 
     void theKeyboardWalksThroughAllDemodulations()
     {
         Demodulation()->SetFromText(AllNames().first());
         const auto dialog = Open();
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         auto* selector = dialog->findChild<VCComboBoxClassic*>(Demodulation()->GetName());
         selector->setFocus();
         for (const QString& name : AllNames().mid(1))
@@ -132,37 +121,23 @@ private Q_SLOTS:
         }
     }
 
-    void anObserverMayChangeTheSelectionAgain_data()
-    {
-        QTest::addColumn<bool>("before");
-        QTest::newRow("heard before the dialog") << true;
-        QTest::newRow("heard after the dialog") << false;
-    }
     void anObserverMayChangeTheSelectionAgain()
     {
-        QFETCH(bool, before);
-        std::optional<Listener> listener;
-        const auto attach = [&]
-        {
-            listener.emplace(Demodulation(),
-                             []
-                             {
-                                 if (Demodulation()->GetText() != u"MORSE")
-                                     Demodulation()->SetFromText(QStringLiteral("MORSE"));
-                             });
-        };
-        if (before)
-            attach();
+        std::optional<Chooser> before(std::in_place, Demodulation(), QStringLiteral("MORSE"));
         const auto dialog = Open();
-        dialog->show();
-        if (!before)
-            attach();
-        for (const QString& name : AllNames())
+        const auto check = [&]
         {
-            Demodulation()->SetFromText(name);
-            QVERIFY(PanelOf(*dialog));
-            QCOMPARE(PanelOf(*dialog)->GetModulationTag(), "MORSE");
-        }
+            for (const QString& name : AllNames())
+            {
+                Demodulation()->SetFromText(name);
+                QVERIFY(PanelOf(*dialog));
+                QCOMPARE(PanelOf(*dialog)->GetModulationTag(), "MORSE");
+            }
+        };
+        check(); // heard before the dialog
+        before.reset();
+        const Chooser after(Demodulation(), QStringLiteral("MORSE"));
+        check(); // and after it
     }
 
     void anEditInThePanelMayReplaceThePanel_data()
@@ -171,7 +146,6 @@ private Q_SLOTS:
         QTest::addColumn<QList<int>>("strokes");
         QTest::newRow("combo box") << "MODTYPE" << QList<int>{Qt::Key_Down};
         QTest::newRow("list of a combo box") << "MODTYPE" << QList<int>{Qt::Key_F4, Qt::Key_Down, Qt::Key_Return};
-        QTest::newRow("number by step") << "BAUDRATE" << QList<int>{Qt::Key_Up, Qt::Key_Return};
         QTest::newRow("number typed") << "BAUDRATE" << QList<int>{Qt::Key_7, Qt::Key_Tab};
         QTest::newRow("check box") << "EQUALIZERMODE" << QList<int>{Qt::Key_Space};
     }
@@ -181,11 +155,8 @@ private Q_SLOTS:
         QFETCH(QList<int>, strokes);
         Demodulation()->SetFromText(QStringLiteral("PSK"));
         const auto dialog = Open();
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         QPointer<QWidget> editor = EditorsOf(*PanelOf(*dialog)).value(key);
-        Listener listener(Tree::Instance()->FindValue(basePath + "DEMODULATOR_HF_DDC_PSK_" + key),
-                          [] { Demodulation()->SetFromText(QStringLiteral("FSK")); });
+        const Chooser chooser(Tree::Instance()->FindValue(basePath + "DEMODULATOR_HF_DDC_PSK_" + key), "FSK");
         editor->setFocus();
         for (const int stroke : strokes)
         {
@@ -203,7 +174,6 @@ private Q_SLOTS:
         QRandomGenerator random(20);
         const QStringList names = AllNames();
         const auto dialog = Open(true);
-        dialog->show();
         auto* selector = dialog->findChild<VCComboBoxClassic*>(Demodulation(true)->GetName());
         for (int round = 0; round < 1000; ++round)
         {
@@ -231,7 +201,6 @@ private Q_SLOTS:
     void valuesAndDialogGoInEitherOrder()
     {
         auto dialog = Open();
-        dialog->show();
         QPointer<DemodulatorPanel> panel = PanelOf(*dialog);
         Tree::Instance()->RemoveBranch(basePath);
         QVERIFY(panel);
@@ -245,20 +214,10 @@ private Q_SLOTS:
             QVERIFY2(!value->IsObserved(), qPrintable(value->GetName()));
     }
 
-    void withoutASelectionThereIsNoPanel()
-    {
-        Tree::Instance()->RemoveValue(basePath + Keys::DEMODULATOR_HF_DDC_MODTYPE);
-        const auto dialog = Open();
-        dialog->show();
-        QVERIFY(!dialog->findChild<DemodulatorPanel*>());
-    }
-
     void lookingAtEveryDemodulationWritesNothing()
     {
         QStringList written;
         const auto dialog = Open();
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         Tree::Instance()->SetJournal([&](const JournalEntry& entry) { written << entry.value.GetName(); });
         for (const QString& name : AllNames())
         {
@@ -274,17 +233,13 @@ private Q_SLOTS:
     {
         const auto dialog = Open();
         dialog->resize(1000, 700);
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-        QCOMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
+        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
         Demodulation()->SetFromText(QStringLiteral("PSK"));
         QCOMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
-        dialog->resize(1100, 750);
-        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1100, 710));
         dialog->hide();
         Demodulation()->SetFromText(QStringLiteral("ASK"));
         dialog->show();
-        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1100, 710));
+        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
     }
 
     void everyEditorCanBeReachedInASmallWindow_data()
@@ -292,7 +247,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("vuhf");
         QTest::newRow("many common rows") << "FSK" << true;
-        QTest::newRow("many rows of its own") << "MTONE" << true;
         QTest::newRow("a list") << "McPSK" << false;
     }
     void everyEditorCanBeReachedInASmallWindow()
@@ -305,8 +259,6 @@ private Q_SLOTS:
         large.setPointSize(18);
         dialog->setFont(large);
         dialog->resize(dialog->minimumSize());
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         DemodulatorPanel* panel = PanelOf(*dialog);
         const auto seen = [&](QWidget* editor)
         {
@@ -315,7 +267,7 @@ private Q_SLOTS:
                    dialog->rect().contains(place.translated(panel->pos()));
         };
         const auto editors = EditorsOf(*panel);
-        QVERIFY(!std::ranges::all_of(editors, seen));
+        QTRY_VERIFY(!std::ranges::all_of(editors, seen));
         for (QWidget* editor : editors)
         {
             editor->setFocus();

@@ -212,6 +212,7 @@ private slots:
         QCOMPARE(table->columnCount(), 1);
         QTEST(table->horizontalHeaderItem(0)->text(), "header");
         QCOMPARE(table->columnWidth(0), 200);
+        QTEST(table->accessibleName(), "header");
         QCOMPARE(QLocale().toDouble(table->item(0, 0)->text()), first);
         QCOMPARE(grid.PathAt(1, 2), basePath + "Key");
     }

@@ -18,16 +18,10 @@ inline const QLocale english(QLocale::English, QLocale::UnitedStates);
 
 inline std::deque<ValueDescriptor> s_descriptors;
 
-inline ValueDescriptor& Described(ValueKind kind)
+inline ValueBase* Make(const QString& at, ValueKind kind, const QString& stored)
 {
     ValueDescriptor& descriptor = s_descriptors.emplace_back();
     descriptor.kind = kind;
-    return descriptor;
-}
-
-inline ValueBase* Make(const QString& at, ValueKind kind, const QString& stored)
-{
-    ValueDescriptor& descriptor = Described(kind);
     if (kind == ValueKind::Selection)
         descriptor.items = {{0, "Off"}, {1, "On"}, {5, "Auto & more"}};
     descriptor.precision = 1;
@@ -63,6 +57,18 @@ private:
     std::function<void()> m_then;
 };
 
+// A widget that counts what it is told.
+template <class Widget> struct Heard : Widget
+{
+    using Widget::Widget;
+    void Update(Observable* source, TChangeCode code) override
+    {
+        codes.push_back(code);
+        Widget::Update(source, code);
+    }
+    std::vector<int> codes;
+};
+
 // A window with the widget under test and another field to go to.
 struct Window : QWidget
 {
@@ -87,9 +93,31 @@ struct Window : QWidget
         activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(this));
     }
+    // A new widget bound to `value`, in the open window and with the focus.
+    template <class W> W* Edit(ValueBase* value)
+    {
+        W* widget = Add(new W);
+        widget->Bind(value);
+        Open();
+        widget->setFocus();
+        return widget;
+    }
     QPointer<QWidget> panel;
     QLineEdit* other;
 };
+
+// Types over all that a field shows.
+template <class Field> void Type(Field* field, const QString& text)
+{
+    field->selectAll();
+    QTest::keyClicks(field, text);
+}
+
+template <class Field> void Enter(Field* field, const QString& text)
+{
+    Type(field, text);
+    QTest::keyClick(field, Qt::Key_Return);
+}
 
 inline void Wheel(QWidget* widget)
 {

@@ -98,6 +98,7 @@ void ParameterDlg::BuildRow(QGridLayout* grid, ValueObservingPtr<ValueBase>& val
                 AddListBoxFromVT(grid, row, column, listRows, listColumns, key, 1, 0, parameter.GetRowCount(), true, header,
                                  settings.kiloHertz ? hertzPerKiloHertz : hertzPerMegaHertz, fromBase);
             list->setColumnWidth(0, listColumnWidth);
+            list->setAccessibleName(header.first()); // no label names it
             break;
         }
         // The one row whose tool tip is translated.

@@ -11,6 +11,8 @@ class QLabel;
 namespace TKE
 {
 
+template <class Widget> class PeriodWidget;
+
 /// Edits a period of days: a start and a stop, each a text value that holds a date in ISO form.
 class VCDatePeriod : public QWidget, public IObserver
 {
@@ -33,11 +35,11 @@ private slots:
     void SlotStopDateValueChanged(const QDate& date);
 
 private:
+    friend class PeriodWidget<VCDatePeriod>;
+
     /// Shows the content of `value` in `edit`, or writes what `edit` shows into an empty value.
     void Load(TextValue* value, QDateEdit& edit);
     void Write(TextValue* value, const QDate& date);
-    void FollowState(TextValue*& value);
-    void Release();
 
     TextValue* m_startValue = nullptr;
     TextValue* m_stopValue = nullptr;

@@ -11,6 +11,8 @@ class QTimeEdit;
 namespace TKE
 {
 
+template <class Widget> class PeriodWidget;
+
 /// Edits a period of the day: a start and a stop, each a text value that holds a time as "hh:mm".
 class VCTimePeriod : public QWidget, public IObserver
 {
@@ -33,11 +35,11 @@ private slots:
     void SlotStopTimeValueChanged(const QTime& time);
 
 private:
+    friend class PeriodWidget<VCTimePeriod>;
+
     /// Shows the content of `value` in `edit`, or writes what `edit` shows into an empty value.
     void Load(TextValue* value, QTimeEdit& edit);
     void Write(TextValue* value, const QTime& time);
-    void FollowState(TextValue*& value);
-    void Release();
 
     TextValue* m_startValue = nullptr;
     TextValue* m_stopValue = nullptr;
