@@ -4,148 +4,89 @@
 #include "ipcparam/shorttimeprofiledlg.h"
 #include "ipcparam/shorttimeprofileheaderdlg.h"
 #include "ipcparam/sigtrackingcontroldlg.h"
-#include "jobmodel/jobmodel.h"
 #include "keys/keymanager.h"
 #include "keys/keys.h"
-#include "value/tree.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "panelgrid.h"
+#include "widgetfixture.h"
 
 using namespace TKE;
 using namespace Keys;
+using namespace PanelTest;
 
 namespace
 {
 
 const QString node = QStringLiteral("/J/T/");
-const QString panelPath = QStringLiteral("/J/T/P/");
 const QString fullName = QStringLiteral("Full/");
 
 using PanelPtr = std::unique_ptr<ParameterDlg>;
 
+// `options` are what the constructor takes before the flag for read-only, which not every panel has.
+template <class Dlg, auto... options> PanelPtr Make(bool readOnly)
+{
+    if constexpr (std::is_constructible_v<Dlg, QString, QWidget*, decltype(options)..., bool>)
+        return std::make_unique<Dlg>(basePath, nullptr, options..., readOnly);
+    else
+        return std::make_unique<Dlg>(basePath, nullptr);
+}
+
 // A panel, the group of values it shows and the node that they lie at.
 struct PanelKind
 {
-    const char* name;
-    const char* group;
-    const QString& valuesAt;
+    QString group;
     PanelPtr (*make)(bool readOnly);
-    QStringList absent = {}; // keys of the group that the panel does not show
+    const QString& valuesAt = basePath;
 };
 
-const std::array<PanelKind, 6> kinds{{
-    {"automatic recording",
-     "G_AUTOREC",
-     panelPath,
-     [](bool readOnly) -> PanelPtr { return std::make_unique<AutoRecordingDlg>(panelPath, nullptr, false, readOnly); },
-     {AUTORECORDING_RECORDRESULTS}},
-    {"activity generation", "G_ACTIVITY", node,
-     [](bool readOnly) -> PanelPtr
-     { return std::make_unique<ActivityGenerationDlg>(panelPath, nullptr, true, true, true, readOnly); }},
-    {"alarm conditions", "G_ALARM_SP", panelPath,
-     [](bool) -> PanelPtr { return std::make_unique<AlarmConditionsSPDlg>(panelPath, nullptr); }},
-    {"profile", "G_PROFILE", panelPath,
-     [](bool readOnly) -> PanelPtr { return std::make_unique<ShorttimeProfileDlg>(panelPath, nullptr, readOnly); }},
-    {"profile header", "G_PROFILE_HDR", panelPath,
-     [](bool readOnly) -> PanelPtr
-     { return std::make_unique<ShorttimeProfileHeaderDlg>(panelPath, nullptr, readOnly); }},
-    {"signal tracking", "G_TRACKING", panelPath,
-     [](bool) -> PanelPtr { return std::make_unique<SigTrackingControlDlg>(panelPath, nullptr); }},
-}};
-
-const PanelKind& KindOf(const char* group)
-{
-    return *std::ranges::find_if(kinds, [&](const PanelKind& kind) { return qstrcmp(kind.group, group) == 0; });
-}
+const PanelKind autoRecording{"G_AUTOREC", Make<AutoRecordingDlg, false>};
+const PanelKind activity{"G_ACTIVITY", Make<ActivityGenerationDlg, true, true, true>, node};
+const PanelKind alarmConditions{"G_ALARM_SP", Make<AlarmConditionsSPDlg>};
+const PanelKind profile{"G_PROFILE", Make<ShorttimeProfileDlg>};
+const PanelKind profileHeader{"G_PROFILE_HDR", Make<ShorttimeProfileHeaderDlg>};
+const PanelKind tracking{"G_TRACKING", Make<SigTrackingControlDlg>};
 
 const std::vector<std::unique_ptr<JOBXMLGENERATOR::Parameter>>& ParametersOf(const PanelKind& kind)
 {
     static const auto model = JobModel::Load();
-    return model->FindGroup(QString::fromLatin1(kind.group), Band::Hf)->GetParameters();
-}
-
-void Fill(const PanelKind& kind, const QString& prefix = {})
-{
-    for (const auto& parameter : ParametersOf(kind))
-        Tree::Instance()->CreateValue(kind.valuesAt + prefix + parameter->GetUniqueParameterName(),
-                                      parameter->GetValueDescriptor());
+    return model->FindGroup(kind.group, Band::Hf)->GetParameters();
 }
 
 // From now on the full name of a key of the group differs from the key, and both name a value.
 void MapAndFill(const PanelKind& kind)
 {
-    Fill(kind);
-    Fill(kind, fullName);
+    Fill(kind.group, kind.valuesAt);
+    Fill(kind.group, kind.valuesAt + fullName);
     for (const auto& parameter : ParametersOf(kind))
         KeyManager::Instance()->Register(parameter->GetUniqueParameterName(),
                                          fullName + parameter->GetUniqueParameterName());
 }
 
-ValueBase* ValueAt(const QString& path)
-{
-    return Tree::Instance()->FindValue(path);
-}
-
-// What is written while one of these lives: "path=content" each.
-struct Writes
-{
-    Writes()
-    {
-        Tree::Instance()->SetJournal([this](const JournalEntry& entry)
-                                     { list.append(entry.value.GetPathName() + u'=' + entry.after); });
-    }
-    ~Writes() { Tree::Instance()->SetJournal({}); }
-
-    QStringList list;
-};
-
-// Deletes a panel when it hears of a change.
-struct Killer : IObserver
-{
-    explicit Killer(PanelPtr& panel) : victim(panel) {}
-    void Update(Observable*, TChangeCode code) override
-    {
-        if (code == ccContent)
-            victim.reset();
-    }
-    PanelPtr& victim;
-};
-
-QGroupBox* GroupTitled(const QWidget& panel, const QString& title)
-{
-    for (QGroupBox* box : panel.findChildren<QGroupBox*>())
-    {
-        if (box->title() == title)
-            return box;
-    }
-    return nullptr;
-}
-
-void Press(const QWidget& panel, const QString& button)
-{
-    QTest::mouseClick(panel.findChild<QPushButton*>(button), Qt::LeftButton);
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(const PanelKind*)
 
 class TestRecordingPanels : public QObject
 {
     Q_OBJECT
 
-    void AddKinds()
+    QStringList m_written; // "path=content" each
+
+    void StartJournal()
+    {
+        m_written.clear();
+        Tree::Instance()->SetJournal([this](const JournalEntry& entry)
+                                     { m_written.append(entry.value.GetPathName() + u'=' + entry.after); });
+    }
+    void AddKinds(const QList<const PanelKind*>& kinds = {&autoRecording, &activity, &alarmConditions, &profile,
+                                                          &profileHeader, &tracking})
     {
         QTest::addColumn<const PanelKind*>("kind");
-        for (const PanelKind& kind : kinds)
-            QTest::newRow(kind.name) << &kind;
+        for (const PanelKind* kind : kinds)
+            QTest::newRow(qPrintable(kind->group)) << kind;
     }
 
 private Q_SLOTS:
     void cleanup()
     {
-        Tree::Instance()->Clear();
+        WidgetFixture::CleanUp();
         KeyManager::Instance()->Clear();
     }
 
@@ -159,51 +100,54 @@ private Q_SLOTS:
         {
             const QString key = parameter->GetUniqueParameterName();
             const auto widgets = panel->findChildren<QWidget*>(key);
-            QVERIFY2(widgets.size() == (kind->absent.contains(key) ? 0 : 1), qPrintable(key));
+            QVERIFY2(widgets.size() == (key == AUTORECORDING_RECORDRESULTS ? 0 : 1), qPrintable(key));
             if (widgets.isEmpty())
                 continue;
             const bool isMapped = parameter->GetPlace() == JOBXMLGENERATOR::Place::Mapped;
-            ValueBase* bound = ValueAt(kind->valuesAt + (isMapped ? fullName : QString()) + key);
-            ValueBase* other = ValueAt(kind->valuesAt + (isMapped ? QString() : fullName) + key);
+            ValueBase* bound = Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? fullName : QString()) + key);
             bound->SetState(stEnabled); // some values are disabled by their panel
-            other->SetState(stDisabled);
+            Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? QString() : fullName) + key)->SetState(stDisabled);
             QVERIFY2(widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
             bound->SetState(stDisabled);
             QVERIFY2(!widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
         }
     }
 
-    void viewingAPanelWritesNothing_data() { AddKinds(); }
-    void viewingAPanelWritesNothing()
+    void viewingAPanelWithAndWithoutValuesWritesNothingAndItOutlivesThem_data() { AddKinds(); }
+    void viewingAPanelWithAndWithoutValuesWritesNothingAndItOutlivesThem()
     {
         QFETCH(const PanelKind*, kind);
-        Fill(*kind);
-        const Writes writes;
-        PanelPtr panel = kind->make(false);
-        panel->show();
-        QVERIFY(QTest::qWaitForWindowActive(panel.get()));
-        for (int i = 0; i < 40; ++i)
-            QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : panel.get(), Qt::Key_Tab);
-        panel.reset();
-        QCOMPARE(writes.list, QStringList());
+        const PanelPtr unbound = kind->make(false);
+        Fill(kind->group, kind->valuesAt);
+        StartJournal();
+        const PanelPtr bound = kind->make(false);
+        for (ParameterDlg* panel : {bound.get(), unbound.get()})
+        {
+            panel->show();
+            QVERIFY(QTest::qWaitForWindowActive(panel));
+            for (int i = 0; i < 40; ++i)
+                QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : panel, Qt::Key_Tab);
+            QCOMPARE(m_written, QStringList());
+            Tree::Instance()->Clear();
+        }
+        bound->grab(); // while its values are gone
     }
 
     void aReadOnlyPanelStaysDisabledWhateverTheValuesSay_data()
     {
-        QTest::addColumn<const PanelKind*>("kind");
-        for (const char* group : {"G_AUTOREC", "G_ACTIVITY", "G_PROFILE", "G_PROFILE_HDR"})
-            QTest::newRow(group) << &KindOf(group);
+        AddKinds({&autoRecording, &activity, &profile, &profileHeader});
     }
     void aReadOnlyPanelStaysDisabledWhateverTheValuesSay()
     {
         QFETCH(const PanelKind*, kind);
-        Fill(*kind);
+        Fill(kind->group, kind->valuesAt);
         const PanelPtr panel = kind->make(true);
         for (const auto& parameter : ParametersOf(*kind))
         {
             const QString key = parameter->GetUniqueParameterName();
-            ValueAt(kind->valuesAt + key)->SetState(stDisabled);
-            ValueAt(kind->valuesAt + key)->SetState(stEnabled);
+            ValueBase* value = Tree::Instance()->FindValue(kind->valuesAt + key);
+            value->SetState(stDisabled);
+            value->SetState(stEnabled);
             if (const auto* widget = panel->findChild<QWidget*>(key))
                 QVERIFY2(!widget->isEnabledTo(panel.get()), qPrintable(key));
         }
@@ -211,30 +155,23 @@ private Q_SLOTS:
             QVERIFY(button->isEnabledTo(panel.get()));
     }
 
-    void aPanelWithoutValuesIsBuiltAndOutlivesItsValues_data() { AddKinds(); }
-    void aPanelWithoutValuesIsBuiltAndOutlivesItsValues()
+    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost_data() { AddKinds(); }
+    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost()
     {
         QFETCH(const PanelKind*, kind);
-        const PanelPtr unbound = kind->make(false);
-        Fill(*kind);
-        const PanelPtr bound = kind->make(false);
-        Tree::Instance()->Clear();
-        for (const PanelPtr& panel : {std::cref(unbound), std::cref(bound)})
-        {
-            panel->show();
-            QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
-        }
-    }
-
-    void everyEditorIsNamedForAssistiveTechnology_data() { AddKinds(); }
-    void everyEditorIsNamedForAssistiveTechnology()
-    {
-        QFETCH(const PanelKind*, kind);
-        Fill(*kind);
+        Fill(kind->group, kind->valuesAt);
         const PanelPtr panel = kind->make(false);
+        panel->resize(775, 480);
+        panel->show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
+        QCOMPARE(panel->size(), QSize(775, 480)); // a window cannot be smaller than its layout needs
         QSet<QWidget*> buddies;
         for (const QLabel* label : panel->findChildren<QLabel*>())
+        {
             buddies.insert(label->buddy());
+            QVERIFY2(!label->wordWrap() || label->height() >= label->heightForWidth(label->width()),
+                     qPrintable(label->text()));
+        }
         for (const auto& parameter : ParametersOf(*kind))
         {
             auto* widget = panel->findChild<QWidget*>(parameter->GetUniqueParameterName());
@@ -245,162 +182,103 @@ private Q_SLOTS:
         }
     }
 
-    void nothingIsCutAtTheSizeOfTheHost_data() { AddKinds(); }
-    void nothingIsCutAtTheSizeOfTheHost()
-    {
-        QFETCH(const PanelKind*, kind);
-        Fill(*kind);
-        const PanelPtr panel = kind->make(false);
-        panel->resize(775, 480);
-        panel->show();
-        QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
-        QCOMPARE(panel->size(), QSize(775, 480));
-        const QWidget* unplaced = GroupTitled(*panel, QStringLiteral("Detection Conventional"));
-        for (const QLabel* label : panel->findChildren<QLabel*>())
-        {
-            if (unplaced && label->parentWidget() == unplaced)
-                continue;
-            const int height = label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
-            QVERIFY2(label->height() >= height, qPrintable(label->text()));
-            QVERIFY2(label->wordWrap() || label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-        }
-    }
-
     void theReducedFormOffersTheResultsAndNoButton()
     {
-        Fill(KindOf("G_AUTOREC"));
-        const AutoRecordingDlg panel(panelPath, nullptr, true, false);
-        const auto boxes = panel.findChildren<QCheckBox*>();
-        QCOMPARE(boxes.size(), 1);
-        QTest::mouseClick(boxes.first(), Qt::LeftButton, {}, QPoint(8, boxes.first()->height() / 2));
-        QVERIFY(ValueAt(panelPath + AUTORECORDING_RECORDRESULTS)->GetBool());
+        Fill(autoRecording.group);
+        const AutoRecordingDlg panel(basePath, nullptr, true, false);
+        QTest::keyClick(panel.findChild<QCheckBox*>(), Qt::Key_Space);
+        QVERIFY(ValueOf(AUTORECORDING_RECORDRESULTS)->GetBool());
+        QCOMPARE(BoundNames(panel), QSet<QString>{AUTORECORDING_RECORDRESULTS});
         QVERIFY(panel.findChildren<QPushButton*>().isEmpty());
-        QVERIFY(panel.findChildren<QComboBox*>().isEmpty());
     }
 
-    void bothButtonsChooseFixedFrequencyMonitoringAndLeaveTheRestAlone_data()
+    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data()
     {
-        QTest::addColumn<QString>("button");
         QTest::addColumn<bool>("record");
-        QTest::newRow("select all") << QString(AUTORECORDING_RECORD_ALL) << true;
-        QTest::newRow("deselect all") << QString(AUTORECORDING_DESELECT_ALL) << false;
+        QTest::newRow("select all") << true;
+        QTest::newRow("deselect all") << false;
     }
-    void bothButtonsChooseFixedFrequencyMonitoringAndLeaveTheRestAlone()
+    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName()
     {
-        QFETCH(QString, button);
         QFETCH(bool, record);
-        Fill(KindOf("G_AUTOREC"));
-        const QStringList targets{AUTORECORDING_BITSTREAM, AUTORECORDING_DECODED_TEXT, AUTORECORDING_TRANSMISSION_SYS,
-                                  AUTORECORDING_FAX,       AUTORECORDING_AUDIO,        AUTORECORDING_AMREC};
-        ValueAt(panelPath + AUTORECORDING_FFM_OR_SCAN)->SetFromText(QStringLiteral("Scan"));
-        QStringList expected{panelPath + AUTORECORDING_FFM_OR_SCAN + QStringLiteral("=0")};
-        for (const QString& key : targets)
+        MapAndFill(autoRecording);
+        const QString button = record ? AUTORECORDING_RECORD_ALL : AUTORECORDING_DESELECT_ALL;
+        QStringList expected{basePath + (record ? QString() : fullName) + AUTORECORDING_FFM_OR_SCAN + "=0"};
+        for (const QString& at : {QString(), fullName})
+            ValueOf(at + AUTORECORDING_FFM_OR_SCAN)->SetFromText(QStringLiteral("Scan"));
+        for (const QString key : {AUTORECORDING_BITSTREAM, AUTORECORDING_DECODED_TEXT, AUTORECORDING_TRANSMISSION_SYS,
+                                  AUTORECORDING_FAX, AUTORECORDING_AUDIO, AUTORECORDING_AMREC})
         {
-            ValueAt(panelPath + key)->SetBool(!record);
-            expected.append(panelPath + key + (record ? QStringLiteral("=true") : QStringLiteral("=false")));
+            ValueOf(key)->SetBool(!record);
+            expected.append(basePath + key + (record ? "=true" : "=false"));
         }
-        const PanelPtr panel = KindOf("G_AUTOREC").make(false);
-        const Writes writes;
-        Press(*panel, button);
-        QCOMPARE(writes.list, expected);
-    }
-
-    void selectAllAddressesTheChoiceByKeyAndDeselectAllByFullName()
-    {
-        MapAndFill(KindOf("G_AUTOREC"));
-        ValueBase* raw = ValueAt(panelPath + AUTORECORDING_FFM_OR_SCAN);
-        ValueBase* mapped = ValueAt(panelPath + fullName + AUTORECORDING_FFM_OR_SCAN);
-        const auto scan = QStringLiteral("Scan");
-        raw->SetFromText(scan);
-        mapped->SetFromText(scan);
-        const PanelPtr panel = KindOf("G_AUTOREC").make(false);
-        Press(*panel, AUTORECORDING_RECORD_ALL);
-        QCOMPARE(raw->GetText(), QStringLiteral("FFM"));
-        QCOMPARE(mapped->GetText(), scan);
-        raw->SetFromText(scan);
-        Press(*panel, AUTORECORDING_DESELECT_ALL);
-        QCOMPARE(raw->GetText(), scan);
-        QCOMPARE(mapped->GetText(), QStringLiteral("FFM"));
+        const PanelPtr panel = autoRecording.make(false);
+        StartJournal();
+        QTest::mouseClick(panel->findChild<QPushButton*>(button), Qt::LeftButton);
+        QCOMPARE(m_written, expected);
     }
 
     void aPanelThatGoesDuringSelectAllWritesNoFurther()
     {
-        Fill(KindOf("G_AUTOREC"));
-        PanelPtr panel = KindOf("G_AUTOREC").make(false);
-        Killer killer(panel);
-        ValueAt(panelPath + AUTORECORDING_BITSTREAM)->Attach(&killer);
-        Press(*panel, AUTORECORDING_RECORD_ALL);
+        Fill(autoRecording.group);
+        PanelPtr panel = autoRecording.make(false);
+        WidgetFixture::Counter killer([&] { panel.reset(); });
+        ValueOf(AUTORECORDING_BITSTREAM)->Attach(&killer);
+        QTest::mouseClick(panel->findChild<QPushButton*>(AUTORECORDING_RECORD_ALL), Qt::LeftButton);
         QVERIFY(!panel);
-        QVERIFY(ValueAt(panelPath + AUTORECORDING_BITSTREAM)->GetBool());
-        QVERIFY(!ValueAt(panelPath + AUTORECORDING_FAX)->GetBool());
+        QVERIFY(ValueOf(AUTORECORDING_BITSTREAM)->GetBool());
+        QVERIFY(!ValueOf(AUTORECORDING_FAX)->GetBool());
     }
 
     void theFlagsChooseTheGroupsOfActivityGeneration_data()
     {
-        // Group and its row in column 0 (detectors) or 1; rows of the database group.
         QTest::addColumn<bool>("energy");
         QTest::addColumn<bool>("level");
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<QString>("right");
-        QTest::addColumn<int>("databaseRows");
-        QTest::newRow("none") << false << false << ""
-                              << "Database,Database" << 3;
-        QTest::newRow("level") << false << true << "Level"
-                               << "Session,Database,Database" << 2;
-        QTest::newRow("energy") << true << false << "Energy,DDem,Classifier"
-                                << "Session,Database,Database" << 6;
-        QTest::newRow("both") << true << true << "Level,Energy,DDem,Classifier"
-                              << "Session,Database,Database" << 6;
+        QTest::addColumn<bool>("conventional");
+        QTest::addColumn<QString>("groups"); // with the place of each
+        QTest::newRow("none") << false << false << false << "Database 0,1";
+        QTest::newRow("level") << false << true << true << "Level 0,0; Session 0,1; Database 1,1";
+        QTest::newRow("energy") << true << false << true
+                                << "Energy 0,0; Session 0,1; DDem 1,0; Database 1,1; Classifier 2,0";
+        QTest::newRow("both") << true << true << false
+                              << "Level 0,0; Session 0,1; Energy 1,0; Database 1,1; DDem 2,0; Classifier 3,0";
     }
     void theFlagsChooseTheGroupsOfActivityGeneration()
     {
         QFETCH(bool, energy);
         QFETCH(bool, level);
-        QFETCH(QString, left);
-        QFETCH(QString, right);
-        QFETCH(int, databaseRows);
-        Fill(KindOf("G_ACTIVITY"));
-        for (const bool conventional : {false, true})
+        QFETCH(bool, conventional);
+        QFETCH(QString, groups);
+        Fill(activity.group, node);
+        const ActivityGenerationDlg panel(basePath, nullptr, energy, level, conventional, false);
+        const Grid grid(panel);
+        QStringList titles;
+        for (int cell = 0; cell < 8; ++cell)
         {
-            const ActivityGenerationDlg panel(panelPath, nullptr, energy, level, conventional, false);
-            auto* grid = qobject_cast<QGridLayout*>(panel.findChild<QGroupBox*>()->layout());
-            const auto titlesOf = [&](int column)
-            {
-                QStringList titles;
-                for (int row = 0; row < grid->rowCount(); ++row)
-                {
-                    if (QLayoutItem* item = grid->itemAtPosition(row, column))
-                        titles.append(qobject_cast<QGroupBox*>(item->widget())->title());
-                }
-                return titles.join(u',');
-            };
-            QCOMPARE(titlesOf(0), left);
-            QCOMPARE(titlesOf(1), right);
-            auto* database = qobject_cast<QGridLayout*>(GroupTitled(panel, QStringLiteral("Database"))->layout());
-            QCOMPARE(database->rowCount(), databaseRows);
-            QCOMPARE(panel.findChildren<QWidget*>(SessionCloseTime).size(), 1);
-
-            const QGroupBox* detection = GroupTitled(panel, QStringLiteral("Detection Conventional"));
-            QCOMPARE(detection != nullptr, conventional);
-            if (detection)
-            {
-                QCOMPARE(detection->parentWidget(), &panel);
-                QCOMPARE(panel.layout()->indexOf(detection), -1);
-            }
+            if (const auto* box = qobject_cast<QGroupBox*>(grid.At(cell / 2, cell % 2)))
+                titles.append(QStringLiteral("%1 %2,%3").arg(box->title()).arg(cell / 2).arg(cell % 2));
         }
+        QCOMPARE(titles.join(QStringLiteral("; ")), groups);
+        QCOMPARE(panel.findChildren<QWidget*>(SessionCloseTime).size(), 1);
+        QCOMPARE(panel.findChild<QWidget*>(DbWriteClass) != nullptr, energy);
+
+        const auto* detection = panel.findChild<QWidget*>(DetConvMinBurstDuration);
+        QCOMPARE(detection != nullptr, conventional);
+        // Its group is a child of the panel outside of all layouts.
+        QVERIFY(!detection || detection->parentWidget()->parentWidget() == &panel);
+        QVERIFY(!detection || panel.layout()->indexOf(detection->parentWidget()) == -1);
     }
 
     void aProfileDisablesWhatIsShownOnlyAndNothingElse()
     {
-        const PanelKind& kind = KindOf("G_PROFILE");
-        Fill(kind);
-        const PanelPtr panel = kind.make(false);
+        Fill(profile.group);
+        const PanelPtr panel = profile.make(false);
         for (const char* key : {"USEBANDWIDTH", "USEFREQUENCY", "USEHOPSTEP", "USEHOPPINGRATE", "USEFREQUENCYSETTBL"})
-            ValueAt(panelPath + QLatin1String(key))->SetBool(false);
+            ValueOf(QLatin1String(key))->SetBool(false);
         QSet<QString> disabled;
-        for (const auto& parameter : ParametersOf(kind))
+        for (const auto& parameter : ParametersOf(profile))
         {
-            if (ValueAt(panelPath + parameter->GetUniqueParameterName())->GetState() == stDisabled)
+            if (ValueOf(parameter->GetUniqueParameterName())->GetState() == stDisabled)
                 disabled.insert(parameter->GetUniqueParameterName());
         }
         const QSet<QString> expected{FIRSTEDITDATETIME,  LASTEDITDATETIME, CREATINGOPERATOR,
@@ -410,33 +288,24 @@ private Q_SLOTS:
 
     void aBandwidthOfAProfileIsEnteredInMegahertzAndItsListInKilohertz()
     {
-        Fill(KindOf("G_PROFILE"));
-        const PanelPtr panel = KindOf("G_PROFILE").make(false);
+        Fill(profile.group);
+        const PanelPtr panel = profile.make(false);
         auto* edit = panel->findChild<QLineEdit*>(MINBANDWIDTH);
         QCOMPARE(edit->text().toDouble(), 0.0125);
         edit->selectAll();
         QTest::keyClicks(edit, QStringLiteral("0.025"));
         QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(ValueAt(panelPath + MINBANDWIDTH)->GetText(), QStringLiteral("25000"));
-        auto* table = panel->findChild<QTableWidget*>();
-        QVERIFY(table);
-        QCOMPARE(table->item(0, 0)->text().toDouble(), 30025.0);
+        QCOMPARE(ValueOf(MINBANDWIDTH)->GetText(), QStringLiteral("25000"));
+        QCOMPARE(panel->findChild<QTableWidget*>()->item(0, 0)->text().toDouble(), 30025.0);
     }
 
     void signalTrackingShowsOneValueAndDisablesTheOther()
     {
-        const PanelKind& kind = KindOf("G_TRACKING");
-        Fill(kind);
+        MapAndFill(tracking);
+        const PanelPtr panel = tracking.make(false);
         const QString key = SIGNALTRACKINGCONTROL_FREQUENCYRANGE;
-        {
-            const PanelPtr panel = kind.make(false);
-            QVERIFY(!panel->findChild<QComboBox*>(key)->isEnabledTo(panel.get()));
-            ValueAt(panelPath + key)->SetState(stEnabled);
-        }
-        MapAndFill(kind);
-        const PanelPtr panel = kind.make(false);
-        QCOMPARE(ValueAt(panelPath + key)->GetState(), stEnabled);
-        QCOMPARE(ValueAt(panelPath + fullName + key)->GetState(), stDisabled);
+        QCOMPARE(ValueOf(key)->GetState(), stEnabled);
+        QCOMPARE(ValueOf(fullName + key)->GetState(), stDisabled);
     }
 };
 

@@ -1,20 +1,18 @@
 #include "ipcparam/wavecomdlg.h"
-#include "jobmodel/jobmodel.h"
 #include "keys/keymanager.h"
 #include "keys/keys.h"
-#include "value/tree.h"
+#include "panelgrid.h"
 #include "valuewidgets/vccomboboxclassic.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "widgetfixture.h"
 
 using namespace TKE;
 using namespace Keys;
+using JOBXMLGENERATOR::Place;
+using PanelTest::basePath;
+using PanelTest::Grid;
 
 namespace
 {
-
-const QString basePath = QStringLiteral("/J/T/WAVECOM/");
 
 class OpenPanel : public WavecomDlg
 {
@@ -23,34 +21,18 @@ public:
     using WavecomDlg::GetItemPath;
 };
 
-// Where the values lie, by the form of the panel.
-QString PathOf(const JOBXMLGENERATOR::Parameter& parameter, bool dataNode)
-{
-    using JOBXMLGENERATOR::Place;
-    QString path = basePath;
-    if (dataNode && parameter.GetPlace() != Place::DataBeside)
-        path += QStringLiteral("Data/");
-    if (parameter.GetPlace() == Place::Demodulator)
-        path += WAVECOM_DEMODULATOR_HF + QStringLiteral("/");
-    return path + parameter.GetUniqueParameterName();
-}
-
 const std::vector<std::unique_ptr<JOBXMLGENERATOR::Parameter>>& Parameters()
 {
     static const auto model = JobModel::Load();
     return model->FindGroup(u"G_WAVECOM", Band::Hf)->GetParameters();
 }
 
-// Runs a function when it hears that a content has changed.
-struct Listener : IObserver
+// The combo box at the place of the mode (row 3) or of the mode type (row 4).
+VCComboBoxClassic* ComboAt(const OpenPanel& panel, int row)
 {
-    void Update(Observable*, TChangeCode code) override
-    {
-        if (code == ccContent && reaction)
-            reaction();
-    }
-    std::function<void()> reaction;
-};
+    const Grid data(Grid(panel).Group(QStringLiteral("Data")));
+    return qobject_cast<VCComboBoxClassic*>(data.At(row, 1));
+}
 
 } // namespace
 
@@ -59,43 +41,18 @@ class TestWavecom : public QObject
     Q_OBJECT
 
     bool m_dataNode = false;
+    QString m_data; // the node of most values, by the form of the panel
 
+    QString PathOf(const JOBXMLGENERATOR::Parameter& parameter) const
+    {
+        QString path = parameter.GetPlace() == Place::DataBeside ? basePath : m_data;
+        if (parameter.GetPlace() == Place::Demodulator)
+            path += WAVECOM_DEMODULATOR_HF + QStringLiteral("/");
+        return path + parameter.GetUniqueParameterName();
+    }
     ValueSelection* Mode() const
     {
-        return static_cast<ValueSelection*>(
-            Tree::Instance()->FindValue(basePath + (m_dataNode ? "Data/" : "") + WAVECOM_HF_MODE));
-    }
-    // The combo box at the place of the mode (row 3) or of the mode type (row 4).
-    static VCComboBoxClassic* ComboAt(const QWidget& panel, int row)
-    {
-        for (const QGroupBox* box : panel.findChildren<QGroupBox*>())
-        {
-            auto* grid = qobject_cast<QGridLayout*>(box->layout());
-            if (box->title() == QLatin1String("Data") && grid && grid->itemAtPosition(row, 1))
-                return qobject_cast<VCComboBoxClassic*>(grid->itemAtPosition(row, 1)->widget());
-        }
-        return nullptr;
-    }
-    static QString BoundPath(const VCComboBoxClassic& combo)
-    {
-        return combo.GetBoundValue() ? combo.GetBoundValue()->GetPathName() : QString();
-    }
-    QString ModeTypePath(const QString& key) const
-    {
-        return basePath + (m_dataNode ? "Data/" : "") + WAVECOM_DEMODULATOR_HF + u'/' + key;
-    }
-    static int ComboCount(const QWidget& panel) { return int(panel.findChildren<VCComboBoxClassic*>().size()); }
-
-    // The keys of the mode types in the order of the modes, whose own keys count from 1.
-    static QStringList ModeTypeKeys()
-    {
-        QStringList keys;
-        for (const auto& parameter : Parameters())
-        {
-            if (parameter->GetPlace() == JOBXMLGENERATOR::Place::Demodulator)
-                keys.append(parameter->GetUniqueParameterName());
-        }
-        return keys;
+        return static_cast<ValueSelection*>(Tree::Instance()->FindValue(m_data + WAVECOM_HF_MODE));
     }
 
 private Q_SLOTS:
@@ -109,53 +66,26 @@ private Q_SLOTS:
     {
         QFETCH_GLOBAL(bool, dataNode);
         m_dataNode = dataNode;
+        m_data = basePath + (dataNode ? "Data/" : "");
         for (const auto& parameter : Parameters())
-            Tree::Instance()->CreateValue(PathOf(*parameter, dataNode), parameter->GetValueDescriptor());
+            Tree::Instance()->CreateValue(PathOf(*parameter), parameter->GetValueDescriptor());
     }
     void cleanup()
     {
-        Tree::Instance()->Clear();
+        WidgetFixture::CleanUp();
         KeyManager::Instance()->Clear();
     }
 
     void everyEditorIsBoundToTheOneValueThatTheModelPutsThere()
     {
         const OpenPanel panel(m_dataNode);
+        QStringList bound;
+        for (const QWidget* widget : panel.findChildren<QWidget*>())
+            bound.append(Grid::PathOf(widget));
         for (const auto& parameter : Parameters())
         {
-            if (parameter->GetPlace() == JOBXMLGENERATOR::Place::Demodulator)
-                continue;
-            ValueBase* value = Tree::Instance()->FindValue(PathOf(*parameter, m_dataNode));
-            const auto stateOfAll = [&]
-            {
-                QList<bool> enabled;
-                for (const QWidget* widget : panel.findChildren<QWidget*>())
-                    enabled.append(widget->isEnabledTo(&panel));
-                return enabled;
-            };
-            const auto before = stateOfAll();
-            value->SetState(stDisabled);
-            const auto after = stateOfAll();
-            QCOMPARE(before.count(true) - after.count(true), 1);
-        }
-    }
-
-    void eachModeOfTheTreeBringsItsModeTypeAndDestroysTheOldBox()
-    {
-        const OpenPanel panel(m_dataNode);
-        const int boxes = ComboCount(panel);
-        Mode()->SelectKey(13);
-        int mode = 0;
-        for (const QString& key : ModeTypeKeys())
-        {
-            const QPointer<QWidget> old = ComboAt(panel, 4);
-            QVERIFY(Mode()->SelectKey(++mode));
-            QVERIFY(old.isNull());
-            QCOMPARE(BoundPath(*ComboAt(panel, 4)), ModeTypePath(key));
-            QCOMPARE(ComboCount(panel), boxes);
-            const auto labels = panel.findChildren<QLabel*>();
-            QVERIFY(
-                std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == ComboAt(panel, 4); }));
+            const QString path = PathOf(*parameter);
+            QVERIFY2(parameter->GetPlace() == Place::Demodulator || bound.count(path) == 1, qPrintable(path));
         }
     }
 
@@ -164,18 +94,24 @@ private Q_SLOTS:
         OpenPanel panel(m_dataNode);
         panel.show();
         QVERIFY(QTest::qWaitForWindowActive(&panel));
+        const auto boxes = panel.findChildren<VCComboBoxClassic*>().size();
         VCComboBoxClassic* mode = ComboAt(panel, 3);
         mode->setFocus();
         int key = 0;
-        for (const QString& modeType : ModeTypeKeys())
+        for (const auto& parameter : Parameters()) // the mode types stand in the order of the modes
         {
+            if (parameter->GetPlace() != Place::Demodulator)
+                continue;
             QCOMPARE(Mode()->GetCurrentKey(), ++key);
-            QCOMPARE(BoundPath(*ComboAt(panel, 4)), ModeTypePath(modeType));
-            QVERIFY(ComboAt(panel, 4)->isVisible());
-            QTest::keyClick(mode, Qt::Key_Down);
+            const QPointer<QWidget> box = ComboAt(panel, 4);
+            QVERIFY(box->isVisible());
+            QCOMPARE(Grid::PathOf(ComboAt(panel, 4)), PathOf(*parameter));
+            QCOMPARE(panel.findChildren<VCComboBoxClassic*>().size(), boxes);
+            QVERIFY(std::ranges::any_of(panel.findChildren<QLabel*>(),
+                                        [&](const QLabel* label) { return label->buddy() == box; }));
+            QTest::keyClick(mode, key < 13 ? Qt::Key_Down : Qt::Key_Home);
+            QVERIFY(box.isNull());
         }
-        for (int i = 0; i < 12; ++i)
-            QTest::keyClick(mode, Qt::Key_Up);
         QCOMPARE(Mode()->GetCurrentKey(), 1);
 
         QTest::keyClick(mode, Qt::Key_Tab);
@@ -184,33 +120,20 @@ private Q_SLOTS:
         QCOMPARE(static_cast<ValueSelection*>(ComboAt(panel, 4)->GetBoundValue())->GetCurrentKey(), 1);
     }
 
-    void aModeTypeBoxSurvivesItsOwnReplacementInTheMiddleOfAChoice_data()
-    {
-        QTest::addColumn<bool>("byList");
-        QTest::newRow("by key") << false;
-        QTest::newRow("by list") << true;
-    }
     void aModeTypeBoxSurvivesItsOwnReplacementInTheMiddleOfAChoice()
     {
-        QFETCH(bool, byList);
         OpenPanel panel(m_dataNode);
         panel.show();
         QVERIFY(QTest::qWaitForWindowActive(&panel));
         const QPointer<VCComboBoxClassic> old = ComboAt(panel, 4);
-        Listener rule; // who hears of the mode type changes the mode
-        rule.reaction = [&] { Mode()->SelectKey(2); };
+        WidgetFixture::Counter rule([&] { Mode()->SelectKey(2); }); // who hears of the mode type changes the mode
         old->GetBoundValue()->Attach(&rule);
         old->setFocus();
-        if (byList)
-        {
-            old->showPopup();
-            QTest::keyClick(old->view(), Qt::Key_Down);
-            QTest::keyClick(old->view(), Qt::Key_Return);
-        }
-        else
-            QTest::keyClick(old, Qt::Key_Down);
+        old->showPopup();
+        QTest::keyClick(old->view(), Qt::Key_Down);
+        QTest::keyClick(old->view(), Qt::Key_Return);
         QTRY_VERIFY(old.isNull());
-        QCOMPARE(BoundPath(*ComboAt(panel, 4)), ModeTypePath(WAVECOM_DEMODULATOR_HF_GRAPHIC_MODTYPE));
+        QVERIFY(Grid::PathOf(ComboAt(panel, 4)).endsWith(WAVECOM_DEMODULATOR_HF_GRAPHIC_MODTYPE));
         QCOMPARE(panel.focusWidget(), ComboAt(panel, 4));
     }
 
@@ -225,52 +148,34 @@ private Q_SLOTS:
         QCOMPARE(ComboAt(panel, 4), box);
     }
 
-    void aModeWithoutModeTypeGetsABoxThatIsBoundToNothing_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("other name") << "Pager";
-        QTest::newRow("other case") << "selcal";
-        QTest::newRow("unknown key") << QString();
-    }
     void aModeWithoutModeTypeGetsABoxThatIsBoundToNothing()
     {
-        QFETCH(QString, name);
-        if (!name.isNull())
-            Mode()->SetItems({SelectionItem(1, QStringLiteral("FSK")), SelectionItem(99, name)});
+        Mode()->SetItems({SelectionItem(1, QStringLiteral("FSK")), SelectionItem(2, QStringLiteral("selcal"))});
         const OpenPanel panel(m_dataNode);
-        QVERIFY(Mode()->SetStored("99"));
-        const VCComboBoxClassic* box = ComboAt(panel, 4);
-        QVERIFY(box);
-        QCOMPARE(box->GetBoundValue(), nullptr);
-        QCOMPARE(box->count(), 0);
-        QVERIFY(!box->isEnabled());
-        Mode()->SelectKey(1);
-        QVERIFY(ComboAt(panel, 4)->GetBoundValue());
+        for (const char* key : {"2", "99"}) // a name in another case, or no name
+        {
+            Mode()->SelectKey(1);
+            QVERIFY(ComboAt(panel, 4)->GetBoundValue());
+            QVERIFY(Mode()->SetStored(key));
+            const VCComboBoxClassic* box = ComboAt(panel, 4);
+            QVERIFY(box && !box->GetBoundValue());
+            QCOMPARE(box->count(), 0);
+            QVERIFY(!box->isEnabled());
+        }
     }
 
-    void theDataFormKeepsTwoValuesBesideItsNodeAndLooksUpTheRestInIt()
+    void theDataFormLooksUpItsValuesInTheNodeAndMapsTheOptionsOnly()
     {
-        OpenPanel panel(m_dataNode);
-        const QString data = m_dataNode ? QStringLiteral("Data/") : QString();
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_MODE), basePath + data + WAVECOM_HF_MODE);
-        const QString composite = WAVECOM_DEMODULATOR_HF + u'/' + WAVECOM_DEMODULATOR_VUHF_DIRECT_MODTYPE;
-        QCOMPARE(panel.GetItemPath(composite), basePath + data + composite);
-        // The box is bound beside the node, the look-up goes into it.
-        QCOMPARE(BoundPath(*ComboAt(panel, 0)), basePath + WAVECOM_HF_WORKFLOW);
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_WORKFLOW), basePath + data + WAVECOM_HF_WORKFLOW);
-        // The check box is bound in the node, the look-up goes beside it.
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_OPTIONCLASSIFIER), basePath + WAVECOM_HF_OPTIONCLASSIFIER);
-    }
-
-    void onlyThePlainFormMapsItsKeys()
-    {
-        for (const QLatin1StringView key : {WAVECOM_HF_MODE, WAVECOM_HF_WORKFLOW, WAVECOM_HF_OPTIONCLASSIFIER})
+        for (const QLatin1StringView key : {WAVECOM_HF_MODE, WAVECOM_HF_OPTIONCLASSIFIER})
             KeyManager::Instance()->Register(key, QStringLiteral("Full/") + key);
         OpenPanel panel(m_dataNode);
         const QString full = basePath + QStringLiteral("Full/");
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_MODE).startsWith(full), !m_dataNode);
-        QCOMPARE(BoundPath(*ComboAt(panel, 3)).isEmpty(), !m_dataNode);
+        QCOMPARE(panel.GetItemPath(WAVECOM_HF_MODE), (m_dataNode ? m_data : full) + WAVECOM_HF_MODE);
+        QCOMPARE(Grid::PathOf(ComboAt(panel, 3)).isEmpty(), !m_dataNode); // nothing is at the full name
         QCOMPARE(panel.GetItemPath(WAVECOM_HF_OPTIONCLASSIFIER), full + WAVECOM_HF_OPTIONCLASSIFIER);
+        QCOMPARE(panel.GetItemPath(WAVECOM_HF_WORKFLOW), m_data + WAVECOM_HF_WORKFLOW);
+        const QString composite = WAVECOM_DEMODULATOR_HF + u'/' + WAVECOM_DEMODULATOR_VUHF_DIRECT_MODTYPE;
+        QCOMPARE(panel.GetItemPath(composite), m_data + composite);
     }
 
     void aReadOnlyPanelLocksEveryNewBox()
@@ -284,31 +189,23 @@ private Q_SLOTS:
             box->GetBoundValue()->SetState(stEnabled);
             QVERIFY(!box->isEnabled());
         }
-        for (const auto* box : panel.findChildren<QCheckBox*>())
-            QVERIFY(!box->isEnabled());
     }
 
-    void aPanelMayGoWhileTheModeTellsOfItsChange_data()
-    {
-        QTest::addColumn<bool>("first");
-        QTest::newRow("before the panel hears") << true;
-        QTest::newRow("after it heard") << false;
-    }
     void aPanelMayGoWhileTheModeTellsOfItsChange()
     {
-        QFETCH(bool, first);
-        std::unique_ptr<OpenPanel> panel;
-        Listener killer;
-        killer.reaction = [&] { panel.reset(); };
-        if (first)
+        for (const bool isBeforeThePanelHears : {true, false})
+        {
+            Mode()->SelectKey(1);
+            std::unique_ptr<OpenPanel> panel;
+            WidgetFixture::Counter killer([&] { panel.reset(); });
+            if (isBeforeThePanelHears)
+                Mode()->Attach(&killer);
+            panel = std::make_unique<OpenPanel>(m_dataNode);
             Mode()->Attach(&killer);
-        panel = std::make_unique<OpenPanel>(m_dataNode);
-        Mode()->Attach(&killer);
-        panel->show();
-        QVERIFY(QTest::qWaitForWindowActive(panel.get()));
-        QTest::keyClick(ComboAt(*panel, 3), Qt::Key_Down);
-        QVERIFY(!panel);
-        QCOMPARE(Mode()->GetCurrentKey(), 2);
+            QTest::keyClick(ComboAt(*panel, 3), Qt::Key_Down);
+            QVERIFY(!panel);
+            QCOMPARE(Mode()->GetCurrentKey(), 2);
+        }
     }
 
     void panelAndModeGoInEitherOrder()
@@ -336,7 +233,6 @@ private Q_SLOTS:
             for (int i = 0; i < 20; ++i)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        Tree::Instance()->SetJournal({});
         QCOMPARE(writes, 0);
     }
 };
