@@ -11,7 +11,7 @@ class QLabel;
 namespace TKE
 {
 
-template <class Widget> class PeriodWidget;
+template <typename Widget> class PeriodWidget;
 
 /// Edits a period of days: a start and a stop, each a text value that holds a date in ISO form.
 class VCDatePeriod : public QWidget, public IObserver

@@ -11,7 +11,7 @@ class QTimeEdit;
 namespace TKE
 {
 
-template <class Widget> class PeriodWidget;
+template <typename Widget> class PeriodWidget;
 
 /// Edits a period of the day: a start and a stop, each a text value that holds a time as "hh:mm".
 class VCTimePeriod : public QWidget, public IObserver
