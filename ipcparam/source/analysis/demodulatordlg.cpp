@@ -68,7 +68,13 @@ void DemodulatorDlg::CreatePanel()
     if (isVisible()) // otherwise the size is not known before the dialog is shown
         PlacePanel();
     if (m_currentPanel)
+    {
+        // While the dialog is hidden the panel is not laid out yet, since its size will be another.
+        QLayout* layout = m_currentPanel->layout();
+        layout->setEnabled(isVisible());
         m_currentPanel->show();
+        layout->setEnabled(true);
+    }
 }
 
 void DemodulatorDlg::PlacePanel()
@@ -116,8 +122,11 @@ bool DemodulatorDlg::event(QEvent* event)
     {
     case QEvent::Resize:
     case QEvent::Show:
-    case QEvent::LayoutRequest:
         PlacePanel();
+        break;
+    case QEvent::LayoutRequest:
+        if (isVisible()) // a page behind others need not measure itself
+            PlacePanel();
         break;
     case QEvent::Wheel:
         m_scroller->Wheel(static_cast<QWheelEvent*>(event));
