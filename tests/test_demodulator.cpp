@@ -240,6 +240,7 @@ private Q_SLOTS:
         Demodulation()->SetFromText(QStringLiteral("ASK"));
         dialog->show();
         QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
+        QCOMPARE(PanelOf(*dialog)->layout()->geometry().size(), QSize(1000, 660)); // its rows have moved along
     }
 
     void everyEditorCanBeReachedInASmallWindow_data()
