@@ -36,12 +36,18 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     , m_messages(new MessageList(this))
     , m_splitter(new QSplitter(this))
     , m_messageDock(new QDockWidget(tr("Messages"), this))
+    , m_fileMenu(menuBar()->addMenu(tr("&File")))
+    , m_editMenu(menuBar()->addMenu(tr("&Edit")))
+    , m_nodeMenu(menuBar()->addMenu(tr("&Node")))
+    , m_viewMenu(menuBar()->addMenu(tr("&View")))
+    , m_toolsMenu(menuBar()->addMenu(tr("&Tools")))
+    , m_helpMenu(menuBar()->addMenu(tr("&Help")))
 {
     MakePanes();
-    MakeFileMenu();
-    MakeNodeMenu();
-    MakeViewMenu();
-    MakeHelpMenu();
+    FillFileMenu();
+    FillNodeMenu();
+    FillViewMenu();
+    m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
@@ -181,14 +187,9 @@ void MainWindow::MakePanes()
     statusBar();
 }
 
-QMenu* MainWindow::AddMenu(const QString& title) const
+void MainWindow::FillFileMenu()
 {
-    return menuBar()->addMenu(title);
-}
-
-void MainWindow::MakeFileMenu()
-{
-    QMenu* menu = AddMenu(tr("&File"));
+    QMenu* menu = m_fileMenu;
     menu->addAction(tr("&New from Sample"), QKeySequence::New, this, &MainWindow::NewFromSample);
     menu->addAction(tr("&Open..."), QKeySequence::Open, this, &MainWindow::Slot_OnOpen);
     auto* recent = new RecentFiles(menu);
@@ -201,9 +202,9 @@ void MainWindow::MakeFileMenu()
     menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
 
-void MainWindow::MakeNodeMenu()
+void MainWindow::FillNodeMenu()
 {
-    QMenu* menu = AddMenu(tr("&Node"));
+    QMenu* menu = m_nodeMenu;
     m_panelMenu = menu->addMenu(tr("Open &Panel"));
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::FillPanelMenu);
     connect(m_nodes, &NodePane::MenuRequested, this,
@@ -222,9 +223,9 @@ void MainWindow::MakeNodeMenu()
                     });
 }
 
-void MainWindow::MakeViewMenu()
+void MainWindow::FillViewMenu()
 {
-    QMenu* menu = AddMenu(tr("&View"));
+    QMenu* menu = m_viewMenu;
     auto* forms = new QActionGroup(menu);
     const auto addForm = [&](const QString& text, Qt::Key key, Form form)
     {
@@ -247,11 +248,6 @@ void MainWindow::MakeViewMenu()
     menu->addSeparator();
     menu->addAction(tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
     menu->addAction(tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this, [this] { MovePane(-1); });
-}
-
-void MainWindow::MakeHelpMenu()
-{
-    AddMenu(tr("&Help"))->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
 }
 
 void MainWindow::Slot_OnOpen()

@@ -37,6 +37,12 @@ public:
     bool SaveTo(const QString& fileName);
 
     JobDocument& Document() { return *m_document; }
+    /// The menus, for the actions that stand in files of their own.
+    QMenu* FileMenu() const { return m_fileMenu; }
+    QMenu* EditMenu() const { return m_editMenu; }
+    QMenu* NodeMenu() const { return m_nodeMenu; }
+    QMenu* ViewMenu() const { return m_viewMenu; }
+    QMenu* ToolsMenu() const { return m_toolsMenu; }
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
@@ -46,11 +52,9 @@ protected:
 
 private:
     void MakePanes();
-    void MakeFileMenu();
-    void MakeNodeMenu();
-    void MakeViewMenu();
-    void MakeHelpMenu();
-    QMenu* AddMenu(const QString& title) const;
+    void FillFileMenu();
+    void FillNodeMenu();
+    void FillViewMenu();
 
     void Slot_OnOpen();
     void Slot_OnReplaced();
@@ -74,6 +78,12 @@ private:
     MessageList* m_messages;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
+    QMenu* m_fileMenu;
+    QMenu* m_editMenu;
+    QMenu* m_nodeMenu;
+    QMenu* m_viewMenu;
+    QMenu* m_toolsMenu;
+    QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
     TKE::ErrorHandler::Subscription m_reports;
 };
