@@ -3,12 +3,19 @@
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/alarmconditionsspdlg.h"
 #include "ipcparam/autorecordingdlg.h"
+#include "ipcparam/dflocatedlg.h"
 #include "ipcparam/excitergeneraldlg.h"
 #include "ipcparam/ipcparam.h"
+#include "ipcparam/jobdlg.h"
+#include "ipcparam/joboptions.h"
+#include "ipcparam/resourcedlg.h"
 #include "ipcparam/shorttimeprofiledlg.h"
 #include "ipcparam/shorttimeprofileheaderdlg.h"
 #include "ipcparam/sigtrackingcontroldlg.h"
+#include "ipcparam/tkeoptions.h"
 #include "ipcparam/wavecomdlg.h"
+#include "keys/keys.h"
+#include "value/tree.h"
 
 #include <algorithm>
 
@@ -70,6 +77,30 @@ constexpr Chain chains[] = {
 
 #undef CALL
 
+/// A job is prepared here for whatever station it will run at, so nothing that a station may have is held back.
+const TKE::TKEOptions& AllOptions()
+{
+    static const TKE::TKEOptions options = []
+    {
+        TKE::TKEOptions all;
+        for (int resource = 0; resource < TKE::AvailableResources::ResourceCount; ++resource)
+            all.SetResource(resource, true);
+        for (int gate = 1; gate <= TKE::TKEOptions::GateCount; ++gate)
+            all.SetGate(gate, true);
+        for (int number = 1; number <= TKE::TKEOptions::SwitchCount; ++number)
+            all.SetSwitch(number, true);
+        return all;
+    }();
+    return options;
+}
+
+/// The kind of a resource is what its type says.
+TKE::JobOptions OptionsOf(const JobNode& resource)
+{
+    const TKE::ValueBase* type = TKE::Tree::Instance()->FindValue(resource.path + TKE::Keys::RESOURCE_TYPE);
+    return TKE::JobOptions(type ? type->GetText() : QString());
+}
+
 /// Name of a panel class and how it is made, with these arguments, for `node`.
 #define PANEL(panelClass, ...)                                                                                         \
 #panelClass,                                                                                                       \
@@ -77,6 +108,9 @@ constexpr Chain chains[] = {
 
 // clang-format off
 constexpr DirectPanel directPanels[] = {
+    {"JOB", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Job"), PANEL(JobDlg, node.path, AllOptions(), parent, false)},
+    {"RESOURCE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Resource"), PANEL(ResourceDlg, node.path, OptionsOf(node), parent, false)},
+    {"IPC_VOICE_HF", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Direction finding and location"), PANEL(DFLocateDlg, node.path, parent, false)},
     {"SHORTTIMEPROFILE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Profile"), PANEL(ShorttimeProfileDlg, node.path, parent, false)},
     {"SHORTTIMEPROFILE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Profile header"), PANEL(ShorttimeProfileHeaderDlg, node.path, parent, false)},
     {"SHORTTIMEPROFILE", QT_TRANSLATE_NOOP("JOBEDIT::DirectPanels", "Alarm conditions"), PANEL(AlarmConditionsSPDlg, node.path, parent)},

@@ -231,39 +231,6 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
     }
 
-    void lookingAtEveryFieldOfEveryDialogLeavesTheFileAsItIs()
-    {
-        QTest::failOnWarning(QRegularExpression(".*"));
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        const QByteArray before = ReadAll(File("a.job.xml"));
-        const auto nodes = m_window->Nodes().GetNodes();
-        int fields = 0;
-        for (const Form form : {Form::Job, Form::StandAlone})
-        {
-            m_window->Dialog().SetForm(form);
-            for (const JobNode& node : nodes)
-            {
-                m_window->Nodes().SelectNode(node.path);
-                QTabWidget* dialog = m_window->Dialog().GetDialog();
-                for (int tab = 0; dialog && tab < dialog->count(); ++tab)
-                {
-                    dialog->setCurrentIndex(tab);
-                    for (QWidget* field : dialog->currentWidget()->findChildren<QWidget*>())
-                        if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus))
-                        {
-                            field->setFocus(Qt::TabFocusReason);
-                            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-                            ++fields;
-                        }
-                }
-                QVERIFY2(!m_window->isWindowModified(), qPrintable(node.path));
-            }
-        }
-        QVERIFY(fields > 100);
-        QVERIFY(m_window->Save());
-        QCOMPARE(ReadAll(File("a.job.xml")), before);
-    }
-
     void aFileThatCannotBeReadLeavesWhatWasOpen_data()
     {
         QTest::addColumn<QByteArray>("content");

@@ -22,6 +22,7 @@ namespace TKE
 {
 
 class PanelRows;
+class PanelRules;
 class Tree;
 class ValueBase;
 class VCButtonGroup;
@@ -201,6 +202,7 @@ protected:
 
 private:
     friend class PanelRows;
+    friend class PanelRules;
 
     template <class W> W* Finish(W* widget, QGridLayout* grid, int row, int column, int rowSpan, int columnSpan);
     template <class W>

@@ -20,12 +20,22 @@
 #include "exciter/wdesinglechanneldetectordlg.h"
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/autorecordingdlg.h"
+#include "ipcparam/dflocatedlg.h"
 #include "ipcparam/excitergeneraldlg.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
 #include "keys/keys.h"
+#include "recording/surveillancedlg.h"
+#include "scan/memoryscandlg.h"
+#include "scan/scandlg.h"
+#include "scan/wbrxscandlg.h"
+#include "tuner/antennadlg.h"
+#include "tuner/tunerddcdlg.h"
 #include "tuner/tunerdlg.h"
+#include "tuner/tunerexternaldlg.h"
 #include "tuner/tunervuhfdlg.h"
+#include "tuner/tunerwbdlg.h"
+#include "tuner/tunerwbrxdlg.h"
 #include "value/tree.h"
 
 #include <QLayout>
@@ -71,8 +81,7 @@ QString CutAfterSlash(const QString& path, QLatin1StringView marker)
 
 } // namespace
 
-/// One row of the tab table: when it counts, its title (untranslated) and how its panel is made. A row without `create`
-/// has no panel yet and makes no tab.
+/// One row of the tab table: when it counts, its title (untranslated) and how its panel is made.
 struct IPCParam::TabRow
 {
     bool TabFlags::*flag;
@@ -116,13 +125,16 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<GeneralDlg>(h.m_baseItemPath, &h, h.m_readOnly, h.m_generalPanelOption); }},
         /*  6 */ {&F::ShowExciterGeneral, Any, QT_TR_NOOP("General"), [](H& h) {
           return New<ExciterGeneralDlg>(h.m_baseItemPath, h.m_vuhf, false, &h, h.m_readOnly); }},
-        /*  7 */ {&F::ShowAntenna, Any, QT_TR_NOOP("Antenna"), nullptr},
+        /*  7 */ {&F::ShowAntenna, Any, QT_TR_NOOP("Antenna"), [](H& h) {
+          return New<AntennaDlg>(h.m_baseItemPath, h.m_vuhf, h.m_tabs.ShowTunerWB, h.m_wbTuner, &h, h.m_readOnly); }},
         /*  8 */ {&F::ShowSpectralZoom, Any, QT_TR_NOOP("General"), [](H& h) {
           return New<SpectralZoomDlg>(h.TdsItemPath(), &h, h.m_readOnly); }},
         /*  9 */ {&F::ShowAutoRecording, Any, QT_TR_NOOP("AutoRecording"), [](H& h) {
           return New<AutoRecordingDlg>(h.m_baseItemPath, &h, h.m_headerOnly, h.m_readOnly); }},
-        /* 10 */ {&F::ShowTunerWB, Job, QT_TR_NOOP("WB Tuner"), nullptr},
-        /* 11 */ {&F::ShowTunerWB, StandAlone, QT_TR_NOOP("WB Tuner"), nullptr},
+        /* 10 */ {&F::ShowTunerWB, Job, QT_TR_NOOP("WB Tuner"), [](H& h) {
+          return New<TunerWBDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 11 */ {&F::ShowTunerWB, StandAlone, QT_TR_NOOP("WB Tuner"), [](H& h) {
+          return New<TunerWBDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_vuhf, &h, h.m_readOnly); }},
         /* 12 */ {&F::ShowFFTDataWB, WithJob, QT_TR_NOOP("WB FFT Data"), [](H& h) {
           return New<FFTDataDlg>(h.TdsJobPath(), true, true, &h, h.m_readOnly); }},
         /* 13 */ {&F::ShowFFTDataWB, WithoutJob, QT_TR_NOOP("WB FFT Data"), [](H& h) {
@@ -133,8 +145,11 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<FFTDataDlg>(h.m_taskPath, false, false, &h, h.m_readOnly); }},
         /* 16 */ {&F::ShowFFTDataCS, Any, QT_TR_NOOP("FFT Data"), [](H& h) {
           return New<FFTDataDlg>(h.TdsJobPath(), false, false, &h, h.m_readOnly); }},
-        /* 17 */ {&F::ShowTunerExternal, Any, QT_TR_NOOP("Tuner"), nullptr},
-        /* 18 */ {&F::ShowTunerDDC, Any, QT_TR_NOOP("Tuner"), nullptr},
+        /* 17 */ {&F::ShowTunerExternal, Any, QT_TR_NOOP("Tuner"), [](H& h) {
+          return New<TunerExternalDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_jobContext, &h, h.m_readOnly); }},
+        /* 18 */ {&F::ShowTunerDDC, Any, QT_TR_NOOP("Tuner"), [](H& h) {
+          return New<TunerDDCDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_tabs.ShowAlarmConditions, h.m_vuhf, &h,
+                                  h.m_readOnly); }},
         /* 19 */ {&F::ShowTunerHF, Any, QT_TR_NOOP("Tuner"), [](H& h) {
           return New<TunerDlg>(h.m_baseItemPath, h.m_tabs.TunerSecondChannel, h.m_jobContext, &h, h.m_readOnly); }},
         /* 20 */ {&F::ShowTunerVUHF, Any, QT_TR_NOOP("VUHF Tuner"), [](H& h) {
@@ -147,7 +162,8 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<ExciterWDEDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
         /* 24 */ {&F::ShowExciterScanSettings, Any, QT_TR_NOOP("ScanSettings"), [](H& h) {
           return New<ExciterScanSettingsDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
-        /* 25 */ {&F::ShowTunerReceiver, Any, QT_TR_NOOP("Receiver Tuner"), nullptr},
+        /* 25 */ {&F::ShowTunerReceiver, Any, QT_TR_NOOP("Receiver Tuner"), [](H& h) {
+          return New<TunerWBRXDlg>(h.m_baseItemPath, h.m_vuhf, h.m_jobContext, &h, h.m_readOnly); }},
         /* 26 */ {&F::ShowDemodulator, Any, QT_TR_NOOP("Demodulator"), [](H& h) {
           auto panel = std::make_unique<DemodulatorDlg>(h.m_baseItemPath, h.m_vuhf, &h, h.m_readOnly);
           panel->BuildPanel(); // this panel leaves it to the host
@@ -159,10 +175,14 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
         /* 29 */ {&F::ShowClassifier, Any, QT_TR_NOOP("Classifier"), [](H& h) {
           return New<ClassificatorDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, h.m_tabs.ClassifierReduced, &h,
                                        h.m_readOnly); }},
-        /* 30 */ {&F::ShowAlarmConditions, Any, QT_TR_NOOP("Alarm Conditions"), nullptr},
-        /* 31 */ {&F::ShowScan, Any, QT_TR_NOOP("Scan"), nullptr},
-        /* 32 */ {&F::ShowWBRXScan, Any, QT_TR_NOOP("Scan"), nullptr},
-        /* 33 */ {&F::ShowMemoryScan, Any, QT_TR_NOOP("Tuner"), nullptr},
+        /* 30 */ {&F::ShowAlarmConditions, Any, QT_TR_NOOP("Alarm Conditions"), [](H& h) {
+          return New<SurveillanceDlg>(h.m_baseItemPath, h.m_ddc, &h, h.m_readOnly); }},
+        /* 31 */ {&F::ShowScan, Any, QT_TR_NOOP("Scan"), [](H& h) {
+          return New<ScanDlg>(h.m_baseItemPath, h.m_tabs.ScanOption, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 32 */ {&F::ShowWBRXScan, Any, QT_TR_NOOP("Scan"), [](H& h) {
+          return New<WBRXScanDlg>(h.m_baseItemPath, h.m_vuhf, &h, h.m_readOnly); }},
+        /* 33 */ {&F::ShowMemoryScan, Any, QT_TR_NOOP("Tuner"), [](H& h) {
+          return New<MemoryScanDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
         /* 34 */ {&F::ShowRasterDetector, Any, QT_TR_NOOP("Rasterdetector"), [](H& h) {
           return New<WDERasterDetectorDlg>(h.m_baseItemPath, h.m_channelCount, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
         /* 35 */ {&F::ShowSingleChannelDetector, Any, QT_TR_NOOP("Singlechanneldetector"), [](H& h) {
@@ -178,7 +198,8 @@ const std::array<IPCParam::TabRow, IPCParam::tabRowCount>& IPCParam::TabTable()
           return New<DetectionDlg>(h.m_baseItemPath, h.m_vuhf, &h, h.m_readOnly); }},
         /* 40 */ {&F::ShowDetectionShort, Any, QT_TR_NOOP("Detection"), [](H& h) {
           return New<DetectionShortDlg>(h.m_baseItemPath, h.m_jobContext, h.m_vuhf, &h, h.m_readOnly); }},
-        /* 41 */ {&F::ShowDFLocate, Any, QT_TR_NOOP("DFLocate"), nullptr},
+        /* 41 */ {&F::ShowDFLocate, Any, QT_TR_NOOP("DFLocate"), [](H& h) {
+          return New<DFLocateDlg>(h.m_baseItemPath, &h, h.m_readOnly); }},
         /* 42 */ {&F::ShowActivityGeneration, Any, QT_TR_NOOP("Activity Generation"), [](H& h) {
           return New<ActivityGenerationDlg>(h.m_baseItemPath, &h, h.m_tabs.ActivityOptionA, h.m_tabs.ActivityOptionB,
                                             h.m_tabs.ShowDetection, h.m_readOnly); }},
@@ -248,8 +269,6 @@ bool IPCParam::BuildTabDlg()
     for (const int row : WantedRows())
     {
         const TabRow& entry = TabTable()[row - 1];
-        if (!entry.create)
-            continue;
         PanelPtr panel = entry.create(*this);
         if (assembly != m_assembly)
             return false;

@@ -46,6 +46,7 @@ void WDEPanel::BuildChannels(const char* noun, std::initializer_list<const Param
     auto* groups = new QGridLayout(content);
     groups->setContentsMargins(0, 0, 0, 0);
     const QString title = GetTranslation(QString::fromUtf8(noun));
+    area->setAccessibleName(title);
     const QString basePath = GetBasePath();
     for (int channel = 1; channel <= m_channelCount; ++channel)
     {

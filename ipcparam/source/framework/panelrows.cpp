@@ -1,6 +1,7 @@
 #include "framework/panelrows.h"
 
 #include "valuewidgets/vccheckbox.h"
+#include "widgets/vccheckablegroupbox.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -23,6 +24,13 @@ PanelRows PanelRows::Group(Cell cell, const char* title) const
     m_grid.addWidget(rows.Box(), cell.row, cell.column, cell.rowSpan, cell.columnSpan);
     m_panel.Sign(QString::fromUtf8(title), cell.row, cell.column);
     return rows;
+}
+
+PanelRows PanelRows::CheckableGroup(Cell cell, const char* title, const QString& key) const
+{
+    QGroupBox* box = m_panel.CreateCheckableGroupBoxFromVT(key, m_panel.GetTranslation(QString::fromUtf8(title)), QString(), IsRaw());
+    m_grid.addWidget(box, cell.row, cell.column, cell.rowSpan, cell.columnSpan);
+    return {m_panel, *new QGridLayout(box), m_binding};
 }
 
 QLabel* PanelRows::Label(Cell cell, const char* text)
@@ -159,11 +167,35 @@ VCCheckBox* PanelRows::Switch(Cell cell, const char* label, const QString& key)
     return Row(cell, label, nullptr, {}, [&](int column) { return CheckBox({cell.row, column}, "", key); });
 }
 
+QWidget* PanelRows::WidgetAt(Cell cell) const
+{
+    const QLayoutItem* item = m_grid.itemAtPosition(cell.row, cell.column);
+    return item ? const_cast<QLayoutItem*>(item)->widget() : nullptr;
+}
+
 void PanelRows::AccessibleName(Cell cell, const char* text)
 {
-    QLayoutItem* item = m_grid.itemAtPosition(cell.row, cell.column);
-    if (item && item->widget())
-        item->widget()->setAccessibleName(m_panel.GetTranslation(QString::fromUtf8(text)));
+    if (QWidget* widget = WidgetAt(cell))
+        widget->setAccessibleName(m_panel.GetTranslation(QString::fromUtf8(text)));
+}
+
+bool PanelRows::CheckList(Cell cell, const char* label, const QString& key, Span span)
+{
+    bool isBound = false;
+    Row(cell, label, nullptr, span,
+        [&](int column)
+        { isBound = m_panel.AddListBoxFromVT(&m_grid, cell.row, column, span.rows, span.columns, key, IsRaw()); });
+    return isBound;
+}
+
+void PanelRows::TimePeriod(Cell cell, const QString& startKey, const QString& stopKey)
+{
+    m_panel.AddTimePeriodFromVT(&m_grid, cell.row, cell.column, cell.rowSpan, cell.columnSpan, startKey, stopKey);
+}
+
+void PanelRows::DatePeriod(Cell cell, const QString& startKey, const QString& stopKey)
+{
+    m_panel.AddDatePeriodFromVT(&m_grid, cell.row, cell.column, cell.rowSpan, cell.columnSpan, startKey, stopKey);
 }
 
 VCButtonGroup* PanelRows::ButtonGroup(Cell cell, const char* title, const QString& key)

@@ -56,6 +56,8 @@ public:
     PanelRows Group(const char* title) const;
     /// The same, placed at `cell`.
     PanelRows Group(Cell cell, const char* title) const;
+    /// The same with a check box in its title, bound to a boolean or a selection.
+    PanelRows CheckableGroup(Cell cell, const char* title, const QString& key) const;
     /// The widget that the grid lays out.
     QWidget* Box() const;
 
@@ -82,8 +84,15 @@ public:
     VCCheckBox* CheckBox(Cell cell, const char* text, const QString& key);
     /// A check box without a text of its own in the column after its label.
     VCCheckBox* Switch(Cell cell, const char* label, const QString& key);
+    /// Null where none stands.
+    QWidget* WidgetAt(Cell cell) const;
     /// Names the widget at `cell` for assistive technology, where no label can be its buddy.
     void AccessibleName(Cell cell, const char* text);
+    /// The items of a selection as lines to check. False when the key names no selection.
+    bool CheckList(Cell cell, const char* label, const QString& key, Span span = {});
+    /// Two times of a day, or two days; always base path + key.
+    void TimePeriod(Cell cell, const QString& startKey, const QString& stopKey);
+    void DatePeriod(Cell cell, const QString& startKey, const QString& stopKey);
     VCButtonGroup* ButtonGroup(Cell cell, const char* title, const QString& key);
     /// A numeric list, always mapped; stored number = shown number x factor.
     void List(Cell cell, const QString& key, const ListShape& shape, const QList<const char*>& headers,
