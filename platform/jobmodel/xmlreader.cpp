@@ -188,7 +188,7 @@ bool XmlReader::ReadBlock(QIODevice& device)
 
 void XmlReader::ReportFault()
 {
-    const qint64 offset = PieceBegin();
+    const qint64 offset = std::max<qint64>(PieceBegin(), 0); // the parser has no place yet in an empty file
     const XML_Error code = XML_GetErrorCode(m_parser.get());
     const bool atByte = offset >= m_windowBegin && offset < FileEnd();
     const bool notAscii = atByte && (Source(offset, offset + 1).front() & 0x80);
