@@ -155,6 +155,18 @@
         <source>Exciter</source>
         <translation>Erreger</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Job</translation>
+    </message>
+    <message>
+        <source>Resource</source>
+        <translation>Ressource</translation>
+    </message>
+    <message>
+        <source>Direction finding and location</source>
+        <translation>Peilung und Ortung</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::JobDocument</name>
@@ -344,6 +356,14 @@
     <message>
         <source>The entry &quot;%1&quot; was refused and is not saved</source>
         <translation>Die Eingabe „%1“ wurde abgelehnt und ist nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
     </message>
 </context>
 <context>
@@ -612,6 +632,53 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::AntennaDlg</name>
+    <message>
+        <source>Antenna selection</source>
+        <translation>Antennenwahl</translation>
+    </message>
+    <message>
+        <source>Antenna :</source>
+        <translation>Antenne :</translation>
+    </message>
+    <message>
+        <source>Polarisation :</source>
+        <translation>Polarisation :</translation>
+    </message>
+    <message>
+        <source>Preselection :</source>
+        <translation>Vorselektion :</translation>
+    </message>
+    <message>
+        <source>Direction :</source>
+        <translation>Richtung :</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Attenuation :</source>
+        <translation>Dämpfung :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Preamplifier On/Off</source>
+        <translation>Vorverstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>Distribution output :</source>
+        <translation>Verteilerausgang :</translation>
+    </message>
+    <message>
+        <source>Tuner input :</source>
+        <translation>Tunereingang :</translation>
+    </message>
+</context>
+<context>
     <name>TKE::AutoRecordingDlg</name>
     <message>
         <source>Automatic Recording for</source>
@@ -781,6 +848,97 @@ Typ: %2</translation>
     <message>
         <source>Threshold :</source>
         <translation>Schwelle :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::DFLocateDlg</name>
+    <message>
+        <source>Direction finding</source>
+        <translation>Peilung</translation>
+    </message>
+    <message>
+        <source>Direction finding On/Off</source>
+        <translation>Peilung ein/aus</translation>
+    </message>
+    <message>
+        <source>DF mode :</source>
+        <translation>Peilart :</translation>
+    </message>
+    <message>
+        <source>DF bandwidth :</source>
+        <translation>Peilbandbreite :</translation>
+    </message>
+    <message>
+        <source>Integration time :</source>
+        <translation>Integrationszeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Averaging :</source>
+        <translation>Mittelung :</translation>
+    </message>
+    <message>
+        <source>Level threshold :</source>
+        <translation>Pegelschwelle :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Quality threshold :</source>
+        <translation>Güteschwelle :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ortung</translation>
+    </message>
+    <message>
+        <source>Location On/Off</source>
+        <translation>Ortung ein/aus</translation>
+    </message>
+    <message>
+        <source>Method :</source>
+        <translation>Verfahren :</translation>
+    </message>
+    <message>
+        <source>Min. number of bearings :</source>
+        <translation>Mindestzahl der Peilungen :</translation>
+    </message>
+    <message>
+        <source>Repetition :</source>
+        <translation>Wiederholung :</translation>
+    </message>
+    <message>
+        <source>Interval :</source>
+        <translation>Abstand :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Max. uncertainty :</source>
+        <translation>Max. Unsicherheit :</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>Layer height :</source>
+        <translation>Schichthöhe :</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Stationen</translation>
     </message>
 </context>
 <context>
@@ -1888,6 +2046,113 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::JobDlg</name>
+    <message>
+        <source>Job</source>
+        <translation>Job</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Beschreibung :</translation>
+    </message>
+    <message>
+        <source>Author :</source>
+        <translation>Verfasser :</translation>
+    </message>
+    <message>
+        <source>Date of creation :</source>
+        <translation>Angelegt am :</translation>
+    </message>
+    <message>
+        <source>Last modification :</source>
+        <translation>Zuletzt geändert :</translation>
+    </message>
+    <message>
+        <source>Priority :</source>
+        <translation>Priorität :</translation>
+    </message>
+    <message>
+        <source>State :</source>
+        <translation>Zustand :</translation>
+    </message>
+    <message>
+        <source>Resources</source>
+        <translation>Ressourcen</translation>
+    </message>
+    <message>
+        <source>HF reception</source>
+        <translation>HF-Empfang</translation>
+    </message>
+    <message>
+        <source>V/UHF reception</source>
+        <translation>V/UHF-Empfang</translation>
+    </message>
+    <message>
+        <source>HF wideband</source>
+        <translation>HF-Breitband</translation>
+    </message>
+    <message>
+        <source>V/UHF wideband</source>
+        <translation>V/UHF-Breitband</translation>
+    </message>
+    <message>
+        <source>DDC channels</source>
+        <translation>DDC-Kanäle</translation>
+    </message>
+    <message>
+        <source>Direction finding</source>
+        <translation>Peilung</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ortung</translation>
+    </message>
+    <message>
+        <source>External decoder</source>
+        <translation>Externer Decoder</translation>
+    </message>
+    <message>
+        <source>Exciter</source>
+        <translation>Erreger</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Number of receivers :</source>
+        <translation>Anzahl der Empfänger :</translation>
+    </message>
+    <message>
+        <source>Automatic workflow</source>
+        <translation>Automatischer Arbeitsablauf</translation>
+    </message>
+    <message>
+        <source>Workflow :</source>
+        <translation>Arbeitsablauf :</translation>
+    </message>
+    <message>
+        <source>Automatic classification</source>
+        <translation>Automatische Klassifikation</translation>
+    </message>
+    <message>
+        <source>Automatic recording</source>
+        <translation>Automatische Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Store results</source>
+        <translation>Ergebnisse speichern</translation>
+    </message>
+    <message>
+        <source>Keep results for :</source>
+        <translation>Ergebnisse aufbewahren für :</translation>
+    </message>
+    <message>
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+</context>
+<context>
     <name>TKE::JobFile</name>
     <message>
         <source>This is a directory</source>
@@ -2041,6 +2306,105 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::MemoryScanDlg</name>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Frequency [kHz]</source>
+        <translation>Frequenz [kHz]</translation>
+    </message>
+    <message>
+        <source>IF bandwidth</source>
+        <translation>ZF-Bandbreite</translation>
+    </message>
+    <message>
+        <source>Demodulation</source>
+        <translation>Demodulation</translation>
+    </message>
+    <message>
+        <source>Threshold [dBµV]</source>
+        <translation>Schwelle [dBµV]</translation>
+    </message>
+    <message>
+        <source>AFC</source>
+        <translation>AFC</translation>
+    </message>
+    <message>
+        <source>Frequency [MHz]</source>
+        <translation>Frequenz [MHz]</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchlauf</translation>
+    </message>
+    <message>
+        <source>Scan dwelltime :</source>
+        <translation>Verweilzeit im Suchlauf :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>infinite</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Direction :</source>
+        <translation>Richtung :</translation>
+    </message>
+    <message>
+        <source>Cycles :</source>
+        <translation>Durchläufe :</translation>
+    </message>
+    <message>
+        <source>Start with the job</source>
+        <translation>Mit dem Job starten</translation>
+    </message>
+    <message>
+        <source>Tuner</source>
+        <translation>Tuner</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Attenuation mode :</source>
+        <translation>Dämpfungsart :</translation>
+    </message>
+    <message>
+        <source>Attenuation value :</source>
+        <translation>Dämpfungswert :</translation>
+    </message>
+    <message>
+        <source>Preamplifier On/Off</source>
+        <translation>Vorverstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+</context>
+<context>
     <name>TKE::NodeSpec</name>
     <message>
         <source>The name of the node is missing</source>
@@ -2079,6 +2443,204 @@ Typ: %2</translation>
     <message>
         <source> [MHz]</source>
         <translation> [MHz]</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ResourceDlg</name>
+    <message>
+        <source>Resource</source>
+        <translation>Ressource</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Name :</translation>
+    </message>
+    <message>
+        <source>Type :</source>
+        <translation>Art :</translation>
+    </message>
+    <message>
+        <source>Site :</source>
+        <translation>Standort :</translation>
+    </message>
+    <message>
+        <source>Number :</source>
+        <translation>Anzahl :</translation>
+    </message>
+    <message>
+        <source>Exclusive use</source>
+        <translation>Alleinige Nutzung</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Demodulator</source>
+        <translation>Demodulator</translation>
+    </message>
+    <message>
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message>
+        <source>Classifier</source>
+        <translation>Klassifikator</translation>
+    </message>
+    <message>
+        <source>DDC channels :</source>
+        <translation>DDC-Kanäle :</translation>
+    </message>
+    <message>
+        <source>Signal detection</source>
+        <translation>Signaldetektion</translation>
+    </message>
+    <message>
+        <source>Short-time detection</source>
+        <translation>Kurzzeitdetektion</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ortung</translation>
+    </message>
+    <message>
+        <source>Single station location</source>
+        <translation>Ortung von einer Station aus</translation>
+    </message>
+    <message>
+        <source>Decoder channels :</source>
+        <translation>Decoderkanäle :</translation>
+    </message>
+    <message>
+        <source>Wide-band exciter</source>
+        <translation>Breitbanderreger</translation>
+    </message>
+    <message>
+        <source>Storage limit :</source>
+        <translation>Speichergrenze :</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>Licence options</source>
+        <translation>Lizenzoptionen</translation>
+    </message>
+    <message>
+        <source>Valid until :</source>
+        <translation>Gültig bis :</translation>
+    </message>
+    <message>
+        <source>Release licence when the job pauses</source>
+        <translation>Lizenz freigeben, wenn der Job ruht</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::ScanDlg</name>
+    <message>
+        <source>Scan On/Off</source>
+        <translation>Suchlauf ein/aus</translation>
+    </message>
+    <message>
+        <source>Scan type</source>
+        <translation>Art des Suchlaufs</translation>
+    </message>
+    <message>
+        <source>Frequency range</source>
+        <translation>Frequenzbereich</translation>
+    </message>
+    <message>
+        <source>Start frequency :</source>
+        <translation>Startfrequenz :</translation>
+    </message>
+    <message>
+        <source>Stop frequency :</source>
+        <translation>Stoppfrequenz :</translation>
+    </message>
+    <message>
+        <source>Step width :</source>
+        <translation>Schrittweite :</translation>
+    </message>
+    <message>
+        <source>Memory channels</source>
+        <translation>Speicherkanäle</translation>
+    </message>
+    <message>
+        <source>First channel :</source>
+        <translation>Erster Kanal :</translation>
+    </message>
+    <message>
+        <source>Last channel :</source>
+        <translation>Letzter Kanal :</translation>
+    </message>
+    <message>
+        <source>Skip locked-out channels</source>
+        <translation>Gesperrte Kanäle überspringen</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>Zeiten</translation>
+    </message>
+    <message>
+        <source>Dwell time :</source>
+        <translation>Verweilzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>infinite</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Threshold :</source>
+        <translation>Schwelle :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Direction :</source>
+        <translation>Richtung :</translation>
+    </message>
+    <message>
+        <source>Cycles :</source>
+        <translation>Durchläufe :</translation>
+    </message>
+    <message>
+        <source>Frequency list (MHz)</source>
+        <translation>Frequenzliste (MHz)</translation>
+    </message>
+    <message>
+        <source>Frequency list (kHz)</source>
+        <translation>Frequenzliste (kHz)</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (MHz)</source>
+        <translation>Ausgeschlossene Bereiche (MHz)</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (kHz)</source>
+        <translation>Ausgeschlossene Bereiche (kHz)</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
     </message>
 </context>
 <context>
@@ -2213,6 +2775,117 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::SurveillanceDlg</name>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Alarm On/Off</source>
+        <translation>Alarm ein/aus</translation>
+    </message>
+    <message>
+        <source>Priority :</source>
+        <translation>Priorität :</translation>
+    </message>
+    <message>
+        <source>Reappearance Time :</source>
+        <translation>Wiederkehrzeit :</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Actions :</source>
+        <translation>Aktionen :</translation>
+    </message>
+    <message>
+        <source>Level above</source>
+        <translation>Pegel über</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Signal longer than</source>
+        <translation>Signal länger als</translation>
+    </message>
+    <message>
+        <source>Signal absent for</source>
+        <translation>Kein Signal seit</translation>
+    </message>
+    <message>
+        <source>Frequency deviation above</source>
+        <translation>Frequenzabweichung über</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Modulation type</source>
+        <translation>Modulationsart</translation>
+    </message>
+    <message>
+        <source>Decoded text contains</source>
+        <translation>Decodierter Text enthält</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß/klein beachten</translation>
+    </message>
+    <message>
+        <source>Surveyed ranges (kHz)</source>
+        <translation>Überwachte Bereiche (kHz)</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
+    </message>
+    <message>
+        <source>Bandwidth (kHz)</source>
+        <translation>Bandbreite (kHz)</translation>
+    </message>
+    <message>
+        <source>Use bandwidth</source>
+        <translation>Bandbreite beachten</translation>
+    </message>
+    <message>
+        <source>Min :</source>
+        <translation>Min :</translation>
+    </message>
+    <message>
+        <source>Max :</source>
+        <translation>Max :</translation>
+    </message>
+    <message>
+        <source>Time period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>Date period</source>
+        <translation>Datumsbereich</translation>
+    </message>
+    <message>
+        <source>Weekdays</source>
+        <translation>Wochentage</translation>
+    </message>
+</context>
+<context>
     <name>TKE::TdsHeaderDDCDlg</name>
     <message>
         <source>Lock frequency</source>
@@ -2323,6 +2996,117 @@ Typ: %2</translation>
     <message>
         <source>Scan tuner mode :</source>
         <translation>Tunerart im Suchlauf :</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TunerDDCDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>Decay :</source>
+        <translation>Abfall :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>DDC bandwidth :</source>
+        <translation>DDC-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Notch filter</source>
+        <translation>Kerbfilter</translation>
+    </message>
+    <message>
+        <source>Frequency offset :</source>
+        <translation>Frequenzablage :</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Demodulation :</source>
+        <translation>Demodulation :</translation>
+    </message>
+    <message>
+        <source>Bandwidth :</source>
+        <translation>Bandbreite :</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Noise suppression</source>
+        <translation>Rauschunterdrückung</translation>
+    </message>
+    <message>
+        <source>IF shift :</source>
+        <translation>ZF-Versatz :</translation>
+    </message>
+    <message>
+        <source>AFC</source>
+        <translation>AFC</translation>
+    </message>
+    <message>
+        <source>BFO frequency :</source>
+        <translation>BFO-Frequenz :</translation>
+    </message>
+    <message>
+        <source>Squelch :</source>
+        <translation>Rauschsperre :</translation>
+    </message>
+    <message>
+        <source>Volume :</source>
+        <translation>Lautstärke :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Squelch Threshold :</source>
+        <translation>Rauschsperrschwelle :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Audio format :</source>
+        <translation>Audioformat :</translation>
+    </message>
+    <message>
+        <source>Audio balance :</source>
+        <translation>Audiobalance :</translation>
+    </message>
+    <message>
+        <source>Alarm threshold :</source>
+        <translation>Alarmschwelle :</translation>
+    </message>
+    <message>
+        <source>Hold frequency on alarm</source>
+        <translation>Frequenz bei Alarm halten</translation>
+    </message>
+    <message>
+        <source>Second channel</source>
+        <translation>Zweiter Kanal</translation>
     </message>
 </context>
 <context>
@@ -2441,6 +3225,73 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::TunerExternalDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Receiver :</source>
+        <translation>Empfänger :</translation>
+    </message>
+    <message>
+        <source>Control :</source>
+        <translation>Steuerung :</translation>
+    </message>
+    <message>
+        <source>Settling time :</source>
+        <translation>Einschwingzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Set frequency at job start</source>
+        <translation>Frequenz beim Start des Jobs setzen</translation>
+    </message>
+    <message>
+        <source>Remark :</source>
+        <translation>Bemerkung :</translation>
+    </message>
+    <message>
+        <source>Signal input :</source>
+        <translation>Signaleingang :</translation>
+    </message>
+    <message>
+        <source>IF frequency :</source>
+        <translation>ZF-Frequenz :</translation>
+    </message>
+    <message>
+        <source>MHz</source>
+        <translation>MHz</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Inverted IF spectrum</source>
+        <translation>Invertiertes ZF-Spektrum</translation>
+    </message>
+    <message>
+        <source>Level offset :</source>
+        <translation>Pegelversatz :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Demodulation :</source>
+        <translation>Demodulation :</translation>
+    </message>
+    <message>
+        <source>Signal input channel 2 :</source>
+        <translation>Signaleingang Kanal 2 :</translation>
+    </message>
+</context>
+<context>
     <name>TKE::TunerVUHFDlg</name>
     <message>
         <source>Frequency :</source>
@@ -2532,6 +3383,156 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::TunerWBDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Bandwidth :</source>
+        <translation>Bandbreite :</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Preselection :</source>
+        <translation>Vorselektion :</translation>
+    </message>
+    <message>
+        <source>Reference frequency :</source>
+        <translation>Referenzfrequenz :</translation>
+    </message>
+    <message>
+        <source>Gain control :</source>
+        <translation>Verstärkungsregelung :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Decay time :</source>
+        <translation>Abfallzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Attenuation mode :</source>
+        <translation>Dämpfungsart :</translation>
+    </message>
+    <message>
+        <source>Attenuation value :</source>
+        <translation>Dämpfungswert :</translation>
+    </message>
+    <message>
+        <source>Amplifier mode :</source>
+        <translation>Verstärkerart :</translation>
+    </message>
+    <message>
+        <source>Attenuation :</source>
+        <translation>Dämpfung :</translation>
+    </message>
+    <message>
+        <source>Preamplifier On/Off</source>
+        <translation>Vorverstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>Second channel</source>
+        <translation>Zweiter Kanal</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::TunerWBRXDlg</name>
+    <message>
+        <source>Frequency :</source>
+        <translation>Frequenz :</translation>
+    </message>
+    <message>
+        <source>Span :</source>
+        <translation>Frequenzspanne :</translation>
+    </message>
+    <message>
+        <source>IF bandwidth :</source>
+        <translation>ZF-Bandbreite :</translation>
+    </message>
+    <message>
+        <source>Demodulation :</source>
+        <translation>Demodulation :</translation>
+    </message>
+    <message>
+        <source>Antenna :</source>
+        <translation>Antenne :</translation>
+    </message>
+    <message>
+        <source>Gain :</source>
+        <translation>Verstärkung :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Attenuation mode :</source>
+        <translation>Dämpfungsart :</translation>
+    </message>
+    <message>
+        <source>Attenuation value :</source>
+        <translation>Dämpfungswert :</translation>
+    </message>
+    <message>
+        <source>Amplifier mode :</source>
+        <translation>Verstärkerart :</translation>
+    </message>
+    <message>
+        <source>Preamplifier On/Off</source>
+        <translation>Vorverstärker ein/aus</translation>
+    </message>
+    <message>
+        <source>Reference frequency :</source>
+        <translation>Referenzfrequenz :</translation>
+    </message>
+    <message>
+        <source>Measurement mode :</source>
+        <translation>Messart :</translation>
+    </message>
+    <message>
+        <source>Measurement time :</source>
+        <translation>Messzeit :</translation>
+    </message>
+    <message>
+        <source>µs</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>Squelch Threshold</source>
+        <translation>Rauschsperrschwelle</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Volume :</source>
+        <translation>Lautstärke :</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+</context>
+<context>
     <name>TKE::VCDatePeriod</name>
     <message>
         <source>From:</source>
@@ -2616,6 +3617,109 @@ Typ: %2</translation>
     <message>
         <source>There is no item &quot;%1&quot;</source>
         <translation>Es gibt keinen Eintrag „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>TKE::WBRXScanDlg</name>
+    <message>
+        <source>Scan On/Off</source>
+        <translation>Suchlauf ein/aus</translation>
+    </message>
+    <message>
+        <source>Scan mode :</source>
+        <translation>Suchlaufart :</translation>
+    </message>
+    <message>
+        <source>Resolution bandwidth :</source>
+        <translation>Auflösebandbreite :</translation>
+    </message>
+    <message>
+        <source>Step width :</source>
+        <translation>Schrittweite :</translation>
+    </message>
+    <message>
+        <source>Detector :</source>
+        <translation>Detektor :</translation>
+    </message>
+    <message>
+        <source>Measurement time :</source>
+        <translation>Messzeit :</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Threshold mode :</source>
+        <translation>Art der Schwelle :</translation>
+    </message>
+    <message>
+        <source>Threshold absolute :</source>
+        <translation>Schwelle absolut :</translation>
+    </message>
+    <message>
+        <source>dBµV</source>
+        <translation>dBµV</translation>
+    </message>
+    <message>
+        <source>Threshold relative :</source>
+        <translation>Schwelle relativ :</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>Dwell time :</source>
+        <translation>Verweilzeit :</translation>
+    </message>
+    <message>
+        <source>infinite</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Hold time :</source>
+        <translation>Haltezeit :</translation>
+    </message>
+    <message>
+        <source>Revisit time :</source>
+        <translation>Wiederkehr nach :</translation>
+    </message>
+    <message>
+        <source>Occupancy</source>
+        <translation>Belegung</translation>
+    </message>
+    <message>
+        <source>Occupancy statistics</source>
+        <translation>Belegungsstatistik</translation>
+    </message>
+    <message>
+        <source>Integration time :</source>
+        <translation>Integrationszeit :</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
+    </message>
+    <message>
+        <source>Scan ranges (MHz)</source>
+        <translation>Suchbereiche (MHz)</translation>
+    </message>
+    <message>
+        <source>Scan ranges (kHz)</source>
+        <translation>Suchbereiche (kHz)</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (MHz)</source>
+        <translation>Ausgeschlossene Bereiche (MHz)</translation>
+    </message>
+    <message>
+        <source>Excluded ranges (kHz)</source>
+        <translation>Ausgeschlossene Bereiche (kHz)</translation>
     </message>
 </context>
 <context>
