@@ -41,12 +41,25 @@ function(house_precompile target)
     target_precompile_headers(${target} REUSE_FROM pch_${kind})
 endfunction()
 
-# house_library(<target> [LINKS ...]): a static library of all sources in the current folder.
+# house_install(<target> <export set>): how a library is named and installed. Its headers are installed by packaging/.
+function(house_install target set)
+    set_target_properties(${target} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} # until 1.0 any minor version may change the interface
+        DEFINE_SYMBOL "")
+    install(TARGETS ${target} EXPORT ${set}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+endfunction()
+
+# house_library(<target> [LINKS ...]): a library of the platform, of all sources in the current folder.
 function(house_library target)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
-    add_library(${target} STATIC ${sources})
+    add_library(${target} ${sources})
     target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME ipcparam-${target})
+    house_install(${target} platform)
     if(Qt6::Widgets IN_LIST ARG_LINKS)
         house_precompile(${target})
     else()
