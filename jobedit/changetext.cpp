@@ -1,11 +1,13 @@
 #include "changetext.h"
 
-#include "value/tree.h"
+#include "value/valuedescriptor.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/showntext.h"
 #include "valuewidgets/suffixeddouble.h"
 
+#include <QDateTime>
 #include <QStringList>
+#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -21,10 +23,10 @@ QString Shortened(QString text)
     return text.size() > longestText ? text.left(longestText - 3) + QStringLiteral("...") : text;
 }
 
-QString ItemName(const TKE::ValueSelection& selection, const QString& key)
+QString ItemName(const TKE::ValueDescriptor& descriptor, const QString& key)
 {
-    const TKE::SelectionItem* item = selection.FindItem(key.toInt());
-    return item ? item->GetName() : key;
+    const auto item = std::ranges::find(descriptor.items, key.toInt(), &TKE::SelectionItem::GetKey);
+    return item != descriptor.items.end() ? item->GetName() : key;
 }
 
 // The unit that shows the frequency shortest.
@@ -40,29 +42,28 @@ QString Frequency(qint64 hertz)
 
 } // namespace
 
-QString ChangeText::Of(const QString& path, const QString& before, const QString& after)
+QString ChangeText::Of(const QString& path, const TKE::ValueDescriptor& descriptor, const QString& before,
+                       const QString& after)
 {
-    const TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(path);
-    const QString label = value ? LabelOf(*value) : path.section('/', -1);
-    const QString from = value ? ShownOf(*value, before) : Shortened(before);
-    const QString to = value ? ShownOf(*value, after) : Shortened(after);
-    return tr("%1: %2 -> %3", "label of a value, content before and after").arg(label, from, to);
+    const QString label = LabelOf(descriptor);
+    return tr("%1: %2 -> %3", "label of a value, content before and after")
+        .arg(label.isEmpty() ? path.section('/', -1) : label, ShownOf(descriptor, before), ShownOf(descriptor, after));
 }
 
-QString ChangeText::LabelOf(const TKE::ValueBase& value)
+QString ChangeText::LabelOf(const TKE::ValueDescriptor& descriptor)
 {
-    QString label = value.GetDescriptor().label.trimmed();
+    QString label = descriptor.label.trimmed();
     while (label.endsWith(':') || label.endsWith(' '))
         label.chop(1);
-    return label.isEmpty() ? value.GetName() : label;
+    return label;
 }
 
-QString ChangeText::ShownOf(const TKE::ValueBase& value, const QString& stored)
+QString ChangeText::ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored)
 {
     using TKE::ValueKind;
-    const QString& unit = value.GetDescriptor().unit;
-    const auto withUnit = [&](const QString& number) { return unit.isEmpty() ? number : number + ' ' + unit; };
-    switch (value.GetKind())
+    const auto withUnit = [&](const QString& number)
+    { return descriptor.unit.isEmpty() ? number : number + ' ' + descriptor.unit; };
+    switch (descriptor.kind)
     {
     case ValueKind::Bool:
         return stored == QLatin1String("true") ? tr("on") : tr("off");
@@ -79,10 +80,9 @@ QString ChangeText::ShownOf(const TKE::ValueBase& value, const QString& stored)
     }
     case ValueKind::Selection:
     {
-        const auto& selection = static_cast<const TKE::ValueSelection&>(value);
         QStringList names;
         for (const QString& key : stored.split(';', Qt::SkipEmptyParts))
-            names << ItemName(selection, key);
+            names << ItemName(descriptor, key);
         return names.isEmpty() ? tr("none") : Shortened(names.join(QStringLiteral(", ")));
     }
     case ValueKind::DoubleList:

@@ -4,7 +4,7 @@
 
 namespace TKE
 {
-class ValueBase;
+struct ValueDescriptor;
 }
 
 namespace JOBEDIT
@@ -16,12 +16,13 @@ class ChangeText
     Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ChangeText)
 
 public:
-    /// "Gain: AGC -> MGC". Where the value is gone, its path and the stored texts serve.
-    static QString Of(const QString& path, const QString& before, const QString& after);
-    /// The label of the value's rows, or its name where it has none.
-    static QString LabelOf(const TKE::ValueBase& value);
+    /// "Gain: AGC -> MGC", for the value at `path`, which may be gone.
+    static QString Of(const QString& path, const TKE::ValueDescriptor& descriptor, const QString& before,
+                      const QString& after);
+    /// The label of the rows of such values; empty when there is none.
+    static QString LabelOf(const TKE::ValueDescriptor& descriptor);
     /// The content that `stored` stands for, as the dialogs show it, with its unit.
-    static QString ShownOf(const TKE::ValueBase& value, const QString& stored);
+    static QString ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored);
 };
 
 } // namespace JOBEDIT

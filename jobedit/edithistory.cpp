@@ -200,13 +200,13 @@ void EditHistory::Record(const TKE::JournalEntry& entry)
             m_wanted->insert(path, entry.before);
         return;
     }
-    Append({entry.value.GetPathName(), entry.before, entry.after, nullptr});
+    Append({entry.value.GetPathName(), entry.before, entry.after, nullptr, &entry.value.GetDescriptor()});
 }
 
 void EditHistory::Record(std::shared_ptr<StructureEdit> edit)
 {
     const StructureEdit& made = *edit;
-    Append({edit->path, {}, {}, std::move(edit)});
+    Append({.path = edit->path, .structure = std::move(edit)});
     Tell(made, false);
     if (m_depth == 0)
         TellOfNodes();

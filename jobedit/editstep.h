@@ -14,10 +14,11 @@ namespace JOBEDIT
 /// One change of a step: a value's content before and after it in stored form or, with `structure`, one of the nodes.
 struct EditChange
 {
-    QString path;
-    QString before;
-    QString after;
-    std::shared_ptr<StructureEdit> structure;
+    QString path{};
+    QString before{};
+    QString after{};
+    std::shared_ptr<StructureEdit> structure{};
+    const TKE::ValueDescriptor* descriptor = nullptr; ///< of the value, for telling of it when it is gone
 };
 
 /// What one step of undo takes back: changes in the order in which they were made, each value once between two changes

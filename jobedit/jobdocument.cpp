@@ -140,6 +140,7 @@ std::vector<JobNode> JobDocument::GetNodes() const
 TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason)
 {
     CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
     TKE::Node* node = m_file.AddNode(parentPath, spec, reason);
     if (!node)
         return nullptr;
@@ -154,6 +155,7 @@ TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& 
 bool JobDocument::RemoveNode(const QString& path, QString* reason)
 {
     CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
     auto taken = m_file.TakeNode(path);
     if (!taken)
     {
@@ -170,6 +172,7 @@ bool JobDocument::RemoveNode(const QString& path, QString* reason)
 bool JobDocument::RenameNode(const QString& path, const QString& name, QString* reason)
 {
     CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Rename, path);
     if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(path))
         edit->oldName = spec->name;
@@ -186,6 +189,7 @@ bool JobDocument::RenameNode(const QString& path, const QString& name, QString* 
 bool JobDocument::DuplicateNode(const QString& path, const QString& name, QString* reason)
 {
     CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
     const TKE::Node* copy = m_file.DuplicateNode(path, name, reason);
     if (!copy)
         return false;
