@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "dialogpane.h"
+#include "editactions.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -47,10 +48,13 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillFileMenu();
     FillNodeMenu();
     FillViewMenu();
+    new EditActions(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
+    connect(m_document, &JobDocument::NodesChanged, this, &MainWindow::Slot_OnNodesChanged);
+    connect(&m_document->History(), &EditHistory::NodeMoved, this, &MainWindow::Slot_OnNodeMoved);
     connect(m_document, &JobDocument::FileNameChanged, this, &MainWindow::Slot_OnFileNameChanged);
     connect(m_document, &JobDocument::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(m_nodes, &NodePane::CurrentChanged, m_dialog, [this] { m_dialog->ShowNode(m_nodes->GetCurrentNode()); });
@@ -264,6 +268,24 @@ void MainWindow::Slot_OnReplaced()
     for (PanelWindow* panel : findChildren<PanelWindow*>())
         panel->close();
     m_nodes->SetNodes(m_document->GetNodes());
+}
+
+void MainWindow::Slot_OnNodesChanged()
+{
+    for (PanelWindow* panel : findChildren<PanelWindow*>())
+        if (!TKE::Tree::Instance()->FindNode(panel->GetPath()))
+            panel->close();
+    const JobNode* current = m_nodes->GetCurrentNode();
+    const QString path = !m_movedPath.isEmpty() ? std::exchange(m_movedPath, {}) : current ? current->path : QString();
+    m_nodes->UpdateNodes(m_document->GetNodes(), path);
+}
+
+void MainWindow::Slot_OnNodeMoved(const QString& from, const QString& to)
+{
+    const JobNode* current = m_nodes->GetCurrentNode();
+    const QString path = !m_movedPath.isEmpty() ? m_movedPath : current ? current->path : QString();
+    if (path.startsWith(from))
+        m_movedPath = to + path.mid(from.size());
 }
 
 void MainWindow::Slot_OnFileNameChanged()

@@ -58,6 +58,8 @@ private:
 
     void Slot_OnOpen();
     void Slot_OnReplaced();
+    void Slot_OnNodesChanged();
+    void Slot_OnNodeMoved(const QString& from, const QString& to);
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
@@ -85,6 +87,7 @@ private:
     QMenu* m_toolsMenu;
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
+    QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
     TKE::ErrorHandler::Subscription m_reports;
 };
 

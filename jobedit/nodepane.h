@@ -22,6 +22,9 @@ public:
 
     /// Shows these nodes and selects the first that has a dialog.
     void SetNodes(std::vector<JobNode> nodes);
+    /// Shows these nodes in place of those so far, and selects the one at `path` or the nearest that is still there.
+    /// What was collapsed stays so. CurrentChanged follows in any case, since values may have been made anew.
+    void UpdateNodes(std::vector<JobNode> nodes, const QString& path);
     const std::vector<JobNode>& GetNodes() const { return m_model->GetNodes(); }
     /// Null when none is selected.
     const JobNode* GetCurrentNode() const;
@@ -39,6 +42,8 @@ signals:
 
 private:
     void ApplyFilter(const QString& text);
+    void Fill(std::vector<JobNode> nodes);
+    QModelIndex ShownIndexOf(const QString& path) const;
 
     NodeTreeModel* m_model;
     QSortFilterProxyModel* m_filtered;

@@ -1,0 +1,2 @@
+#include "editorfixture.h"
+QTEST_MAIN(QObject)
