@@ -191,6 +191,7 @@ void JobReader::StartNode(Attributes attributes)
 
     OpenNode open{node.get(), {}};
     node->Create(m_tree, open.values);
+    Tick(); // a node may have thousands of values that the file does not name
     m_open.push_back(std::move(open));
     m_layout.byPath.insert(node->path, node.get());
     parent.Add(JobNode::Piece::Node, parent.nodes.size());

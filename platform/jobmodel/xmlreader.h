@@ -3,6 +3,7 @@
 #include "jobmodel/fileerror.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <expat.h>
 #include <functional>
 #include <memory>
@@ -24,7 +25,8 @@ class XmlReader
     Q_DECLARE_TR_FUNCTIONS(TKE::XmlReader)
 
 public:
-    /// Called once per block with the bytes done and all; false cancels.
+    /// Called once per block, and within one that takes long every few milliseconds, with the bytes done and all; false
+    /// cancels.
     using Progress = std::function<bool(qint64 done, qint64 all)>;
 
     XmlReader(const XmlReader&) = delete;
@@ -56,6 +58,9 @@ protected:
     virtual void OnOther() {}
     /// The whole file was read without a fault in its form.
     virtual void OnFinish() {}
+
+    /// Lets the progress be told when it is time. For who does much for a few bytes of the file.
+    void Tick();
 
     static const char* Find(Attributes attributes, std::string_view name);
     void WantText(bool on);
@@ -90,12 +95,15 @@ private:
 
     void Start(const char* name, Attributes attributes);
     void Stop();
+    void TellProgress(qint64 done);
     bool ReadBlock(QIODevice& device);
     void ReportFault();
     void Locate(QIODevice& device);
 
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     Progress m_progress;
+    QElapsedTimer m_sinceProgress;
+    qint64 m_size = 0; // of the file
     FileErrors m_errors;
     std::vector<qint64> m_offsets; // one per error, until they are located
     QString m_shownName;
@@ -105,6 +113,7 @@ private:
     qint64 m_keepFrom = 0;
     int m_depth = 0;
     bool m_stopped = false;
+    bool m_cancelled = false;
     bool m_failed = false;
 };
 
