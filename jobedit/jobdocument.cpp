@@ -113,7 +113,7 @@ void JobDocument::Collect(const TKE::Node& node, int parent, std::vector<JobNode
 {
     // Nodes between the root and the job, and those of channels, are not the job's own; what stands below them moves
     // up.
-    if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(node.GetPathName()))
+    if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(node.GetBasePath()))
     {
         const QString name = node.GetName().isEmpty() ? spec->name : node.GetName().toString();
         nodes.push_back({node.GetBasePath(), name, node.GetTypeText(), spec->band, spec->dataForm, parent});

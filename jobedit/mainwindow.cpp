@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "dialogpane.h"
+#include "longwork.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -71,11 +72,8 @@ bool MainWindow::NewFromSample()
 {
     if (!MayGo())
         return false;
-    TKE::FileError error;
-    if (m_document->NewFromSample(error))
-        return true;
-    Fail(tr("The sample job could not be made."), error);
-    return false;
+    return Run(tr("Making a new job"), tr("The sample job could not be made."),
+               [this](TKE::FileError& error) { return m_document->NewFromSample(error); });
 }
 
 bool MainWindow::OpenFile(const QString& fileName)
@@ -96,12 +94,12 @@ bool MainWindow::OpenFile(const QString& fileName)
             return false;
         access = JobDocument::Access::ReadOnly;
     }
-    TKE::FileError error;
-    if (!m_document->Open(fileName, access, error))
+    const QString name = QFileInfo(fileName).fileName();
+    if (!Run(tr("Opening %1").arg(name), tr("%1 could not be opened.").arg(name),
+             [&](TKE::FileError& error) { return m_document->Open(fileName, access, error); }))
     {
         if (!QFileInfo::exists(fileName))
             RecentFiles::Remove(fileName);
-        Fail(tr("%1 could not be opened.").arg(QFileInfo(fileName).fileName()), error);
         return false;
     }
     for (const TKE::FileError& warning : m_document->GetWarnings())
@@ -119,12 +117,10 @@ bool MainWindow::Save()
     if (!MayOverwrite())
         return false;
     ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->Save(error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(m_document->GetFileName()).fileName()), error);
+    const QString name = QFileInfo(m_document->GetFileName()).fileName();
+    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
+             [this](TKE::FileError& error) { return m_document->Save(error); }))
         return false;
-    }
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
 }
@@ -148,12 +144,10 @@ bool MainWindow::SaveTo(const QString& fileName)
         return false;
     }
     ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->SaveAs(fileName, error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()), error);
+    const QString name = QFileInfo(fileName).fileName();
+    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
+             [&](TKE::FileError& error) { return m_document->SaveAs(fileName, error); }))
         return false;
-    }
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
@@ -369,6 +363,25 @@ void MainWindow::ReportRefusals()
                             tr("The entry \"%1\" was refused and is not saved").arg(field->text()),
                             entry->GetRefusal());
     }
+}
+
+bool MainWindow::Run(const QString& title, const QString& failure,
+                     const std::function<bool(TKE::FileError&)>& operation)
+{
+    TKE::FileError error;
+    auto work = std::make_unique<LongWork>(title, this);
+    m_document->SetProgress([&work](qint64 done, qint64 all) { return work->Progress(done, all); });
+    const bool done = operation(error);
+    m_document->SetProgress({});
+    const bool cancelled = work->WasCancelled();
+    work.reset();
+    if (done)
+        return true;
+    if (cancelled)
+        statusBar()->showMessage(tr("%1: cancelled, nothing has changed").arg(title), 5000);
+    else
+        Fail(failure, error);
+    return false;
 }
 
 void MainWindow::Fail(const QString& text, const TKE::FileError& error)

@@ -69,6 +69,8 @@ private:
     bool MayOverwrite();
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
+    /// Runs an operation of the document that may take long, with its progress shown. Tells the user when it fails.
+    bool Run(const QString& title, const QString& failure, const std::function<bool(TKE::FileError&)>& operation);
     void Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
 

@@ -38,6 +38,7 @@ signals:
     void MenuRequested(const QPoint& globalPosition);
 
 private:
+    void Expand();
     void ApplyFilter(const QString& text);
 
     NodeTreeModel* m_model;

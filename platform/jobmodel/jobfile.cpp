@@ -26,13 +26,6 @@ bool Fail(FileError* error, const QString& file, const QString& reason)
     return false;
 }
 
-// Room for the values that the file names.
-void ReserveFor(const QIODevice& file, Tree& tree)
-{
-    constexpr qint64 bytesOfValue = 64; // roughly
-    tree.Reserve(size_t(file.size() / bytesOfValue));
-}
-
 // Makes the current generation of `fileName` its backup, too. An older backup stays until the new one is whole.
 bool BackUp(const QString& fileName, QString& reason)
 {
@@ -134,7 +127,6 @@ bool JobFile::LoadSample(FileError* error)
 bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error)
 {
     Tree fresh;
-    ReserveFor(device, fresh);
     auto layout = std::make_unique<JobLayout>();
     // What is replaced, or was begun in vain. The rules end before their values do: whoever hears of their end finds
     // the new job complete.
@@ -245,7 +237,6 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         return {error};
 
     Tree tree;
-    ReserveFor(file, tree);
     const JournalPause pause(tree);
     JobLayout layout;
     JobReader reader(tree, tree, layout, *model, fileName, JobReader::Purpose::Check);

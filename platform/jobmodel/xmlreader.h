@@ -69,6 +69,7 @@ protected:
     /// is an empty piece.
     qint64 PieceBegin() const { return XML_GetCurrentByteIndex(m_parser.get()); }
     qint64 PieceEnd() const { return PieceBegin() + XML_GetCurrentByteCount(m_parser.get()); }
+    qint64 FileSize() const { return m_size; }
     qint64 FileEnd() const { return m_windowBegin + qint64(m_window.size()); }
     /// The bytes of the file from `begin` to `end`; nothing before the place last released. Valid until the next call
     /// from outside.
