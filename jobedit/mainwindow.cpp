@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "dialogpane.h"
+#include "languages.h"
 #include "longwork.h"
 #include "messagelist.h"
 #include "nightcolours.h"
@@ -30,8 +31,13 @@ namespace JOBEDIT
 {
 
 MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent)
+    : MainWindow(std::make_unique<JobDocument>(std::move(model)), parent)
+{
+}
+
+MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     : QMainWindow(parent)
-    , m_document(new JobDocument(std::move(model), this))
+    , m_document(document.release())
     , m_nodes(new NodePane(this))
     , m_dialog(new DialogPane(this))
     , m_messages(new MessageList(this))
@@ -44,6 +50,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     , m_toolsMenu(menuBar()->addMenu(tr("&Tools")))
     , m_helpMenu(menuBar()->addMenu(tr("&Help")))
 {
+    m_document->setParent(this);
     MakePanes();
     FillFileMenu();
     FillNodeMenu();
@@ -59,6 +66,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     m_reports = TKE::ErrorHandler::Interface().Subscribe(
         [this](const TKE::ErrorReport& report) { m_messages->Add(report.severity, report.text, report.details); });
     Slot_OnFileNameChanged();
+    Slot_OnReplaced();
     m_nodes->View()->setFocus();
 }
 
@@ -66,6 +74,41 @@ MainWindow::~MainWindow()
 {
     // Panels look into the tree, so they go while the document still holds it.
     m_dialog->ShowNode(nullptr);
+}
+
+std::unique_ptr<JobDocument> MainWindow::TakeDocument()
+{
+    m_document->setParent(nullptr);
+    return std::unique_ptr<JobDocument>(m_document);
+}
+
+void MainWindow::TakeView(MainWindow& other)
+{
+    restoreGeometry(other.saveGeometry());
+    restoreState(other.saveState());
+    m_splitter->restoreState(other.m_splitter->saveState());
+    m_messages->TakeFrom(*other.m_messages);
+    m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
+    GoTo(other.GetPlace());
+    for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
+        panel->MakeAgain(this);
+    FocusPane(other.CurrentPane());
+}
+
+Place MainWindow::GetPlace() const
+{
+    const JobNode* node = m_nodes->GetCurrentNode();
+    const QTabWidget* dialog = m_dialog->GetDialog();
+    return {node ? node->path : QString(), m_dialog->GetForm(), dialog ? dialog->currentIndex() : 0};
+}
+
+void MainWindow::GoTo(const Place& place)
+{
+    m_dialog->SetForm(place.form);
+    if (!m_nodes->SelectNode(place.node))
+        return;
+    if (QTabWidget* dialog = m_dialog->GetDialog(); dialog && dialog->isTabEnabled(place.tab))
+        dialog->setCurrentIndex(place.tab);
 }
 
 bool MainWindow::NewFromSample()
@@ -239,6 +282,9 @@ void MainWindow::FillViewMenu()
     night->setCheckable(true);
     night->setChecked(NightColours::AreOn());
     connect(night, &QAction::toggled, this, &NightColours::Switch);
+    auto* languages = new Languages(menu);
+    connect(languages, &Languages::Chosen, this, &MainWindow::LanguageChosen);
+    menu->addMenu(languages);
     menu->addSeparator();
     menu->addAction(tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
     menu->addAction(tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this, [this] { MovePane(-1); });
@@ -288,18 +334,30 @@ void MainWindow::FillPanelMenu()
     m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
 }
 
-void MainWindow::MovePane(int step)
+int MainWindow::CurrentPane() const
 {
-    QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    const QWidget* focus = focusWidget();
     int pane = 0;
     // The dialog stands within the pane of the switch: the innermost counts.
     for (int index = 0; index < int(std::size(panes)); ++index)
         if (panes[index] && focus && (panes[index] == focus || panes[index]->isAncestorOf(focus)))
             pane = index;
+    return pane;
+}
+
+void MainWindow::MovePane(int step)
+{
+    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    int pane = CurrentPane();
     do
         pane = (pane + step + int(std::size(panes))) % int(std::size(panes));
     while (!panes[pane] || !panes[pane]->isVisible());
+    FocusPane(pane);
+}
+
+void MainWindow::FocusPane(int pane)
+{
     switch (pane)
     {
     case 0:

@@ -14,6 +14,13 @@ class PanelWindow : public QDialog
 
 public:
     PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent);
+
+    /// Shows the same panel at the same place in the language of now.
+    void MakeAgain(QWidget* parent) const;
+
+private:
+    const JobNode m_node;
+    const DirectPanel& m_panel;
 };
 
 } // namespace JOBEDIT
