@@ -1,9 +1,8 @@
 #include "commandline.h"
 
 #include "application/errorhandler.h"
-#include "application/translationcenter.h"
-#include "jobdocument.h"
-#include "mainwindow.h"
+#include "editor.h"
+#include "languages.h"
 #include "nightcolours.h"
 #include "render.h"
 
@@ -164,7 +163,8 @@ int RenderFile(const QString& file, const RenderRequest& request, QTextStream& o
 int Edit(const QString& file)
 {
     NightColours::Restore();
-    MainWindow window(JobDocument::ConfiguredModel());
+    Editor editor(JobDocument::ConfiguredModel());
+    MainWindow& window = editor.Window();
     // A file that cannot be opened is reported in the window, which then starts with the sample.
     if (file.isEmpty() || !window.OpenFile(file))
         window.NewFromSample();
@@ -186,9 +186,11 @@ int RunCommandLine(int argc, char* argv[])
 
     Arguments first;
     const bool parsed = first.parser.parse(QCoreApplication::arguments());
+    const bool isWindow = first.Command().isEmpty() && qobject_cast<QApplication*>(application.get());
     if (first.parser.isSet(first.language))
-        QLocale::setDefault(QLocale(first.parser.value(first.language)));
-    TKE::TranslationCenter::Instance()->Install(QLocale());
+        Languages::Apply(first.parser.value(first.language));
+    else
+        Languages::Apply(isWindow ? Languages::GetChoice() : QString());
 
     Arguments arguments; // once more, with the descriptions translated
     arguments.parser.parse(QCoreApplication::arguments());

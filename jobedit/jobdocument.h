@@ -35,6 +35,8 @@ public:
     bool Open(const QString& fileName, Access access, TKE::FileError& error);
     bool Save(TKE::FileError& error);
     bool SaveAs(const QString& fileName, TKE::FileError& error);
+    /// Told while a job is opened or saved; may cancel that. Empty: nobody.
+    void SetProgress(TKE::JobFile::Progress progress) { m_file.SetProgress(std::move(progress)); }
 
     /// Who else has the file open in an editor; empty when nobody has.
     QString LockedBy(const QString& fileName) const;

@@ -2,6 +2,8 @@
 
 #include "dialogpane.h"
 #include "editactions.h"
+#include "languages.h"
+#include "longwork.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -30,8 +32,13 @@ namespace JOBEDIT
 {
 
 MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent)
+    : MainWindow(std::make_unique<JobDocument>(std::move(model)), parent)
+{
+}
+
+MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     : QMainWindow(parent)
-    , m_document(new JobDocument(std::move(model), this))
+    , m_document(document.release())
     , m_nodes(new NodePane(this))
     , m_dialog(new DialogPane(this))
     , m_messages(new MessageList(this))
@@ -44,6 +51,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     , m_toolsMenu(menuBar()->addMenu(tr("&Tools")))
     , m_helpMenu(menuBar()->addMenu(tr("&Help")))
 {
+    m_document->setParent(this);
     MakePanes();
     FillFileMenu();
     FillNodeMenu();
@@ -62,6 +70,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     m_reports = TKE::ErrorHandler::Interface().Subscribe(
         [this](const TKE::ErrorReport& report) { m_messages->Add(report.severity, report.text, report.details); });
     Slot_OnFileNameChanged();
+    Slot_OnReplaced();
     m_nodes->View()->setFocus();
 }
 
@@ -71,15 +80,47 @@ MainWindow::~MainWindow()
     m_dialog->ShowNode(nullptr);
 }
 
+std::unique_ptr<JobDocument> MainWindow::TakeDocument()
+{
+    m_document->setParent(nullptr);
+    return std::unique_ptr<JobDocument>(m_document);
+}
+
+void MainWindow::TakeView(MainWindow& other)
+{
+    restoreGeometry(other.saveGeometry());
+    restoreState(other.saveState());
+    m_splitter->restoreState(other.m_splitter->saveState());
+    m_messages->TakeFrom(*other.m_messages);
+    m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
+    GoTo(other.GetPlace());
+    for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
+        panel->MakeAgain(this);
+    FocusPane(other.CurrentPane());
+}
+
+Place MainWindow::GetPlace() const
+{
+    const JobNode* node = m_nodes->GetCurrentNode();
+    const QTabWidget* dialog = m_dialog->GetDialog();
+    return {node ? node->path : QString(), m_dialog->GetForm(), dialog ? dialog->currentIndex() : 0};
+}
+
+void MainWindow::GoTo(const Place& place)
+{
+    m_dialog->SetForm(place.form);
+    if (!m_nodes->SelectNode(place.node))
+        return;
+    if (QTabWidget* dialog = m_dialog->GetDialog(); dialog && dialog->isTabEnabled(place.tab))
+        dialog->setCurrentIndex(place.tab);
+}
+
 bool MainWindow::NewFromSample()
 {
     if (!MayGo())
         return false;
-    TKE::FileError error;
-    if (m_document->NewFromSample(error))
-        return true;
-    Fail(tr("The sample job could not be made."), error);
-    return false;
+    return Run(tr("Making a new job"), tr("The sample job could not be made."),
+               [this](TKE::FileError& error) { return m_document->NewFromSample(error); });
 }
 
 bool MainWindow::OpenFile(const QString& fileName)
@@ -100,12 +141,12 @@ bool MainWindow::OpenFile(const QString& fileName)
             return false;
         access = JobDocument::Access::ReadOnly;
     }
-    TKE::FileError error;
-    if (!m_document->Open(fileName, access, error))
+    const QString name = QFileInfo(fileName).fileName();
+    if (!Run(tr("Opening %1").arg(name), tr("%1 could not be opened.").arg(name),
+             [&](TKE::FileError& error) { return m_document->Open(fileName, access, error); }))
     {
         if (!QFileInfo::exists(fileName))
             RecentFiles::Remove(fileName);
-        Fail(tr("%1 could not be opened.").arg(QFileInfo(fileName).fileName()), error);
         return false;
     }
     for (const TKE::FileError& warning : m_document->GetWarnings())
@@ -123,12 +164,10 @@ bool MainWindow::Save()
     if (!MayOverwrite())
         return false;
     ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->Save(error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(m_document->GetFileName()).fileName()), error);
+    const QString name = QFileInfo(m_document->GetFileName()).fileName();
+    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
+             [this](TKE::FileError& error) { return m_document->Save(error); }))
         return false;
-    }
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
 }
@@ -152,12 +191,10 @@ bool MainWindow::SaveTo(const QString& fileName)
         return false;
     }
     ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->SaveAs(fileName, error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()), error);
+    const QString name = QFileInfo(fileName).fileName();
+    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
+             [&](TKE::FileError& error) { return m_document->SaveAs(fileName, error); }))
         return false;
-    }
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
@@ -249,6 +286,9 @@ void MainWindow::FillViewMenu()
     night->setCheckable(true);
     night->setChecked(NightColours::AreOn());
     connect(night, &QAction::toggled, this, &NightColours::Switch);
+    auto* languages = new Languages(menu);
+    connect(languages, &Languages::Chosen, this, &MainWindow::LanguageChosen);
+    menu->addMenu(languages);
     menu->addSeparator();
     menu->addAction(tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
     menu->addAction(tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this, [this] { MovePane(-1); });
@@ -316,18 +356,30 @@ void MainWindow::FillPanelMenu()
     m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
 }
 
-void MainWindow::MovePane(int step)
+int MainWindow::CurrentPane() const
 {
-    QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    const QWidget* focus = focusWidget();
     int pane = 0;
     // The dialog stands within the pane of the switch: the innermost counts.
     for (int index = 0; index < int(std::size(panes)); ++index)
         if (panes[index] && focus && (panes[index] == focus || panes[index]->isAncestorOf(focus)))
             pane = index;
+    return pane;
+}
+
+void MainWindow::MovePane(int step)
+{
+    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    int pane = CurrentPane();
     do
         pane = (pane + step + int(std::size(panes))) % int(std::size(panes));
     while (!panes[pane] || !panes[pane]->isVisible());
+    FocusPane(pane);
+}
+
+void MainWindow::FocusPane(int pane)
+{
     switch (pane)
     {
     case 0:
@@ -391,6 +443,25 @@ void MainWindow::ReportRefusals()
                             tr("The entry \"%1\" was refused and is not saved").arg(field->text()),
                             entry->GetRefusal());
     }
+}
+
+bool MainWindow::Run(const QString& title, const QString& failure,
+                     const std::function<bool(TKE::FileError&)>& operation)
+{
+    TKE::FileError error;
+    auto work = std::make_unique<LongWork>(title, this);
+    m_document->SetProgress([&work](qint64 done, qint64 all) { return work->Progress(done, all); });
+    const bool done = operation(error);
+    m_document->SetProgress({});
+    const bool cancelled = work->WasCancelled();
+    work.reset();
+    if (done)
+        return true;
+    if (cancelled)
+        statusBar()->showMessage(tr("%1: cancelled, nothing has changed").arg(title), 5000);
+    else
+        Fail(failure, error);
+    return false;
 }
 
 void MainWindow::Fail(const QString& text, const TKE::FileError& error)

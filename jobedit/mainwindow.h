@@ -3,6 +3,7 @@
 #include "application/errorhandler.h"
 #include "chains.h"
 #include "jobdocument.h"
+#include "place.h"
 
 #include <QMainWindow>
 
@@ -26,7 +27,14 @@ class MainWindow : public QMainWindow
 
 public:
     explicit MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent = nullptr);
+    /// A window on a document that is in use already.
+    explicit MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// For the window that comes after this one: the document outlives this window then.
+    std::unique_ptr<JobDocument> TakeDocument();
+    /// Shows what `other`, whose document this window has taken over, shows: place, messages, panes.
+    void TakeView(MainWindow& other);
 
     // All return whether it was done: not when the user cancelled, nor when it failed, which the user has been told
     // then.
@@ -46,6 +54,13 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    Place GetPlace() const;
+    /// What of the place the job has.
+    void GoTo(const Place& place);
+
+signals:
+    /// "de", for example; empty: that of the system.
+    void LanguageChosen(const QString& language);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -63,6 +78,8 @@ private:
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
+    int CurrentPane() const;
+    void FocusPane(int pane);
     void MovePane(int step);
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.
@@ -71,6 +88,8 @@ private:
     bool MayOverwrite();
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
+    /// Runs an operation of the document that may take long, with its progress shown. Tells the user when it fails.
+    bool Run(const QString& title, const QString& failure, const std::function<bool(TKE::FileError&)>& operation);
     void Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
 

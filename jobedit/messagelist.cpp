@@ -57,6 +57,13 @@ void MessageList::Add(TKE::Severity severity, const QString& text, const QString
     scrollToItem(item);
 }
 
+void MessageList::TakeFrom(MessageList& other)
+{
+    while (QListWidgetItem* item = other.takeItem(0))
+        addItem(item);
+    scrollToBottom();
+}
+
 QString MessageList::GetText() const
 {
     const bool all = selectedItems().isEmpty();

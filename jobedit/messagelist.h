@@ -16,6 +16,8 @@ public:
     explicit MessageList(QWidget* parent = nullptr);
 
     void Add(TKE::Severity severity, const QString& text, const QString& details = {});
+    /// Moves all messages of `other` here.
+    void TakeFrom(MessageList& other);
     /// The selected messages, or all where none is selected, one a line.
     QString GetText() const;
 

@@ -93,7 +93,7 @@ void NodePane::Fill(std::vector<JobNode> nodes)
 {
     m_view->setCurrentIndex({});
     m_model->SetNodes(std::move(nodes));
-    m_view->expandAll();
+    Expand();
     m_view->resizeColumnToContents(0);
 }
 
@@ -120,10 +120,20 @@ bool NodePane::SelectNode(const QString& path)
     return true;
 }
 
+void NodePane::Expand()
+{
+    // Nobody looks through thousands of rows, and to lay them out takes its time.
+    constexpr size_t mostExpanded = 3000;
+    if (m_model->GetNodes().size() <= mostExpanded)
+        m_view->expandAll();
+    else
+        m_view->expandToDepth(0);
+}
+
 void NodePane::ApplyFilter(const QString& text)
 {
     m_filtered->setFilterFixedString(text.trimmed());
-    m_view->expandAll();
+    Expand();
     m_view->scrollTo(m_view->currentIndex());
 }
 

@@ -41,6 +41,7 @@ signals:
     void MenuRequested(const QPoint& globalPosition);
 
 private:
+    void Expand();
     void ApplyFilter(const QString& text);
     void Fill(std::vector<JobNode> nodes);
     QModelIndex ShownIndexOf(const QString& path) const;

@@ -2,15 +2,15 @@
 
 #include "jobnode.h"
 
+#include <QAbstractItemModel>
 #include <QHash>
-#include <QStandardItemModel>
 #include <vector>
 
 namespace JOBEDIT
 {
 
 /// The nodes of the job as a tree: name and type text. Nodes without a dialog are dimmed.
-class NodeTreeModel : public QStandardItemModel
+class NodeTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
@@ -24,12 +24,31 @@ public:
     /// Invalid when no node has this path ("/" at the end or not).
     QModelIndex IndexOf(const QString& path) const;
 
+    QModelIndex index(int row, int column, const QModelIndex& parent) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent) const override;
+    int columnCount(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    /// The place of a node in the tree. The number of the node stands in the indices.
+    struct Place
+    {
+        int row = 0;        ///< among those with the same parent
+        int belowBegin = 0; ///< in m_below
+        int belowCount = 0;
+    };
+    const Place& PlaceOf(int number) const { return m_places[size_t(number + 1)]; }
+    const Place& PlaceOf(const QModelIndex& index) const
+    {
+        return PlaceOf(index.isValid() ? int(index.internalId()) : -1);
+    }
+
     std::vector<JobNode> m_nodes;
-    QHash<QString, size_t> m_numbers; // by path
-    std::vector<QStandardItem*> m_items; // one per node, owned by the model
+    QHash<QString, int> m_numbers;      // of the nodes, by path
+    std::vector<Place> m_places = {{}}; // that of the root, then one per node
+    std::vector<int> m_below;           // numbers of nodes; those with the same parent side by side
 };
 
 } // namespace JOBEDIT

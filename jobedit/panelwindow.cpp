@@ -10,8 +10,7 @@
 namespace JOBEDIT
 {
 
-PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent)
-    : QDialog(parent), m_path(node.path)
+PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent) : QDialog(parent), m_node(node), m_panel(panel)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("%1 - %2").arg(node.path, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
@@ -28,6 +27,13 @@ PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget*
     layout->addWidget(buttons);
     const QSize frame(40, 70); // scroll bar, margins and buttons
     resize(area->widget()->sizeHint().expandedTo({500, 300}).boundedTo({1200, 800}) + frame);
+}
+
+void PanelWindow::MakeAgain(QWidget* parent) const
+{
+    auto* again = new PanelWindow(m_node, m_panel, parent);
+    again->restoreGeometry(saveGeometry());
+    again->show();
 }
 
 } // namespace JOBEDIT

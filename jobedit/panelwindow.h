@@ -16,10 +16,13 @@ public:
     PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent);
 
     /// Of the node.
-    const QString& GetPath() const { return m_path; }
+    const QString& GetPath() const { return m_node.path; }
+    /// Shows the same panel at the same place in the language of now.
+    void MakeAgain(QWidget* parent) const;
 
 private:
-    QString m_path;
+    const JobNode m_node;
+    const DirectPanel& m_panel;
 };
 
 } // namespace JOBEDIT

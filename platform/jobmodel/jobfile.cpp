@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <filesystem>
 
 namespace TKE
@@ -23,13 +24,6 @@ bool Fail(FileError* error, const QString& file, const QString& reason)
     if (error)
         *error = {.file = file, .reason = reason};
     return false;
-}
-
-// Room for the values that the file names.
-void ReserveFor(const QIODevice& file, Tree& tree)
-{
-    constexpr qint64 bytesOfValue = 64; // roughly
-    tree.Reserve(size_t(file.size() / bytesOfValue));
 }
 
 // Makes the current generation of `fileName` its backup, too. An older backup stays until the new one is whole.
@@ -108,8 +102,15 @@ bool JobFile::LoadSample(FileError* error)
 bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error)
 {
     Tree fresh;
-    ReserveFor(device, fresh);
     auto layout = std::make_unique<JobLayout>();
+    // What is replaced, or was begun in vain. The rules end before their values do: whoever hears of their end finds
+    // the new job complete.
+    const auto dispose = qScopeGuard(
+        [&]
+        {
+            JobLayout::DisposeLater(std::move(layout));
+            fresh.ClearLater();
+        });
     {
         const JournalPause pause(m_tree);
         JobReader reader(fresh, m_tree, *layout, *GetModel(), shownName, JobReader::Purpose::Load);
@@ -128,9 +129,6 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error
     JobModel::KeepForValues(m_model);
     m_tree.Swap(fresh);
     m_layout.swap(layout);
-    // The rules of the old values end before these do: whoever hears of their end finds the new job complete.
-    layout.reset();
-    fresh.Clear();
     return true;
 }
 
@@ -146,8 +144,9 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Fail(error, fileName, file.errorString());
-    if (!JobWriter(m_tree, file).Write(*m_layout))
-        return Fail(error, fileName, file.errorString());
+    JobWriter writer(m_tree, file, [this](qint64 done) { return !m_progress || m_progress(done, m_layout->byPath.size()); });
+    if (!writer.Write(*m_layout))
+        return Fail(error, fileName, writer.WasCancelled() ? tr("Cancelled") : file.errorString());
     QString reason;
     if (QFileInfo::exists(fileName) && !BackUp(fileName, reason))
         return Fail(error, fileName + QLatin1Char('~'), tr("The previous generation cannot be kept: %1").arg(reason));
@@ -213,7 +212,6 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         return {error};
 
     Tree tree;
-    ReserveFor(file, tree);
     const JournalPause pause(tree);
     JobLayout layout;
     JobReader reader(tree, tree, layout, *model, fileName, JobReader::Purpose::Check);

@@ -34,7 +34,9 @@ class JobFile
     Q_DECLARE_TR_FUNCTIONS(TKE::JobFile)
 
 public:
-    /// Called now and then with the bytes done and all; false cancels.
+    /// Called every few milliseconds while a job is loaded or saved, with the work done and all of it: bytes read, or
+    /// nodes written. False cancels; the error then says so, and neither the job nor the file has changed. It must not
+    /// change the job.
     using Progress = std::function<bool(qint64 done, qint64 all)>;
 
     enum class DiskState

@@ -1,5 +1,7 @@
 #include "jobmodel/joblayout.h"
 
+#include "value/idledisposal.h"
+
 namespace TKE
 {
 
@@ -104,6 +106,39 @@ std::shared_ptr<const NodeTemplate> JobLayout::TemplateFor(const JobModel& model
     if (!known)
         known = std::make_shared<NodeTemplate>(model, spec);
     return known;
+}
+
+namespace
+{
+
+void EndRules(JobNode& node)
+{
+    node.rules.reset();
+    for (const auto& below : node.nodes)
+    {
+        if (below)
+            EndRules(*below);
+    }
+}
+
+} // namespace
+
+void JobLayout::DisposeLater(std::unique_ptr<JobLayout> layout)
+{
+    EndRules(layout->root);
+    IdleDisposal::Add(
+        [remains = std::shared_ptr<JobLayout>(std::move(layout))]
+        {
+            // A node without further ones below.
+            JobNode* node = &remains->root;
+            while (!node->nodes.empty() && node->nodes.back())
+                node = node->nodes.back().get();
+            if (!node->nodes.empty())
+                node->nodes.pop_back(); // one that was removed before
+            else if (node->parent)
+                node->parent->nodes.pop_back();
+            return !remains->root.nodes.empty();
+        });
 }
 
 void JobLayout::Forget(const JobNode& node)

@@ -83,6 +83,8 @@ struct JobLayout
 
     /// The template of nodes like `spec`; made once.
     std::shared_ptr<const NodeTemplate> TemplateFor(const JobModel& model, const NodeSpec& spec);
+    /// Ends all rules of `layout` now and deletes the rest of it a little at a time.
+    static void DisposeLater(std::unique_ptr<JobLayout> layout);
     /// Takes `node` and all below it out of byPath.
     void Forget(const JobNode& node);
 

@@ -189,12 +189,28 @@ void JobReader::StartNode(Attributes attributes)
     m_taken = PieceEnd();
     Release(m_taken);
 
+    MakeRoom();
     OpenNode open{node.get(), {}};
     node->Create(m_tree, open.values);
+    Tick(); // a node may have thousands of values that the file does not name
     m_open.push_back(std::move(open));
     m_layout.byPath.insert(node->path, node.get());
     parent.Add(JobNode::Piece::Node, parent.nodes.size());
     parent.nodes.push_back(std::move(node));
+}
+
+// Room for the values of the whole file: roughly by its size, then as many as there will be if it goes on as so far,
+// and some. To make room again moves all values there are, for which the window does not answer.
+void JobReader::MakeRoom()
+{
+    constexpr size_t bytesOfValue = 64;
+    const size_t made = m_tree.ValueCount();
+    if (made < m_room)
+        return;
+    const double perByte = 1.2 * double(made) / double(std::max<qint64>(PieceBegin(), 1));
+    m_room = made == 0 ? size_t(FileSize()) / bytesOfValue
+                       : std::clamp(size_t(perByte * double(FileSize())), made * 3 / 2, made * 8);
+    m_tree.Reserve(m_room);
 }
 
 void JobReader::EndNode()

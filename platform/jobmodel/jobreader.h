@@ -42,6 +42,7 @@ private:
     void StartRoot(std::string_view name, Attributes attributes);
     void StartNode(Attributes attributes);
     bool ReadSpec(Attributes attributes, NodeSpec& spec);
+    void MakeRoom();
     void EndNode();
     void StartValue(Attributes attributes);
     void EndValue();
@@ -57,6 +58,7 @@ private:
     const JobModel& m_model;
     std::vector<OpenNode> m_open; // the root first
     qint64 m_taken = 0;           // the file is in the layout up to here
+    size_t m_room = 0;            // values that the tree has room for
     int m_unknownDepth = 0;       // how deep in an unknown element
 
     // The value being read.

@@ -22,8 +22,10 @@ std::string Opened(std::string startTag)
 
 } // namespace
 
-JobWriter::JobWriter(const Tree& tree, QIODevice& device) : m_tree(tree), m_device(device)
+JobWriter::JobWriter(const Tree& tree, QIODevice& device, Progress progress)
+    : m_tree(tree), m_device(device), m_progress(std::move(progress))
 {
+    m_sinceProgress.start();
     m_out.reserve(blockSize + blockSize / 4);
 }
 
@@ -42,6 +44,16 @@ void JobWriter::FlushFull()
         return;
     m_failed = m_failed || m_device.write(m_out.data(), qint64(m_out.size())) != qint64(m_out.size());
     m_out.clear();
+}
+
+void JobWriter::Tick()
+{
+    constexpr qint64 tickMs = 10;
+    if (!m_progress || m_cancelled || !m_sinceProgress.hasExpired(tickMs))
+        return;
+    m_cancelled = !m_progress(m_nodesDone);
+    m_failed = m_failed || m_cancelled;
+    m_sinceProgress.start();
 }
 
 void JobWriter::AppendElement(std::string& out, const NodeTemplate::Entry& entry, const ValueBase& value)
@@ -98,8 +110,10 @@ std::vector<size_t> JobWriter::FindNew(const JobNode& node, const std::vector<Va
 
 void JobWriter::WriteNode(const JobNode& node)
 {
+    ++m_nodesDone;
+    Tick();
     std::vector<ValueBase*> values;
-    if (!node.FindValues(m_tree, values))
+    if (m_cancelled || !node.FindValues(m_tree, values))
         return;
     const std::vector<size_t> added = FindNew(node, values);
     const auto isValue = [](const JobNode::Piece& piece)

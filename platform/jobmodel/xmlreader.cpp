@@ -12,6 +12,7 @@ namespace
 
 constexpr qint64 blockSize = 256 * 1024;
 constexpr qint64 longestPiece = 4 * 1024 * 1024; // of one tag or comment
+constexpr qint64 tickMs = 10;
 constexpr int deepest = 256;
 constexpr qsizetype mostErrors = 1000;
 
@@ -117,6 +118,25 @@ void XmlReader::Stop()
     XML_StopParser(m_parser.get(), XML_FALSE);
 }
 
+void XmlReader::Tick()
+{
+    if (!m_stopped && m_progress && m_sinceProgress.hasExpired(tickMs))
+        TellProgress(PieceBegin());
+}
+
+void XmlReader::TellProgress(qint64 done)
+{
+    if (!m_progress || m_cancelled)
+        return;
+    const bool goesOn = m_progress(done, m_size);
+    m_sinceProgress.start();
+    if (goesOn)
+        return;
+    m_cancelled = true;
+    Report(FileError::Severity::Error, -1, {}, tr("Cancelled"));
+    Stop();
+}
+
 void XmlReader::Report(FileError::Severity severity, qint64 offset, const QString& itemPath, const QString& reason)
 {
     const bool isError = severity == FileError::Severity::Error;
@@ -132,16 +152,14 @@ void XmlReader::Report(FileError::Severity severity, qint64 offset, const QStrin
 
 bool XmlReader::Read(QIODevice& device)
 {
-    const qint64 all = device.size();
+    m_size = device.size();
+    m_sinceProgress.start();
     bool more = true;
     while (more && !m_stopped)
     {
         more = ReadBlock(device);
-        if (!m_stopped && m_progress && !m_progress(FileEnd(), all))
-        {
-            Report(FileError::Severity::Error, -1, {}, tr("Cancelled"));
-            Stop();
-        }
+        if (!m_stopped)
+            TellProgress(FileEnd());
     }
     if (!m_stopped)
         OnFinish();
@@ -229,6 +247,7 @@ void XmlReader::Locate(QIODevice& device)
     };
     for (qint64 count = 0; next != order.end() && (count = device.read(block.data(), blockSize)) > 0;)
     {
+        TellProgress(FileEnd());
         for (const char byte : std::string_view(block).substr(0, size_t(count)))
         {
             placeAll();

@@ -3,6 +3,7 @@
 #include "jobmodel/fileerror.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <expat.h>
 #include <functional>
 #include <memory>
@@ -24,7 +25,8 @@ class XmlReader
     Q_DECLARE_TR_FUNCTIONS(TKE::XmlReader)
 
 public:
-    /// Called once per block with the bytes done and all; false cancels.
+    /// Called once per block, and within one that takes long every few milliseconds, with the bytes done and all; false
+    /// cancels.
     using Progress = std::function<bool(qint64 done, qint64 all)>;
 
     XmlReader(const XmlReader&) = delete;
@@ -57,6 +59,9 @@ protected:
     /// The whole file was read without a fault in its form.
     virtual void OnFinish() {}
 
+    /// Lets the progress be told when it is time. For who does much for a few bytes of the file.
+    void Tick();
+
     static const char* Find(Attributes attributes, std::string_view name);
     void WantText(bool on);
 
@@ -64,6 +69,7 @@ protected:
     /// is an empty piece.
     qint64 PieceBegin() const { return XML_GetCurrentByteIndex(m_parser.get()); }
     qint64 PieceEnd() const { return PieceBegin() + XML_GetCurrentByteCount(m_parser.get()); }
+    qint64 FileSize() const { return m_size; }
     qint64 FileEnd() const { return m_windowBegin + qint64(m_window.size()); }
     /// The bytes of the file from `begin` to `end`; nothing before the place last released. Valid until the next call
     /// from outside.
@@ -90,12 +96,15 @@ private:
 
     void Start(const char* name, Attributes attributes);
     void Stop();
+    void TellProgress(qint64 done);
     bool ReadBlock(QIODevice& device);
     void ReportFault();
     void Locate(QIODevice& device);
 
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     Progress m_progress;
+    QElapsedTimer m_sinceProgress;
+    qint64 m_size = 0; // of the file
     FileErrors m_errors;
     std::vector<qint64> m_offsets; // one per error, until they are located
     QString m_shownName;
@@ -105,6 +114,7 @@ private:
     qint64 m_keepFrom = 0;
     int m_depth = 0;
     bool m_stopped = false;
+    bool m_cancelled = false;
     bool m_failed = false;
 };
 

@@ -1,5 +1,6 @@
 #include "value/tree.h"
 
+#include "value/idledisposal.h"
 #include "value/pointerindex.h"
 
 #include <QStringBuilder>
@@ -274,6 +275,33 @@ void Tree::Clear()
         nodes.push_back(removal.Bury(std::move(node)));
     for (Node* node : nodes)
         node->Release();
+}
+
+void Tree::ClearLater()
+{
+    m_index->nodes.Clear();
+    m_index->values.Clear();
+    auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(std::exchange(m_index->topNodes, {}));
+    for (const auto& node : *remains)
+        node->Release();
+    IdleDisposal::Add([remains] { return DeleteSome(*remains); });
+}
+
+// Some values or a node of the last branch. Whether there is more.
+bool Tree::DeleteSome(std::vector<std::unique_ptr<Node>>& branches)
+{
+    constexpr size_t mostValues = 1000;
+    if (branches.empty())
+        return false;
+    auto* siblings = &branches;
+    while (!siblings->back()->m_nodes.empty())
+        siblings = &siblings->back()->m_nodes;
+    auto& values = siblings->back()->m_values;
+    if (values.size() > mostValues)
+        values.resize(values.size() - mostValues);
+    else
+        siblings->pop_back();
+    return true;
 }
 
 void Tree::Reserve(size_t values)

@@ -59,6 +59,8 @@ public:
     void RemoveBranch(QStringView path);
     void RemoveValue(QStringView path);
     void Clear();
+    /// As Clear, but what was removed is deleted later, a little at a time, so that a large tree holds nobody up.
+    void ClearLater();
     /// Makes room for that many values before many are created.
     void Reserve(size_t values);
     size_t ValueCount() const;
@@ -80,6 +82,7 @@ private:
     };
     static Place Split(QStringView path);
     static const QString& Intern(QStringView name);
+    static bool DeleteSome(std::vector<std::unique_ptr<Node>>& branches);
     Node* EnsureNode(QStringView prefix);
     bool Insert(Node& node, std::unique_ptr<ValueBase> value);
     template <class V> V* Add(Node& node, std::unique_ptr<V> value)

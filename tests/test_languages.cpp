@@ -1,0 +1,199 @@
+#include "jobedit/dialogpane.h"
+#include "jobedit/editor.h"
+#include "jobedit/languages.h"
+#include "jobedit/messagelist.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/panelwindow.h"
+#include "keys/keys.h"
+
+#include <QLockFile>
+#include <QtTest>
+#include <QtWidgets>
+
+// The catalogues stand in a static library.
+static void InitResources()
+{
+    Q_INIT_RESOURCE(ipcparam_translations);
+}
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
+
+} // namespace
+
+class TestLanguages : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<Editor> m_editor;
+
+    MainWindow& Window() { return m_editor->Window(); }
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+
+    QLineEdit* FrequencyField()
+    {
+        return Window().Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_FREQUENCY)->findChild<QLineEdit*>();
+    }
+    /// As the user does: through the menus of the window that is up.
+    void Choose(const QString& language)
+    {
+        const QPointer<MainWindow> before = &Window();
+        for (QAction* action : Window().findChild<Languages*>()->actions())
+            if (action->text().remove('&') == language)
+                action->trigger();
+        QTRY_VERIFY(!before);
+        QVERIFY(QTest::qWaitForWindowActive(&Window()));
+    }
+    QStringList MenuTitles()
+    {
+        QStringList titles;
+        for (const QAction* menu : Window().menuBar()->actions())
+            titles << menu->text().remove('&');
+        return titles;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        InitResources();
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+    }
+
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        Languages::Apply("en");
+        m_editor = std::make_unique<Editor>(JobModel::Load());
+        Window().show();
+        QVERIFY(QTest::qWaitForWindowActive(&Window()));
+        QVERIFY(Window().NewFromSample());
+        QVERIFY(Window().Nodes().SelectNode(tunerPath));
+    }
+
+    void cleanup()
+    {
+        m_editor.reset();
+        Tree::Instance()->Clear();
+        Languages::Apply("en");
+    }
+
+    void allTextsFollowTheLanguageAndItIsKept()
+    {
+        QCOMPARE(MenuTitles().first(), QStringLiteral("File"));
+        Choose("Deutsch");
+        QCOMPARE(MenuTitles().first(), QStringLiteral("Datei"));
+        QCOMPARE(Languages::GetChoice(), QStringLiteral("de"));
+        QCOMPARE(QLocale().decimalPoint(), QStringLiteral(","));
+        // Texts of the library, of the model's units, and of Qt.
+        QTabWidget* tabs = Window().Dialog().GetDialog();
+        QStringList german;
+        for (const QLabel* label : tabs->findChildren<QLabel*>())
+            german << label->text();
+        QVERIFY2(german.join('|').contains("Frequenz"), qPrintable(german.join('|')));
+        QCOMPARE(QDialogButtonBox(QDialogButtonBox::Cancel).buttons().first()->text().remove('&'),
+                 QStringLiteral("Abbrechen"));
+        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040500"));
+        QVERIFY2(FrequencyField()->text().contains("7,0405"), qPrintable(FrequencyField()->text()));
+
+        Choose("English");
+        QCOMPARE(MenuTitles().first(), QStringLiteral("File"));
+        QVERIFY2(FrequencyField()->text().contains("7.0405"), qPrintable(FrequencyField()->text()));
+        QCOMPARE(QDialogButtonBox(QDialogButtonBox::Cancel).buttons().first()->text().remove('&'),
+                 QStringLiteral("Cancel"));
+        Choose("System");
+        QCOMPARE(Languages::GetChoice(), QString());
+    }
+
+    void theJobStaysWithItsChangesItsLockAndItsFile()
+    {
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        FrequencyField()->setFocus();
+        FrequencyField()->selectAll();
+        QTest::keyClicks(FrequencyField(), "7040 k"); // and not left
+        const JobDocument* document = &Window().Document();
+        Choose("Deutsch");
+        QCOMPARE(&Window().Document(), document);
+        QCOMPARE(Tree::Instance()->FindValue(frequencyPath)->GetStoredText(), QStringLiteral("7040000"));
+        QVERIFY(Window().isWindowModified());
+        QVERIFY(Window().windowTitle().startsWith("a.job.xml[*]"));
+        QVERIFY(!QLockFile(File("a.job.xml.lock")).tryLock(0));
+        QVERIFY(FrequencyField()->text().remove(' ').startsWith("7,04"));
+        // The new window is as good as the old one.
+        FrequencyField()->setFocus();
+        FrequencyField()->selectAll();
+        QTest::keyClicks(FrequencyField(), "7,05 M\t");
+        QVERIFY(Window().Save());
+        QVERIFY(!Window().isWindowModified());
+        QVERIFY(Window().NewFromSample());
+        QCOMPARE(Window().Nodes().GetNodes().size(), size_t(99));
+    }
+
+    void theNewWindowShowsWhatTheOldOneShowed()
+    {
+        const auto nodeOf = [this](const char* type)
+        { return *std::ranges::find(Window().Nodes().GetNodes(), QString(type), &JobNode::type); };
+        const QString path = nodeOf("IPC_FULL").path;
+        Window().Dialog().SetForm(Form::StandAlone);
+        QVERIFY(Window().Nodes().SelectNode(path));
+        Window().Dialog().GetDialog()->setCurrentIndex(3);
+        QCOMPARE(Window().Dialog().GetDialog()->currentIndex(), 3);
+        Window().resize(1111, 666);
+        Window().Nodes().Filter()->setText("FULL");
+        Window().Messages().Add(Severity::Error, "kept");
+        Window().Messages().setFocus();
+        const JobNode profile = nodeOf("SHORTTIMEPROFILE");
+        (new PanelWindow(profile, *FindDirectPanels(profile).front(), &Window()))->show();
+        Choose("Deutsch");
+        QCOMPARE(Window().size(), QSize(1111, 666));
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, path);
+        QCOMPARE(Window().Nodes().Filter()->text(), QStringLiteral("FULL"));
+        QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
+        QCOMPARE(Window().Dialog().GetDialog()->currentIndex(), 3);
+        QVERIFY(Window().Messages().GetText().endsWith("kept"));
+        QCOMPARE(QApplication::focusWidget(), &Window().Messages());
+        const auto panels = Window().findChildren<PanelWindow*>();
+        QCOMPARE(panels.size(), 1);
+        QVERIFY(panels.first()->isVisible());
+    }
+
+    /// A text that was translated once and for all would stay in the language of the first time.
+    void noDialogKeepsTextsOfTheLanguageBefore()
+    {
+        const auto textsOfAll = [this]
+        {
+            QStringList texts;
+            const auto nodes = Window().Nodes().GetNodes();
+            for (const Form form : {Form::Job, Form::StandAlone})
+                for (const JobNode& node : nodes)
+                    if (const auto dialog = MakeDialog(node, form, nullptr))
+                    {
+                        for (int tab = 0; tab < dialog->count(); ++tab)
+                            texts << dialog->tabText(tab);
+                        for (const QWidget* widget : dialog->findChildren<QWidget*>())
+                            texts << node.path + ' ' + widget->property("text").toString() +
+                                         widget->property("title").toString() + widget->toolTip();
+                    }
+            return texts;
+        };
+        const QStringList english = textsOfAll();
+        Choose("Deutsch");
+        const QStringList german = textsOfAll();
+        QVERIFY(german != english);
+        Choose("English");
+        QCOMPARE(textsOfAll(), english);
+        Choose("Deutsch");
+        QCOMPARE(textsOfAll(), german);
+    }
+};
+
+QTEST_MAIN(TestLanguages)
+#include "test_languages.moc"

@@ -1,0 +1,256 @@
+#include "jobedit/dialogpane.h"
+#include "jobedit/longwork.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/messagelist.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/panelwindow.h"
+#include "jobedit/recentfiles.h"
+
+#include <QtTest>
+#include <QtWidgets>
+#include <set>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+/// Answers every text with a marked one that is a third longer, as texts of other languages are.
+class PseudoTranslator : public QTranslator
+{
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        return u'‹' + text + QString(qsizetype(text.size() * 0.35), '~') + u'›';
+    }
+    bool isEmpty() const override { return false; }
+};
+
+/// What remains of a text without what was translated; its arguments may be translated themselves.
+QString Unmarked(QString text)
+{
+    static const QRegularExpression marked("‹[^‹›]*›");
+    for (QString before; before != text;)
+    {
+        before = text;
+        text.remove(marked);
+    }
+    return text;
+}
+
+bool HasWords(const QString& text)
+{
+    static const QRegularExpression word(R"([A-Za-z]{2})");
+    return text.contains(word);
+}
+
+/// Whether a text fits into the widget that shows it.
+bool Fits(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+    {
+        if (label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored) // gives way on purpose
+            return true;
+        return label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
+                                 : label->width() >= label->sizeHint().width();
+    }
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return group->width() >= group->minimumSizeHint().width();
+    return widget.width() >= widget.sizeHint().width();
+}
+
+} // namespace
+
+class TestPseudoTranslation : public QObject
+{
+    Q_OBJECT
+
+    PseudoTranslator m_translator;
+    QTemporaryDir m_directory;
+    std::unique_ptr<MainWindow> m_window;
+    std::set<QString> m_exceptions;
+    QStringList m_unmarked;
+    QStringList m_clipped;
+
+    /// Texts that are not translated, and why.
+    void CollectExceptions()
+    {
+        for (const auto& group : m_window->Document().ConfiguredModel()->GetGroups())
+            for (const auto& parameter : group->GetParameters())
+            {
+                // The job model is data: whoever writes it chooses its language.
+                m_exceptions.merge(std::set<QString>{parameter->GetLabel(), parameter->GetDescription(), parameter->GetUnit()});
+                m_exceptions.insert(parameter->GetValueDescriptor().unit);
+                for (const SelectionItem& item : parameter->GetValueDescriptor().items)
+                    m_exceptions.insert(item.GetName());
+            }
+        for (const JobNode& node : m_window->Nodes().GetNodes()) // what the job calls its nodes
+            m_exceptions.merge(std::set<QString>{node.name, node.path, node.type});
+        m_exceptions.merge(std::set<QString>{"Hz", "kHz", "MHz", "GHz", "dB", "dBm", "ms", "Bd"}); // the same in all languages
+        m_exceptions.merge(std::set<QString>{"English", "Deutsch"});                              // each language by its own name
+    }
+
+    void Check(const QString& where, const QString& what, const QString& text)
+    {
+        const QString rest = Unmarked(text).remove('&').trimmed();
+        if (HasWords(rest) && !m_exceptions.contains(rest))
+            m_unmarked << where + ": " + what + " \"" + text + '"';
+    }
+
+    void CheckTexts(const QString& where, const QWidget& widget)
+    {
+        const QString name = where + ' ' + widget.metaObject()->className() + ' ' + widget.objectName();
+        for (const char* property : {"text", "title", "toolTip", "statusTip", "whatsThis", "accessibleName",
+                                     "accessibleDescription", "placeholderText", "prefix", "suffix", "specialValueText"})
+            if (qstrcmp(property, "text") != 0 || !qobject_cast<const QLineEdit*>(&widget)) // that is a value
+                Check(name, property, widget.property(property).toString());
+        if (const auto* box = qobject_cast<const QComboBox*>(&widget))
+            for (int index = 0; index < box->count(); ++index)
+                Check(name, "item", box->itemText(index));
+        if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
+            for (int index = 0; index < tabs->count(); ++index)
+                Check(name, "tab", tabs->tabText(index) + tabs->tabToolTip(index));
+        if (const auto* header = qobject_cast<const QHeaderView*>(&widget); header && header->model())
+            for (int section = 0; section < header->count(); ++section)
+                Check(name, "section", header->model()->headerData(section, header->orientation()).toString());
+        if (qobject_cast<const QDockWidget*>(&widget) || qobject_cast<const QDialog*>(&widget))
+            Check(name, "window title", widget.windowTitle());
+        for (const QAction* action : widget.actions())
+        {
+            Check(name, "action", action->text());
+            Check(name, "tool tip of the action", action->toolTip());
+        }
+    }
+
+    void CheckAll(const QString& where, const QWidget& top)
+    {
+        CheckTexts(where, top);
+        for (const QWidget* widget : top.findChildren<QWidget*>())
+            CheckTexts(where, *widget);
+    }
+
+    void CheckFit(const QString& where, const QWidget& top)
+    {
+        for (const QWidget* widget : top.findChildren<QWidget*>())
+        {
+            const QString text = widget->property("text").toString() + widget->property("title").toString();
+            const bool shows = qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
+                               qobject_cast<const QGroupBox*>(widget);
+            if (shows && widget->isVisible() && HasWords(text) && !Fits(*widget))
+                m_clipped << QString("%1: %2 \"%3\" has %4 of %5 pixels")
+                                 .arg(where, widget->metaObject()->className(), text)
+                                 .arg(widget->width())
+                                 .arg(widget->sizeHint().width());
+        }
+    }
+
+    void Verdict()
+    {
+        m_unmarked.removeDuplicates();
+        m_clipped.removeDuplicates();
+        for (const QString& text : m_unmarked)
+            qWarning("Not translated: %s", qPrintable(text));
+        for (const QString& text : m_clipped)
+            qWarning("Clipped: %s", qPrintable(text));
+        QVERIFY(m_unmarked.isEmpty());
+        QVERIFY(m_clipped.isEmpty());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QLocale::setDefault(QLocale::C);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory.path());
+        QCoreApplication::installTranslator(&m_translator);
+    }
+
+    void init()
+    {
+        m_unmarked.clear();
+        m_clipped.clear();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+        CollectExceptions();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void cleanupTestCase() { QCoreApplication::removeTranslator(&m_translator); }
+
+    void everyTextOfTheWindowIsTranslatedAndFits()
+    {
+        for (QMenu* menu : m_window->findChildren<QMenu*>())
+            emit menu->aboutToShow();
+        for (QDockWidget* dock : m_window->findChildren<QDockWidget*>())
+            dock->show();
+        LongWork work("‹Long work›", m_window.get());
+        QTest::qWait(LongWork::ShownAfterMs + 20);
+        QVERIFY(work.Progress(1, 2));
+        QVERIFY(m_window->findChild<QFrame*>("longWork"));
+        CheckAll("window", *m_window);
+        CheckFit("window", *m_window);
+        Check("window", "title", m_window->windowTitle());
+        Verdict();
+    }
+
+    void everyTextOfEveryDialogIsTranslatedAndFits_data()
+    {
+        QTest::addColumn<Form>("form");
+        QTest::newRow("job form") << Form::Job;
+        QTest::newRow("stand-alone form") << Form::StandAlone;
+    }
+    void everyTextOfEveryDialogIsTranslatedAndFits()
+    {
+        QFETCH(Form, form);
+        int shown = 0;
+        std::set<QString> seen;
+        for (const JobNode& node : m_window->Nodes().GetNodes())
+        {
+            const std::unique_ptr<QTabWidget> dialog = MakeDialog(node, form, nullptr);
+            if (!dialog || !seen.insert(node.type + QString::number(int(node.band))).second)
+                continue;
+            dialog->resize(dialog->sizeHint());
+            dialog->show();
+            for (int tab = 0; tab < dialog->count(); ++tab)
+            {
+                dialog->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                const QString where = node.type + '/' + dialog->tabText(tab);
+                CheckAll(where, *dialog->currentWidget());
+                CheckFit(where, *dialog->currentWidget());
+                ++shown;
+            }
+            CheckTexts(node.type, *dialog->tabBar());
+        }
+        QVERIFY(shown > 30);
+        Verdict();
+    }
+
+    void everyPanelWindowIsTranslatedAndFits()
+    {
+        for (const JobNode& node : m_window->Nodes().GetNodes())
+            for (const DirectPanel* panel : FindDirectPanels(node))
+            {
+                auto* window = new PanelWindow(node, *panel, m_window.get());
+                window->show();
+                QCoreApplication::processEvents();
+                m_exceptions.insert(node.path + " -"); // the title names the node
+                CheckAll(panel->name, *window);
+                window->close();
+            }
+        Verdict();
+    }
+};
+
+QTEST_MAIN(TestPseudoTranslation)
+#include "test_pseudotranslation.moc"
