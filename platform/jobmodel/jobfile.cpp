@@ -294,7 +294,7 @@ Node* JobFile::AddNode(QStringView parentPath, const NodeSpec& spec, QString* re
     std::vector<ValueBase*> values;
     Node* made = node->Create(m_tree, values);
     node->rules = std::make_unique<NodeRules>(m_tree, node->path, node->values);
-    node->rules->Begin(m_tree);
+    node->rules->Begin(values);
     m_layout->byPath.insert(node->path, node.get());
     parent->Add(JobNode::Piece::Node, parent->nodes.size());
     parent->nodes.push_back(std::move(node));
