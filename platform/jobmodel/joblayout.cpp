@@ -20,7 +20,10 @@ TKE::Node* JobNode::Create(Tree& tree, std::vector<ValueBase*>& found)
     TKE::Node* node = tree.CreateNode(path, spec.type);
     std::vector<TKE::Node*> homes;
     for (const NodeTemplate::Home& home : values->GetHomes())
+    {
         homes.push_back(tree.CreateNode(PathOf(home, path)));
+        tree.Reserve(*homes.back(), homes.back()->GetValues().size() + home.size);
+    }
 
     const auto& entries = values->GetEntries();
     found.clear();
@@ -28,10 +31,10 @@ TKE::Node* JobNode::Create(Tree& tree, std::vector<ValueBase*>& found)
     for (size_t i = 0; i < entries.size(); ++i)
     {
         const NodeTemplate::Entry& entry = entries[i];
-        ValueBase* value = tree.CreateValue(*homes[entry.home], entry.name, *entry.descriptor);
+        ValueBase* value = tree.CreateValue(*homes[entry.home], *entry.name, *entry.descriptor, entry.defaultText);
         if (!value)
         {
-            value = tree.FindValue(*homes[entry.home], entry.name);
+            value = tree.FindValue(*homes[entry.home], *entry.name);
             borrowed.push_back(quint32(i));
         }
         else if (entry.startsDisabled)
@@ -58,10 +61,10 @@ bool JobNode::FindValues(const Tree& tree, std::vector<ValueBase*>& found) const
         {
             // Values mostly are where they were made.
             const auto& siblings = home->GetValues();
-            if (entry.slot < siblings.size() && siblings[entry.slot]->GetName() == entry.name)
+            if (entry.slot < siblings.size() && &siblings[entry.slot]->GetName() == entry.name)
                 value = siblings[entry.slot].get();
             else
-                value = tree.FindValue(*home, entry.name);
+                value = tree.FindValue(*home, *entry.name);
         }
         found.push_back(value);
     }

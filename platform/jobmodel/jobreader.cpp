@@ -226,8 +226,9 @@ void JobReader::EndNode()
     if (node.values && !node.values->GetRules().empty())
     {
         node.rules = std::make_unique<NodeRules>(m_finalTree, node.path, node.values);
-        node.rules->Begin(m_tree);
+        node.rules->Begin(m_open.back().values);
     }
+    node.content.shrink_to_fit();
     m_open.pop_back();
 }
 

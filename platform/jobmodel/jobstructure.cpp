@@ -148,7 +148,7 @@ template <class Visit> void ForEach(JobNode& node, Visit visit)
 QString AbsolutePath(const NodeTemplate& values, quint32 entry)
 {
     const NodeTemplate::Home& home = values.GetHomes()[values.GetEntries()[entry].home];
-    return home.absolute ? home.path + values.GetEntries()[entry].name : QString();
+    return home.absolute ? home.path + *values.GetEntries()[entry].name : QString();
 }
 
 bool HasAbsolute(const JobNode& node)
@@ -391,7 +391,9 @@ void JobStructure::Begin(JobNode& node)
             [this](JobNode& each)
             {
                 each.rules = std::make_unique<NodeRules>(m_tree, each.path, each.values);
-                each.rules->Begin(m_tree);
+                std::vector<ValueBase*> values;
+                each.FindValues(m_tree, values);
+                each.rules->Begin(values);
             });
 }
 

@@ -58,7 +58,9 @@ void JobWriter::Tick()
 
 void JobWriter::AppendElement(std::string& out, const NodeTemplate::Entry& entry, const ValueBase& value)
 {
-    out += entry.startTag;
+    out += "<Value name=\"";
+    XmlText::AppendAttribute(out, entry.fileName);
+    out += "\">";
     const size_t begin = out.size();
     value.AppendStored(out);
     if (out.size() == begin)

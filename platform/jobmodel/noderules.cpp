@@ -12,7 +12,7 @@ ValueBase* Find(const Tree& tree, const QString& basePath, const NodeTemplate& v
 {
     const NodeTemplate::Entry& entry = values.GetEntries()[index];
     const NodeTemplate::Home& home = values.GetHomes()[entry.home];
-    return tree.FindValue(home.absolute ? home.path + entry.name : basePath + home.path + entry.name);
+    return tree.FindValue(home.absolute ? home.path + *entry.name : basePath + home.path + *entry.name);
 }
 
 bool Holds(const NodeTemplate::Rule& rule, const ValueBase& source)
@@ -36,16 +36,14 @@ NodeRules::NodeRules(Tree& tree, const QString& basePath, std::shared_ptr<const 
 {
 }
 
-void NodeRules::Begin(Tree& tree)
+void NodeRules::Begin(const std::vector<ValueBase*>& values)
 {
     for (const NodeTemplate::Rule& rule : m_values->GetRules())
     {
-        ValueBase* source = Find(tree, m_basePath, *m_values, rule.source);
-        ValueBase* target = Find(tree, m_basePath, *m_values, rule.target);
-        if (!source || !target)
+        if (!values[rule.source] || !values[rule.target])
             continue;
-        source->Attach(this);
-        Apply(rule, *source, *target);
+        values[rule.source]->Attach(this);
+        Apply(rule, *values[rule.source], *values[rule.target]);
     }
 }
 
@@ -62,7 +60,7 @@ void NodeRules::Update(Observable* changed, TChangeCode code)
     const QString name = static_cast<ValueBase*>(changed)->GetName();
     for (const NodeTemplate::Rule& rule : values->GetRules())
     {
-        if (values->GetEntries()[rule.source].name != name)
+        if (*values->GetEntries()[rule.source].name != name)
             continue;
         const ValueBase* source = Find(tree, basePath, *values, rule.source);
         ValueBase* target = Find(tree, basePath, *values, rule.target);

@@ -14,8 +14,9 @@ public:
     /// `tree` is the one that holds the values from the first change on; `basePath` ends in "/".
     NodeRules(Tree& tree, const QString& basePath, std::shared_ptr<const NodeTemplate> values);
 
-    /// Follows the values of `tree` from now on and sets all states once.
-    void Begin(Tree& tree);
+    /// Follows these values, one per entry of the template, from now on and sets all states once. Nobody else hears of
+    /// them yet.
+    void Begin(const std::vector<ValueBase*>& values);
 
 private:
     void Update(Observable* source, TChangeCode code) override;

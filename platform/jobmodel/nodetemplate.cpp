@@ -1,7 +1,7 @@
 #include "jobmodel/nodetemplate.h"
 
-#include "jobmodel/xmltext.h"
 #include "keys/keymanager.h"
+#include "value/tree.h"
 
 namespace TKE
 {
@@ -99,18 +99,16 @@ void NodeTemplate::AddParameter(const Parameter& parameter, int channel, const N
     Entry entry;
     entry.fileName = paths.file.toStdString();
     // A key that several groups name exists once, as the first describes it.
-    if (!m_byFileName.try_emplace(entry.fileName, quint32(m_entries.size())).second)
+    if (m_byFileName.contains(std::string_view(entry.fileName)))
         return;
-    entry.startTag = "<Value name=\"";
-    XmlText::AppendAttribute(entry.startTag, entry.fileName);
-    entry.startTag += "\">";
     entry.descriptor = &parameter.GetValueDescriptor(channel);
     entry.defaultText = entry.descriptor->defaultText.toStdString();
-    entry.name = paths.tree.sliced(slash + 1);
+    entry.name = &Tree::Intern(QStringView(paths.tree).sliced(slash + 1));
     entry.home = HomeOf(QStringView(paths.tree).first(slash + 1), paths.absolute);
-    entry.slot = m_homeSizes[entry.home]++;
+    entry.slot = quint32(m_homes[entry.home].size++);
     entry.startsDisabled = parameter.StartsDisabled();
     m_entries.push_back(std::move(entry));
+    m_byFileName.insert(quint32(m_entries.size() - 1));
 }
 
 void NodeTemplate::AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel)
@@ -134,7 +132,6 @@ quint32 NodeTemplate::HomeOf(QStringView path, bool absolute)
             return quint32(i);
     }
     m_homes.push_back({path.toString(), absolute});
-    m_homeSizes.push_back(0);
     return quint32(m_homes.size() - 1);
 }
 
@@ -142,8 +139,8 @@ qsizetype NodeTemplate::FindEntry(std::string_view fileName, size_t hint) const
 {
     if (hint < m_entries.size() && m_entries[hint].fileName == fileName)
         return qsizetype(hint);
-    const auto found = m_byFileName.find(absl::string_view(fileName.data(), fileName.size()));
-    return found != m_byFileName.end() ? qsizetype(found->second) : -1;
+    const auto found = m_byFileName.find(fileName);
+    return found != m_byFileName.end() ? qsizetype(*found) : -1;
 }
 
 } // namespace TKE

@@ -3,7 +3,7 @@
 #include "jobmodel/jobmodel.h"
 #include "jobmodel/nodespec.h"
 
-#include <absl/container/flat_hash_map.h>
+#include <absl/container/flat_hash_set.h>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,14 +23,14 @@ public:
         QString path; ///< from the node down, with a "/" at the end; empty: the node itself. Of an absolute one the
                       ///< whole path.
         bool absolute;
+        size_t size = 0; ///< how many values of the template sit in it
     };
     struct Entry
     {
         std::string fileName;    ///< the path below the node, as files name it
-        std::string startTag;    ///< the start tag of its element
         std::string defaultText; ///< in stored form
         const ValueDescriptor* descriptor;
-        QString name; ///< the last segment of its path in the tree
+        const QString* name; ///< the last segment of its path in the tree, which keeps it
         quint32 home; ///< index of its Home
         quint32 slot; ///< how many values of the template its home has before
         bool startsDisabled;
@@ -45,6 +45,8 @@ public:
 
     /// `model` outlives the template.
     NodeTemplate(const JobModel& model, const NodeSpec& spec);
+    NodeTemplate(const NodeTemplate&) = delete;
+    NodeTemplate& operator=(const NodeTemplate&) = delete;
 
     const std::vector<Home>& GetHomes() const { return m_homes; }
     const std::vector<Entry>& GetEntries() const { return m_entries; }
@@ -56,15 +58,36 @@ public:
 private:
     using Parameter = JOBXMLGENERATOR::Parameter;
 
+    // The index of an entry stands for its file name.
+    static std::string_view NameOf(const std::vector<Entry>& entries, quint32 i) { return entries[i].fileName; }
+    static std::string_view NameOf(const std::vector<Entry>&, std::string_view name) { return name; }
+    struct NameHash
+    {
+        using is_transparent = void;
+        const std::vector<Entry>* entries;
+        template <class Key> size_t operator()(const Key& key) const
+        {
+            return std::hash<std::string_view>()(NameOf(*entries, key));
+        }
+    };
+    struct NameEqual
+    {
+        using is_transparent = void;
+        const std::vector<Entry>* entries;
+        template <class Left, class Right> bool operator()(const Left& left, const Right& right) const
+        {
+            return NameOf(*entries, left) == NameOf(*entries, right);
+        }
+    };
+
     void AddGroup(const ParameterGroup& group, const NodeSpec& spec);
     void AddParameter(const Parameter& parameter, int channel, const NodeSpec& spec);
     void AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel);
     quint32 HomeOf(QStringView path, bool absolute);
 
     std::vector<Home> m_homes;
-    std::vector<quint32> m_homeSizes;
     std::vector<Entry> m_entries;
-    absl::flat_hash_map<std::string, quint32> m_byFileName;
+    absl::flat_hash_set<quint32, NameHash, NameEqual> m_byFileName{0, NameHash{&m_entries}, NameEqual{&m_entries}};
     std::vector<Rule> m_rules;
     QStringList m_unknownGroups;
 };

@@ -1,15 +1,32 @@
 #include "jobmodel/xmltext.h"
 
+#include <array>
+
 namespace TKE::XmlText
 {
 
 namespace
 {
 
+// Whether the byte stands for itself wherever it is.
+constexpr std::array<bool, 256> plain = []
+{
+    std::array<bool, 256> all{};
+    for (size_t byte = 0x20; byte < all.size(); ++byte)
+        all[byte] = std::string_view("&<>\"\xEF").find(char(byte)) == std::string_view::npos;
+    return all;
+}();
+
 void Append(std::string& out, std::string_view utf8, bool attribute)
 {
     for (size_t i = 0; i < utf8.size(); ++i)
     {
+        const size_t begin = i;
+        while (i < utf8.size() && plain[static_cast<unsigned char>(utf8[i])])
+            ++i;
+        out.append(utf8, begin, i - begin);
+        if (i == utf8.size())
+            break;
         const char byte = utf8[i];
         switch (byte)
         {

@@ -14,6 +14,8 @@ class Node
 public:
     Node(const Node&) = delete;
     Node& operator=(const Node&) = delete;
+    static void* operator new(size_t size) { return TreeMemory::Take(size); }
+    static void operator delete(void* piece, size_t size) { TreeMemory::Give(piece, size); }
 
     /// Last segment of the path; empty for the root "/".
     QStringView GetName() const;

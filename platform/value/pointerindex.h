@@ -34,13 +34,20 @@ public:
             __builtin_prefetch(&m_slots[Home(hash)]);
     }
 
-    /// `object` must not be in the index.
-    void Insert(T* object)
+    /// Puts `object`, whose hash is given, into the index unless one is there for which `matches` holds.
+    template <class Matches> bool Insert(T* object, quint64 hash, Matches matches)
     {
         if ((m_size + 1) * 5 > m_capacity * 4)
             Resize(m_capacity + m_capacity / 2 + 16);
-        Place(object);
+        size_t i = Home(hash);
+        for (; m_slots[i] != 0; i = Next(i))
+        {
+            if (((m_slots[i] ^ hash << pointerBits) >> pointerBits) == 0 && matches(*Pointer(m_slots[i])))
+                return false;
+        }
+        m_slots[i] = Slot(object, hash);
         ++m_size;
+        return true;
     }
     /// `object` must be in the index.
     void Erase(const T* object)
@@ -76,6 +83,11 @@ private:
     static constexpr int pointerBits = 48;
     static constexpr quint64 pointerMask = (quint64(1) << pointerBits) - 1;
 
+    static quint64 Slot(T* object, quint64 hash)
+    {
+        Q_ASSERT((quintptr(object) & ~pointerMask) == 0);
+        return quint64(quintptr(object)) | hash << pointerBits;
+    }
     static T* Pointer(quint64 slot) { return reinterpret_cast<T*>(quintptr(slot & pointerMask)); }
     size_t Home(quint64 hash) const
     {
@@ -91,8 +103,7 @@ private:
         size_t i = Home(hash);
         while (m_slots[i] != 0)
             i = Next(i);
-        Q_ASSERT((quintptr(object) & ~pointerMask) == 0);
-        m_slots[i] = quint64(quintptr(object)) | hash << pointerBits;
+        m_slots[i] = Slot(object, hash);
     }
     void Resize(size_t capacity)
     {

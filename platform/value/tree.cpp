@@ -173,7 +173,7 @@ Node* Tree::EnsureNode(QStringView prefix)
     Node* parent = above.isEmpty() ? nullptr : EnsureNode(above);
     auto& siblings = parent ? parent->m_nodes : m_index->topNodes;
     Node* node = siblings.emplace_back(new Node(parent, prefix.toString(), hash)).get();
-    m_index->nodes.Insert(node);
+    m_index->nodes.Insert(node, hash, [](const Node&) { return false; });
     return node;
 }
 
@@ -188,9 +188,10 @@ Node* Tree::CreateNode(QStringView path, const QString& type)
 bool Tree::Insert(Node& node, std::unique_ptr<ValueBase> value)
 {
     value->m_node = &node;
-    if (FindValue(node, value->GetName()))
+    const QStringView name = value->GetName();
+    if (!m_index->values.Insert(value.get(), HashOfValue(node.m_hash, name), [&](const ValueBase& other)
+                                { return other.m_node == &node && Same(other.GetName(), name); }))
         return false;
-    m_index->values.Insert(value.get());
     node.m_values.push_back(std::move(value));
     return true;
 }
@@ -205,8 +206,29 @@ ValueBase* Tree::CreateValue(Node& node, QStringView name, const ValueDescriptor
 {
     if (name.contains(u'/'))
         return CreateValue(QString(node.m_prefix % name), descriptor);
+    ValueBase* value = Make(node, Intern(name), descriptor);
+    if (value)
+        value->SetToDefault();
+    return value;
+}
+
+ValueBase* Tree::CreateValue(Node& node, const QString& name, const ValueDescriptor& descriptor,
+                             std::string_view content)
+{
+    ValueBase* value = Make(node, name, descriptor);
+    if (value)
+        value->SetStored(content);
+    return value;
+}
+
+ValueBase* Tree::Make(Node& node, const QString& name, const ValueDescriptor& descriptor)
+{
     const auto make = [&]<class V>(std::type_identity<V>) -> ValueBase*
-    { return Add(node, std::make_unique<V>(Intern(name), descriptor)); };
+    {
+        auto value = std::make_unique<V>(name, descriptor);
+        ValueBase* raw = value.get();
+        return Insert(node, std::move(value)) ? raw : nullptr;
+    };
     switch (descriptor.kind)
     {
     case ValueKind::Bool:
@@ -307,6 +329,11 @@ bool Tree::DeleteSome(std::vector<std::unique_ptr<Node>>& branches)
 void Tree::Reserve(size_t values)
 {
     m_index->values.Reserve(values);
+}
+
+void Tree::Reserve(Node& node, size_t values)
+{
+    node.m_values.reserve(values);
 }
 
 size_t Tree::ValueCount() const

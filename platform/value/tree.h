@@ -54,6 +54,11 @@ public:
     /// The same with the type that the descriptor's kind asks for.
     ValueBase* CreateValue(QStringView path, const ValueDescriptor& descriptor);
     ValueBase* CreateValue(Node& node, QStringView name, const ValueDescriptor& descriptor);
+    /// The same for who makes many: `name` is one segment that Intern gave, `content` the stored form of the content.
+    ValueBase* CreateValue(Node& node, const QString& name, const ValueDescriptor& descriptor,
+                           std::string_view content);
+    /// The name, kept until the program ends and once only.
+    static const QString& Intern(QStringView name);
 
     /// Removes the node at `path` and all below it. Nothing happens when there is none.
     void RemoveBranch(QStringView path);
@@ -63,6 +68,7 @@ public:
     void ClearLater();
     /// Makes room for that many values before many are created.
     void Reserve(size_t values);
+    void Reserve(Node& node, size_t values);
     size_t ValueCount() const;
 
     /// All nodes without a parent, in the order of creation.
@@ -81,10 +87,10 @@ private:
         QStringView name;
     };
     static Place Split(QStringView path);
-    static const QString& Intern(QStringView name);
     static bool DeleteSome(std::vector<std::unique_ptr<Node>>& branches);
     Node* EnsureNode(QStringView prefix);
     bool Insert(Node& node, std::unique_ptr<ValueBase> value);
+    ValueBase* Make(Node& node, const QString& name, const ValueDescriptor& descriptor);
     template <class V> V* Add(Node& node, std::unique_ptr<V> value)
     {
         V* raw = value.get();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "value/observable.h"
+#include "value/treememory.h"
 #include "value/valuedescriptor.h"
 
 #include <functional>
@@ -43,6 +44,9 @@ using JournalHook = std::function<void(const JournalEntry&)>;
 class ValueBase : public Observable
 {
 public:
+    static void* operator new(size_t size) { return TreeMemory::Take(size); }
+    static void operator delete(void* piece, size_t size) { TreeMemory::Give(piece, size); }
+
     const QString& GetName() const { return *m_name; }
     /// Full path: that of the node, "/" and the name.
     QString GetPathName() const;
