@@ -43,6 +43,7 @@ public:
     bool IsModified() const { return m_modified; }
     bool IsReadOnly() const { return m_readOnly; }
     TKE::JobFile::DiskState GetDiskState() const { return m_file.GetDiskState(); }
+    const TKE::JobModel& GetModel() { return *m_file.GetModel(); }
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
@@ -52,6 +53,7 @@ signals:
     void Replaced();
     void ModifiedChanged(bool modified);
     void FileNameChanged();
+    void ContentChanged(const TKE::ValueBase& value);
 
 private:
     void SetModified(bool modified);

@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "dialogpane.h"
+#include "findbar.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -48,6 +49,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillNodeMenu();
     FillViewMenu();
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
+    new FindBar(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
@@ -215,7 +217,7 @@ void MainWindow::FillNodeMenu()
                     m_panelMenu->popup(position);
             });
     menu->addSeparator();
-    menu->addAction(tr("&Find..."), QKeySequence::Find, m_nodes->Filter(),
+    menu->addAction(tr("&Filter..."), QKeySequence(Qt::CTRL | Qt::Key_L), m_nodes->Filter(),
                     [filter = m_nodes->Filter()]
                     {
                         filter->setFocus(Qt::ShortcutFocusReason);
