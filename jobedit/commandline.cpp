@@ -2,6 +2,7 @@
 
 #include "application/errorhandler.h"
 #include "application/translationcenter.h"
+#include "checker.h"
 #include "jobdocument.h"
 #include "mainwindow.h"
 #include "nightcolours.h"
@@ -139,7 +140,7 @@ int CheckFiles(const QStringList& files, QTextStream& errors)
     const auto model = JobDocument::ConfiguredModel();
     bool good = model->GetErrors().isEmpty();
     for (const QString& file : files)
-        for (const TKE::FileError& error : TKE::JobFile::Check(file, model))
+        for (const TKE::FileError& error : Checker::CheckFile(file, model))
         {
             errors << error.ToText() << '\n';
             good = good && !error.IsError();

@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -52,23 +53,29 @@ bool CanBeSeen(const QWidget& widget, const QWidget& dialog)
     return true;
 }
 
-/// The widget that edits the value, or one that at least shows it; null when there is none. One that can be edited now
-/// goes first, and one of the page in front before others.
-QWidget* FindField(const QTabWidget& dialog, const TKE::ValueBase& value)
+/// A widget that shows the value.
+struct Field
 {
-    QWidget* best = nullptr;
-    int bestRank = 0;
+    QWidget* widget = nullptr;
+    bool isUsable = false; ///< it can be edited now
+};
+
+/// A widget that can be edited goes first, then one of the page in front. Null when the dialog does not show the value.
+Field FindField(const QTabWidget& dialog, const TKE::ValueBase& value)
+{
+    Field best;
+    bool bestIsInFront = false;
     for (QWidget* widget : dialog.findChildren<QWidget*>())
     {
         const auto* link = dynamic_cast<const TKE::ValueLink*>(widget);
         if (!link || link->GetBoundValue() != &value || !CanBeSeen(*widget, dialog))
             continue;
         const bool isInFront = dialog.currentWidget() && dialog.currentWidget()->isAncestorOf(widget);
-        const int rank = 1 + int(isInFront) + 2 * int(FocusTarget(*widget) && widget->isEnabledTo(&dialog));
-        if (rank > bestRank)
+        const bool isUsable = FocusTarget(*widget) && widget->isEnabledTo(&dialog);
+        if (!best.widget || std::pair(isUsable, isInFront) > std::pair(best.isUsable, bestIsInFront))
         {
-            best = widget;
-            bestRank = rank;
+            best = {widget, isUsable};
+            bestIsInFront = isInFront;
         }
     }
     return best;
@@ -99,13 +106,6 @@ QString KindOf(const JobNode& node, Form form)
 {
     return node.type + ' ' + QString::number(int(node.band)) + QString::number(int(node.dataForm)) +
            QString::number(int(form));
-}
-
-/// Builds the dialog out of sight.
-bool Shows(const JobNode& node, Form form, const TKE::ValueBase& value)
-{
-    const std::unique_ptr<QTabWidget> dialog = MakeDialog(node, form, nullptr);
-    return dialog && FindField(*dialog, value);
 }
 
 } // namespace
@@ -157,33 +157,50 @@ std::vector<FieldNavigator::Place> FieldNavigator::Candidates(const TKE::ValueBa
     return places;
 }
 
+std::optional<FieldNavigator::Place> FieldNavigator::FindPlace(const QString& valuePath) const
+{
+    const TKE::Tree& tree = *TKE::Tree::Instance();
+    const std::vector<JobNode>& nodes = m_window.Nodes().GetNodes();
+    std::optional<Place> seen;
+    for (const Place& place : Candidates(*tree.FindValue(valuePath)))
+    {
+        // Out of sight. Building a dialog may write, and who hears of it may remove the value.
+        const auto dialog = MakeDialog(*std::ranges::find(nodes, place.node, &JobNode::path), place.form, nullptr);
+        const TKE::ValueBase* value = tree.FindValue(valuePath);
+        if (!value)
+            return {};
+        const Field field = dialog ? FindField(*dialog, *value) : Field();
+        // A value that does not apply is disabled in all dialogs: the first one will do.
+        if (field.isUsable || (field.widget && value->GetState() != TKE::stEnabled))
+            return place;
+        if (field.widget && !seen)
+            seen = place;
+    }
+    return seen;
+}
+
 bool FieldNavigator::GoTo(const QString& valuePath)
 {
-    TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(valuePath);
+    const auto find = [&]
+    {
+        const TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(valuePath);
+        const QTabWidget* dialog = m_window.Dialog().GetDialog();
+        return value && dialog ? FindField(*dialog, *value) : Field();
+    };
+    const TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(valuePath);
     if (!value)
         return false;
-    DialogPane& pane = m_window.Dialog();
-    if (!pane.GetDialog() || !FindField(*pane.GetDialog(), *value))
-    {
-        const std::vector<JobNode>& nodes = m_window.Nodes().GetNodes();
-        const auto places = Candidates(*value);
-        const auto shows = [&](const Place& place)
+    Field field = find();
+    if (!field.isUsable && !(field.widget && value->GetState() != TKE::stEnabled))
+        if (const auto place = FindPlace(valuePath))
         {
-            const auto node = std::ranges::find(nodes, place.node, &JobNode::path);
-            // Building a dialog may write, and who hears of it may remove the value.
-            return value == TKE::Tree::Instance()->FindValue(valuePath) && Shows(*node, place.form, *value);
-        };
-        const auto place = std::ranges::find_if(places, shows);
-        if (place == places.end())
-            return false;
-        pane.SetForm(place->form);
-        m_window.Nodes().SelectNode(place->node);
-        value = TKE::Tree::Instance()->FindValue(valuePath);
-    }
-    QWidget* field = value && pane.GetDialog() ? FindField(*pane.GetDialog(), *value) : nullptr;
-    if (!field)
+            m_window.Dialog().SetForm(place->form);
+            m_window.Nodes().SelectNode(place->node);
+            field = find();
+        }
+    if (!field.widget)
         return false;
-    Reveal(*field, *pane.GetDialog());
+    Reveal(*field.widget, *m_window.Dialog().GetDialog());
     return true;
 }
 

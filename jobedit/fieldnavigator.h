@@ -2,6 +2,9 @@
 
 #include "chains.h"
 
+#include <QCoreApplication>
+#include <optional>
+
 class QTabWidget;
 class QWidget;
 
@@ -40,7 +43,10 @@ private:
     };
     /// Index of the node that the value is at or below; -1 when the job has none.
     int HomeOf(const QString& valuePath) const;
+    /// Where the value may be shown; the likelier first.
     std::vector<Place> Candidates(const TKE::ValueBase& value) const;
+    /// Where it can be edited or, when it can be nowhere, where it is seen.
+    std::optional<Place> FindPlace(const QString& valuePath) const;
 
     MainWindow& m_window;
 };

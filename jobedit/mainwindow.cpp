@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "checkdock.h"
 #include "dialogpane.h"
 #include "findbar.h"
 #include "messagelist.h"
@@ -50,6 +51,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillViewMenu();
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
+    new CheckDock(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
