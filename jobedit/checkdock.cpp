@@ -145,7 +145,8 @@ void CheckDock::Slot_OnSlice()
         m_nodes.clear();
         m_next = 0;
     }
-    if (!m_isShown)
+    // A list that is full already stays as it is until the end.
+    if (!m_isShown && (!IsRunning() || m_list->topLevelItemCount() < mostShown))
         ShowFindings();
     ShowSummary();
 }
