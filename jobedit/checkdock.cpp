@@ -23,6 +23,7 @@ namespace
 
 constexpr qint64 millisecondsOfSlice = 20;
 constexpr int mostShown = 1000;
+constexpr int leastHeight = 180; // pixels; some rows at once
 
 void Collect(const TKE::Node& node, QStringList& paths)
 {
@@ -45,6 +46,8 @@ CheckDock::CheckDock(MainWindow& window)
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::RightDockWidgetArea);
     MakeList();
     window.addDockWidget(Qt::BottomDockWidgetArea, this);
+    if (auto* messages = window.findChild<QDockWidget*>(QStringLiteral("messageDock")))
+        window.tabifyDockWidget(messages, this);
     hide();
     m_status->setObjectName("checkStatus");
     m_status->hide();
@@ -55,6 +58,8 @@ CheckDock::CheckDock(MainWindow& window)
                                   {
                                       show();
                                       raise();
+                                      if (height() < leastHeight && !isFloating())
+                                          m_window.resizeDocks({this}, {leastHeight}, Qt::Vertical);
                                       m_list->setFocus(Qt::ShortcutFocusReason);
                                       Start();
                                   });
@@ -103,11 +108,13 @@ void CheckDock::Start()
     for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
         Collect(*top, m_nodes);
     m_isShown = false;
+    m_isStopped = false;
     m_timer.start();
 }
 
 void CheckDock::Stop()
 {
+    m_isStopped = m_isStopped || IsRunning();
     m_nodes.clear();
     m_next = 0;
     m_isShown = false;
@@ -219,6 +226,8 @@ void CheckDock::ShowSummary()
     QString text = isGood ? tr("No value is at fault.") : tr("Errors: %1, warnings: %2").arg(m_errors).arg(m_warnings);
     if (m_errors + m_warnings > mostShown)
         text = tr("Errors: %1, warnings: %2; the first %3 are shown.").arg(m_errors).arg(m_warnings).arg(mostShown);
+    if (m_isStopped)
+        text = tr("Stopped before all values were checked; errors: %1, warnings: %2").arg(m_errors).arg(m_warnings);
     if (IsRunning())
         text = tr("Checking: %1 %, errors: %2, warnings: %3")
                    .arg(m_next * 100 / m_nodes.size())

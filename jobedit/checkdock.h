@@ -55,6 +55,7 @@ private:
     std::unique_ptr<Checker> m_checker;
     QTimer m_timer;
     bool m_isShown = true; // the list shows m_findings
+    bool m_isStopped = false;
     QTreeWidget* m_list;
     QLabel* m_summary;
     QPushButton* m_stop;

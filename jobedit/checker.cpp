@@ -74,6 +74,15 @@ QString Shown(double number)
     return QLocale().toString(number, 'f', QLocale::FloatingPointShortest);
 }
 
+/// The label; a field without one is told by its key, too.
+QString NameOf(const TKE::ValueBase& value)
+{
+    const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
+    return descriptor.label.isEmpty() && !descriptor.description.isEmpty()
+               ? descriptor.description + QStringLiteral(" (") + value.GetName() + ')'
+               : FieldTexts::Label(value);
+}
+
 /// "0 to 120 dB", as far as there are limits.
 QString RangeOf(const TKE::ValueDescriptor& descriptor)
 {
@@ -129,7 +138,7 @@ std::vector<Finding> Checker::CheckNode(const TKE::Node& node) const
     const auto add = [&](Severity severity, const TKE::ValueBase& value, const QString& text)
     {
         if (!text.isEmpty())
-            findings.push_back({severity, value.GetPathName(), FieldTexts::Label(value), text});
+            findings.push_back({severity, value.GetPathName(), NameOf(value), text});
     };
     for (const auto& value : node.GetValues())
     {
@@ -240,7 +249,7 @@ QString Checker::FaultOfPair(const TKE::ValueBase& value) const
         const auto most = NumberOf(*upper);
         if (least && most && *least > *most)
             return tr("%1 is more than %2, which \"%3\" holds.")
-                .arg(FieldTexts::Content(value), FieldTexts::Content(*upper), FieldTexts::Label(*upper));
+                .arg(FieldTexts::Content(value), FieldTexts::Content(*upper), NameOf(*upper));
     }
     return {};
 }

@@ -81,7 +81,8 @@ Field FindField(const QTabWidget& dialog, const TKE::ValueBase& value)
     return best;
 }
 
-void Reveal(QWidget& field, QTabWidget& dialog)
+/// False when the field cannot have the keyboard; its tab has it then.
+bool Reveal(QWidget& field, QTabWidget& dialog)
 {
     for (QWidget* at = &field; at != &dialog; at = at->parentWidget())
         if (auto* stack = qobject_cast<QStackedWidget*>(at->parentWidget()))
@@ -92,13 +93,12 @@ void Reveal(QWidget& field, QTabWidget& dialog)
     // A page that comes to the front for the first time is laid out before it can be scrolled.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QWidget* target = FocusTarget(field);
-    if (target && target->isEnabled())
-        target->setFocus(Qt::TabFocusReason);
-    else
-        dialog.tabBar()->setFocus(Qt::TabFocusReason);
+    const bool isUsable = target && target->isEnabled();
+    (isUsable ? target : dialog.tabBar())->setFocus(Qt::TabFocusReason);
     for (QWidget* at = field.parentWidget(); at; at = at->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(at))
             area->ensureWidgetVisible(&field);
+    return isUsable;
 }
 
 /// Dialogs of one kind show fields of the same names, but for panels that follow a mode.
@@ -200,7 +200,8 @@ bool FieldNavigator::GoTo(const QString& valuePath)
         }
     if (!field.widget)
         return false;
-    Reveal(*field.widget, *m_window.Dialog().GetDialog());
+    if (!Reveal(*field.widget, *m_window.Dialog().GetDialog()))
+        m_window.statusBar()->showMessage(tr("%1 is shown, but cannot be edited at the moment.").arg(valuePath), 10000);
     return true;
 }
 

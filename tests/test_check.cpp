@@ -207,7 +207,8 @@ private Q_SLOTS:
         QVERIFY(Dock()->IsRunning());
         QTest::keyClick(List(), Qt::Key_Escape);
         QVERIFY(!Dock()->IsRunning());
-        QTRY_VERIFY(List()->topLevelItemCount() < 1000);
+        QTRY_VERIFY(Summary().startsWith("Stopped"));
+        QVERIFY(List()->topLevelItemCount() < 1000);
     }
 
     void filesAreCheckedWithTheirValues()

@@ -255,6 +255,17 @@ private Q_SLOTS:
         QVERIFY(m_window->Nodes().View()->hasFocus());
     }
 
+    void aFieldThatDoesNotApplyIsShownAndTold()
+    {
+        m_window->Dialog().SetForm(Form::StandAlone);
+        const QString path = tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH;
+        QVERIFY(FieldNavigator(*m_window).GoTo(path));
+        QCOMPARE(m_window->Dialog().GetForm(), Form::StandAlone);
+        auto* field = m_window->Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        QVERIFY(field && field->isVisible() && !field->hasFocus());
+        QVERIFY(m_window->statusBar()->currentMessage().contains(path));
+    }
+
     void theFilterOfTheNodesKeepsAKeyOfItsOwn()
     {
         QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
