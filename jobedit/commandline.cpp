@@ -3,6 +3,10 @@
 #include "application/errorhandler.h"
 #include "editor.h"
 #include "languages.h"
+#include "application/translationcenter.h"
+#include "checker.h"
+#include "jobdocument.h"
+#include "mainwindow.h"
 #include "nightcolours.h"
 #include "render.h"
 
@@ -138,7 +142,7 @@ int CheckFiles(const QStringList& files, QTextStream& errors)
     const auto model = JobDocument::ConfiguredModel();
     bool good = model->GetErrors().isEmpty();
     for (const QString& file : files)
-        for (const TKE::FileError& error : TKE::JobFile::Check(file, model))
+        for (const TKE::FileError& error : Checker::CheckFile(file, model))
         {
             errors << error.ToText() << '\n';
             good = good && !error.IsError();

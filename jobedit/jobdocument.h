@@ -60,6 +60,7 @@ public:
     bool IsReadOnly() const { return m_readOnly; }
     const TKE::JobFile& File() const { return m_file; }
     TKE::JobFile::DiskState GetDiskState() const { return m_file.GetDiskState(); }
+    const TKE::JobModel& GetModel() { return *m_file.GetModel(); }
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;

@@ -1,9 +1,11 @@
 #include "mainwindow.h"
 
+#include "checkdock.h"
 #include "dialogpane.h"
 #include "editactions.h"
 #include "languages.h"
 #include "longwork.h"
+#include "findbar.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -58,6 +60,8 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     FillViewMenu();
     new EditActions(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
+    new FindBar(*this);
+    new CheckDock(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
@@ -256,7 +260,7 @@ void MainWindow::FillNodeMenu()
                     m_panelMenu->popup(position);
             });
     menu->addSeparator();
-    menu->addAction(tr("&Find..."), QKeySequence::Find, m_nodes->Filter(),
+    menu->addAction(tr("&Filter..."), QKeySequence(Qt::CTRL | Qt::Key_L), m_nodes->Filter(),
                     [filter = m_nodes->Filter()]
                     {
                         filter->setFocus(Qt::ShortcutFocusReason);

@@ -71,6 +71,8 @@ private Q_SLOTS:
         QTest::newRow("a good file") << QStringList{"check", "good.job.xml"} << 0 << "";
         QTest::newRow("one bad file of two")
             << QStringList{"check", "good.job.xml", "bad.job.xml"} << 1 << "bad.job.xml:3:";
+        QTest::newRow("a value at fault")
+            << QStringList{"check", "values.job.xml"} << 1 << "values.job.xml: /T/SCAN_START_FREQUENCY: start (SCAN_START_FREQUENCY): ";
         QTest::newRow("a missing file") << QStringList{"check", "nowhere.xml"} << 1 << "nowhere.xml";
         QTest::newRow("nothing to check") << QStringList{"check"} << 2 << "--help";
         QTest::newRow("unknown option") << QStringList{"--sing"} << 2 << "sing";
@@ -91,6 +93,8 @@ private Q_SLOTS:
         QFETCH(QString, says);
         WriteSample("good.job.xml");
         WriteAll("bad.job.xml", "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
+        WriteAll("values.job.xml", "<Job version=\"1\"><Node name=\"/T\" type=\"X\" groups=\"G_SCAN_HF\">"
+                                   "<Value name=\"SCAN_START_FREQUENCY\">9000000</Value></Node></Job>\n");
         for (QString& argument : arguments)
             if (argument.endsWith(".xml") || argument == "d")
                 argument = File(argument);

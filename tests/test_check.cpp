@@ -1,0 +1,233 @@
+#include "jobedit/checkdock.h"
+#include "jobedit/checker.h"
+#include "jobedit/dialogpane.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/nodepane.h"
+#include "jobmodel/jobfile.h"
+#include "keys/keys.h"
+
+#include <QTest>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString scanPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+
+} // namespace
+
+class TestCheck : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+
+    CheckDock* Dock() { return m_window->findChild<CheckDock*>(); }
+    QTreeWidget* List() { return m_window->findChild<QTreeWidget*>("checkList"); }
+    QString Summary() { return m_window->findChild<QLabel*>("checkSummary")->text(); }
+    bool WaitUntilChecked()
+    {
+        return QTest::qWaitFor([this] { return !Dock()->IsRunning(); }) && (QTest::qWait(1), true);
+    }
+    static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+        QVERIFY(WaitUntilChecked());
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void whatIsWrongWithAValueIsFound_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("content"); // stored form
+        QTest::addColumn<bool>("isError");
+        QTest::addColumn<QString>("says"); // empty: nothing is wrong
+        const QString tds = "/Jobs/Demo/TDS_HF1/";
+        QString surveillance = tds + "CS_DATA/DATATRANS/";
+        QTest::newRow("unknown item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "77" << false << "77";
+        QTest::newRow("known item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "2" << false << "";
+        QTest::newRow("start after stop") << scanPath + "SCAN_START_FREQUENCY" << "4000000" << true << "3500000 Hz";
+        QTest::newRow("stop before start") << scanPath + "SCAN_STOP_FREQUENCY" << "1000000" << true << "1000000 Hz";
+        QTest::newRow("start at stop") << scanPath + "SCAN_START_FREQUENCY" << "3500000" << true << "";
+        QTest::newRow("list of half a row") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE" << "100000;200000;300000" << true
+                                            << "rows of 2";
+        QTest::newRow("range turned round") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE" << "100000;200000;400000;300000"
+                                            << true << "Row 2";
+        QTest::newRow("list too long") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(200) + "10000"
+                                       << true << "200";
+        QTest::newRow("list full") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(199) + "10000"
+                                   << true << "";
+        QTest::newRow("dates turned round") << surveillance + "SURVEILLANCE_DATEPERIOD_START" << "2030-01-01" << true
+                                            << "2024-12-31";
+        QTest::newRow("no date") << surveillance + "SURVEILLANCE_DATEPERIOD_STOP" << "31.12.2024" << true
+                                 << "yyyy-MM-dd";
+        QTest::newRow("past midnight") << surveillance + "SURVEILLANCE_TIMEPERIOD_START" << "22:00" << true << "";
+        QTest::newRow("no time") << surveillance + "SURVEILLANCE_TIMEPERIOD_START" << "25:00" << true << "25:00";
+    }
+    void whatIsWrongWithAValueIsFound()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, content);
+        QFETCH(bool, isError);
+        QFETCH(QString, says);
+        QVERIFY2(Value(path), qPrintable(path));
+        const Checker checker(*Tree::Instance(), m_window->Document().GetModel());
+        QVERIFY(checker.CheckValues().empty());
+        Value(path)->SetState(stEnabled);
+        QVERIFY(Value(path)->SetStoredText(content));
+        const auto findings = checker.CheckValues();
+        QCOMPARE(findings.size(), size_t(!says.isEmpty()));
+        if (says.isEmpty())
+            return;
+        QVERIFY2(findings[0].text.contains(says), qPrintable(findings[0].text));
+        QCOMPARE(findings[0].severity == FileError::Severity::Error, isError);
+        const qsizetype slash = path.lastIndexOf('/');
+        QVERIFY(findings[0].path.startsWith(path.first(slash)));
+        QVERIFY(!findings[0].label.isEmpty());
+
+        Value(findings[0].path)->SetState(stDisabled);
+        QVERIFY(checker.CheckValues().empty());
+    }
+
+    void aNumberOutOfItsRangeIsFound()
+    {
+        Tree tree;
+        ValueDescriptor descriptor = ValueDescriptor::Plain(ValueKind::Int);
+        descriptor.label = "Gain :";
+        descriptor.unit = "dB";
+        descriptor.defaultText = "7";
+        descriptor.minimum = 5;
+        descriptor.maximum = 9;
+        ValueBase* value = tree.CreateValue(u"/A/X", descriptor);
+        const Checker checker(tree, m_window->Document().GetModel());
+        QVERIFY(checker.CheckValues().empty());
+        descriptor.minimum = 8; // as another version of the model has it
+        const auto findings = checker.CheckValues();
+        QCOMPARE(findings.size(), size_t(1));
+        QCOMPARE(findings[0].label, QStringLiteral("Gain"));
+        QVERIFY(findings[0].text.contains("7 dB") && findings[0].text.contains("8 to 9 dB"));
+        QVERIFY(value->SetStoredText("8") && checker.CheckValues().empty());
+    }
+
+    void findingsFollowEditsAndAreGoneToByKeyboard()
+    {
+        auto* status = m_window->findChild<QLabel*>("checkStatus");
+        QVERIFY(!status->isVisible());
+        const QString path = scanPath + Keys::TUNER_HF_NB_IFSOURCE;
+        QVERIFY(Value(path)->SetStoredText("77"));
+        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/SCAN_START_FREQUENCY")->SetStoredText("5000000"));
+        QTRY_VERIFY(status->isVisible());
+
+        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QTRY_COMPARE(List()->topLevelItemCount(), 2);
+        QVERIFY(WaitUntilChecked());
+        QVERIFY(List()->hasFocus() && List()->isVisible());
+        QCOMPARE(Summary(), QStringLiteral("Errors: 1, warnings: 1"));
+        QCOMPARE(List()->topLevelItem(0)->text(2), scanPath);
+        QTest::keyClick(List(), Qt::Key_Home);
+        QTest::keyClick(List(), Qt::Key_Return);
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, scanPath);
+        auto* field = qobject_cast<QComboBox*>(QApplication::focusWidget());
+        QVERIFY(field && field->objectName() == Keys::TUNER_HF_NB_IFSOURCE);
+
+        QTest::keyClick(field, Qt::Key_Home);
+        QTRY_COMPARE(List()->topLevelItemCount(), 1);
+        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/SCAN_STOP_FREQUENCY")->SetStoredText("6000000"));
+        QTRY_COMPARE(List()->topLevelItemCount(), 0);
+        QVERIFY(!status->isVisible());
+    }
+
+    void aRuleThatSwitchesAValueOnHasItChecked()
+    {
+        const QString path = "/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/";
+        QCOMPARE(Value(path + Keys::TUNER_HF_NB_NF1_BANDWIDTH)->GetState(), stDisabled);
+        QVERIFY(Value(path + Keys::TUNER_HF_NB_NF1_BANDWIDTH)->SetStoredText("12345"));
+        QTest::qWait(20);
+        QCOMPARE(List()->topLevelItemCount(), 0);
+        QVERIFY(Value(path + Keys::TUNER_HF_NB_NF1_STATUS)->SetBool(true));
+        QTRY_COMPARE(List()->topLevelItemCount(), 1);
+        FileError error;
+        QVERIFY(m_window->Document().NewFromSample(error));
+        QTRY_COMPARE(List()->topLevelItemCount(), 0);
+    }
+
+    void aLargeJobIsCheckedInSlicesAndCanBeStopped()
+    {
+        QByteArray chains;
+        for (int number = 0; number < 1000; ++number)
+            chains += "<Node name=\"C" + QByteArray::number(number) +
+                      "\" type=\"IPC_FULL\" groups=\"G_AUTOREC G_CLASSIFIER G_DECODER G_DEMOD_HF G_DFLOCATE G_GENERAL_CS "
+                      "G_TUNER_HF\"><Value name=\"TUNER_HF_NB_IFSOURCE\">9</Value></Node>\n";
+        QFile file(m_directory->filePath("large.job.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<Job version=\"1\"><Node name=\"/Jobs\" type=\"JOB\">" + chains + "</Node></Job>\n");
+        file.close();
+        QVERIFY(m_window->OpenFile(file.fileName()));
+        QCoreApplication::processEvents(); // the new dialog
+        Dock()->Start();
+
+        QElapsedTimer all, slice;
+        qint64 longest = 0;
+        all.start();
+        while (Dock()->IsRunning())
+        {
+            slice.start();
+            QCoreApplication::processEvents();
+            longest = std::max(longest, slice.elapsed());
+        }
+        qInfo("%zu values in %lld ms, longest slice %lld ms", Tree::Instance()->ValueCount(), all.elapsed(), longest);
+        QVERIFY(all.elapsed() < 10000 && longest < 1000);
+        QVERIFY(Summary().contains("1000"));
+        QCOMPARE(List()->topLevelItemCount(), 1000);
+
+        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QVERIFY(Dock()->IsRunning());
+        QTest::keyClick(List(), Qt::Key_Escape);
+        QVERIFY(!Dock()->IsRunning());
+        QTRY_VERIFY(Summary().startsWith("Stopped"));
+        QVERIFY(List()->topLevelItemCount() < 1000);
+    }
+
+    void filesAreCheckedWithTheirValues()
+    {
+        const QString path = scanPath + "SCAN_START_FREQUENCY";
+        const QString name = m_directory->filePath("a.job.xml");
+        const auto model = JobModel::Load();
+        QVERIFY(m_window->SaveTo(name));
+        QVERIFY(Checker::CheckFile(name, model).isEmpty());
+        QVERIFY(Value(path)->SetStoredText("4000000"));
+        QVERIFY(m_window->SaveTo(name));
+        const FileErrors errors = Checker::CheckFile(name, model);
+        QCOMPARE(errors.size(), 1);
+        QVERIFY(errors[0].IsError());
+        QCOMPARE(errors[0].itemPath, path);
+        QVERIFY(errors[0].ToText().contains(name) && errors[0].ToText().contains("3500000"));
+        QVERIFY(Value(path)->SetStoredText("3000000"));
+    }
+};
+
+QTEST_MAIN(TestCheck)
+#include "test_check.moc"

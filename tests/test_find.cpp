@@ -1,0 +1,303 @@
+#include "jobedit/dialogpane.h"
+#include "jobedit/fieldindex.h"
+#include "jobedit/fieldnavigator.h"
+#include "jobedit/fieldtexts.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/nodepane.h"
+#include "keys/keys.h"
+#include "valuewidgets/valuelink.h"
+
+#include <QTest>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+
+/// The value that the widget, or what it is a part of, edits; empty when it edits none.
+QString PathOf(const QWidget* widget)
+{
+    for (; widget; widget = widget->parentWidget())
+        if (const auto* link = dynamic_cast<const ValueLink*>(widget); link && link->GetBoundValue())
+            return link->GetBoundValue()->GetPathName();
+    return {};
+}
+
+/// All values that any dialog of the job shows, in a widget that can be seen and used.
+QSet<QString> ShownPaths(const std::vector<JOBEDIT::JobNode>& nodes)
+{
+    QSet<QString> paths;
+    for (const JOBEDIT::JobNode& node : nodes)
+        for (const Form form : {Form::Job, Form::StandAlone})
+            if (const auto dialog = HasDialog(node) ? MakeDialog(node, form, nullptr) : nullptr)
+                for (int tab = 0; tab < dialog->count(); ++tab)
+                    for (QWidget* widget : dialog->widget(tab)->findChildren<QWidget*>())
+                        if (widget->isVisibleTo(dialog->widget(tab)) && widget->isEnabledTo(dialog.get()) &&
+                            dialog->isTabEnabled(tab) && widget->focusPolicy() != Qt::NoFocus)
+                            paths << PathOf(widget);
+    paths.remove({});
+    return paths;
+}
+
+} // namespace
+
+class TestFind : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+
+    QLineEdit* Text() { return m_window->findChild<QLineEdit*>("findText"); }
+    QTreeView* Hits() { return m_window->findChild<QTreeView*>("findHits"); }
+    QString Cell(int row, int column) { return Hits()->model()->index(row, column).data().toString(); }
+    void Find(const QString& text)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(Text()->hasFocus());
+        QTest::keyClicks(Text(), text);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void wordsFindTheBestFieldFirst_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QString>("path"); // end of the first path; empty: nothing is found
+        const QString tuner = "CS_TUNER/TUNER/";
+        QTest::newRow("label") << "tds_hf1/cs_tuner if bandwidth" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
+        QTest::newRow("words in any order and case") << "BANDWIDTH cs_tuner IF tds_hf1"
+                                                     << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
+        QTest::newRow("German label") << "cs_tuner zf-bandbreite" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
+        QTest::newRow("umlaut") << QString::fromUtf8("cs_tuner VERST\u00c4RKUNG")
+                                << tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD;
+        QTest::newRow("key") << "tuner_hf_nb_bfo tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
+        QTest::newRow("whole path") << tunerPath + Keys::TUNER_HF_NB_NF2_BANDWIDTH
+                                    << tuner + Keys::TUNER_HF_NB_NF2_BANDWIDTH;
+        QTest::newRow("description") << "offset for cw /tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
+        QTest::newRow("unit") << QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1")
+                              << tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD;
+        QTest::newRow("a word that is nowhere") << "gain xyzzy" << "";
+        QTest::newRow("no word") << " / " << "";
+    }
+    void wordsFindTheBestFieldFirst()
+    {
+        QFETCH(QString, words);
+        QFETCH(QString, path);
+        const auto result = FieldIndex(*Tree::Instance()).Find(words, 200);
+        QCOMPARE(result.paths.isEmpty(), path.isEmpty());
+        QVERIFY2(path.isEmpty() || result.paths.constFirst().endsWith(path), qPrintable(result.paths.value(0)));
+    }
+
+    void aLabelThatBeginsGoesBeforeAWordBeforeAKeyBeforeADescription()
+    {
+        Tree tree;
+        const auto make = [&](const char* key, const char* label, const char* description)
+        {
+            static std::vector<std::unique_ptr<ValueDescriptor>> descriptors;
+            descriptors.push_back(std::make_unique<ValueDescriptor>());
+            descriptors.back()->label = label;
+            descriptors.back()->description = description;
+            tree.CreateValue(QStringLiteral("/A/") + key, *descriptors.back());
+        };
+        make("D1", "", "about volume");
+        make("VOLUMEK", "", "");
+        make("W1", "Audio volume", "");
+        make("B1", "Volume of audio", "");
+        make("B2", "Volume", "");
+        make("OTHER", "", "");
+        FieldIndex index(tree);
+        QCOMPARE(index.Find("volume", 200).paths, (QStringList{"/A/B1", "/A/B2", "/A/W1", "/A/VOLUMEK", "/A/D1"}));
+        QCOMPARE(index.Find("volume", 2).paths, (QStringList{"/A/B1", "/A/B2"}));
+        QCOMPARE(index.Find("volume", 2).count, 5);
+        make("B3", "Volume", "");
+        QCOMPARE(index.Find("volume", 200).count, 6);
+    }
+
+    void allPanelContextsOfTheCatalogueAreLookedInto()
+    {
+        QFile file(QFINDTESTDATA("../translations/ipcparam_de.ts"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        static const QRegularExpression name("<name>(TKE::\\w*(?:Dlg|Panel\\w*))</name>");
+        int count = 0;
+        for (auto match = name.globalMatch(text); match.hasNext(); ++count)
+        {
+            const QByteArray context = match.next().captured(1).toUtf8();
+            const bool isKnown = std::ranges::any_of(FieldTexts::Contexts(), [&](const char* known)
+                                                     { return context == known; });
+            QVERIFY2(isKnown || context == "TKE::ParameterDlg", context.constData());
+        }
+        QVERIFY(count > 30);
+    }
+
+    void aFieldIsFoundAndGoneToByKeyboard()
+    {
+        m_window->Nodes().View()->setFocus();
+        Find("tds_hf1 cs_tuner mgcvalue");
+        const QString path = tunerPath + Keys::TUNER_HF_NB_MGCVALUE;
+        QCOMPARE(Cell(0, 0), QStringLiteral("Value"));
+        QCOMPARE(Cell(0, 1), QStringLiteral("60 dB"));
+        QCOMPARE(Cell(0, 2) + '/' + Cell(0, 3), path);
+
+        Text()->selectAll();
+        QTest::keyClicks(Text(), "tds_hf1 cs_tuner if");
+        const QString second = Cell(1, 2) + '/' + Cell(1, 3);
+        QTest::keyClick(Text(), Qt::Key_Down);
+        QTest::keyClick(Text(), Qt::Key_Return);
+        QCOMPARE(PathOf(QApplication::focusWidget()), second);
+        QVERIFY(!Text()->isVisible());
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+
+        QWidget* field = QApplication::focusWidget();
+        Find("gain");
+        QTest::keyClick(Text(), Qt::Key_Escape);
+        QVERIFY(!Text()->isVisible());
+        QCOMPARE(QApplication::focusWidget(), field);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void moreThanAPageOfHitsIsShownOnDemand()
+    {
+        Find("frequency");
+        const auto rows = [&] { return Hits()->model()->rowCount(); };
+        QCOMPARE(rows(), 201);
+        QVERIFY(Cell(200, 0).endsWith("more"));
+        Hits()->setCurrentIndex(Hits()->model()->index(200, 0));
+        QTest::keyClick(Text(), Qt::Key_Return);
+        QVERIFY(rows() > 201);
+        QVERIFY(Text()->isVisible() && !Cell(200, 2).isEmpty());
+        Text()->selectAll();
+        QTest::keyClicks(Text(), "xyzzy");
+        QCOMPARE(rows(), 0);
+        QTest::keyClick(Text(), Qt::Key_Return);
+        QVERIFY(Text()->hasFocus());
+        QVERIFY(m_window->NewFromSample());
+        QVERIFY(!Text()->isVisible());
+    }
+
+    void everyFieldThatADialogShowsIsReached()
+    {
+        const QSet<QString> shown = ShownPaths(m_window->Nodes().GetNodes());
+        int count = 0;
+        for (const QString& path : shown)
+        {
+            if (qHash(path, 1) % 4 != 0)
+                continue;
+            const bool isReached = FieldNavigator(*m_window).GoTo(path);
+            QWidget* focus = QApplication::focusWidget();
+            // Opening a panel may disable what does not apply in it.
+            if (Tree::Instance()->FindValue(path)->GetState() != stEnabled)
+                continue;
+            QVERIFY2(isReached && PathOf(focus) == path, qPrintable(path + " -> " + PathOf(focus)));
+            QVERIFY2(focus->isVisible() && !focus->visibleRegion().isEmpty(), qPrintable(path));
+            ++count;
+        }
+        QVERIFY(count > 100);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void valuesOfNodesWithoutADialogAreReachedInADialogOfAnotherNode_data()
+    {
+        QTest::addColumn<QString>("node");
+        QTest::newRow("channel") << "/Jobs/Demo/TDS_EXC/CS_WDE/WDEEXCITER/Channel3/";
+        QTest::newRow("activity") << "/Jobs/Demo/TDS_HF1/";
+        QTest::newRow("exciter") << "/Jobs/Demo/TDS_EXC/";
+        QTest::newRow("spectral zoom") << "/Jobs/Demo/TDSSpectralZoom/";
+    }
+    void valuesOfNodesWithoutADialogAreReachedInADialogOfAnotherNode()
+    {
+        QFETCH(QString, node);
+        int reached = 0;
+        for (const auto& value : Tree::Instance()->FindNode(node)->GetValues())
+            if (FieldNavigator(*m_window).GoTo(value->GetPathName()) && value->GetState() == stEnabled)
+            {
+                QCOMPARE(PathOf(QApplication::focusWidget()), value->GetPathName());
+                ++reached;
+            }
+        QVERIFY2(reached > 0, qPrintable(QString::number(reached)));
+    }
+
+    void whatNoDialogShowsIsToldAndItsNodeSelected()
+    {
+        QVERIFY(!FieldNavigator(*m_window).GoTo("/Jobs/Demo/JOB_AUTHOR"));
+        QVERIFY(!FieldNavigator(*m_window).GoTo("/Nowhere/X"));
+        m_window->Nodes().SelectNode(tunerPath);
+        Find("job_author");
+        QTest::keyClick(Text(), Qt::Key_Return);
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, QStringLiteral("/Jobs/Demo/"));
+        QVERIFY(m_window->statusBar()->currentMessage().contains("/Jobs/Demo/JOB_AUTHOR"));
+        QVERIFY(m_window->Nodes().View()->hasFocus());
+    }
+
+    void aFieldThatDoesNotApplyIsShownAndTold()
+    {
+        m_window->Dialog().SetForm(Form::StandAlone);
+        const QString path = tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH;
+        QVERIFY(FieldNavigator(*m_window).GoTo(path));
+        QCOMPARE(m_window->Dialog().GetForm(), Form::StandAlone);
+        auto* field = m_window->Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        QVERIFY(field && field->isVisible() && !field->hasFocus());
+        QVERIFY(m_window->statusBar()->currentMessage().contains(path));
+    }
+
+    void theFilterOfTheNodesKeepsAKeyOfItsOwn()
+    {
+        QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
+        QVERIFY(m_window->Nodes().Filter()->hasFocus());
+    }
+
+    void aThousandChainsAreSearchedWhileOneTypes()
+    {
+        Tree tree;
+        JobFile job(tree);
+        const NodeSpec chain{.name = {},
+                             .type = "IPC_FULL",
+                             .groups = {"G_AUTOREC", "G_CLASSIFIER", "G_DECODER", "G_DEMOD_HF", "G_DFLOCATE",
+                                        "G_GENERAL_CS", "G_TUNER_HF"}};
+        QVERIFY(job.AddNode(u"", {.name = "/Jobs", .type = "JOB"}));
+        for (int number = 0; number < 1000; ++number)
+        {
+            NodeSpec spec = chain;
+            spec.name = QString("CHAIN%1").arg(number);
+            QVERIFY(job.AddNode(u"/Jobs", spec));
+        }
+        FieldIndex index(tree);
+        QElapsedTimer time;
+        time.start();
+        index.Find("gain", 200);
+        const qint64 first = time.restart();
+        QCOMPARE(index.Find("hz frequency chain9", 200).paths.size(), 200);
+        const qint64 next = time.elapsed();
+        qInfo("%zu values: %lld ms for the first search, %lld ms for another", tree.ValueCount(), first, next);
+        QVERIFY(first < 2000 && next < 500);
+    }
+};
+
+QTEST_MAIN(TestFind)
+#include "test_find.moc"
