@@ -3,6 +3,7 @@
 #include "application/cfgcenter.h"
 #include "application/errorhandler.h"
 #include "keys/keys.h"
+#include "nodecopy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -107,6 +108,41 @@ std::vector<JobNode> JobDocument::GetNodes() const
     for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
         Collect(*top, -1, nodes);
     return nodes;
+}
+
+TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason)
+{
+    TKE::Node* node = m_file.AddNode(parentPath, spec, reason);
+    if (!node)
+        return nullptr;
+    SetModified(true);
+    emit NodesChanged();
+    return node;
+}
+
+bool JobDocument::RemoveNode(const QString& path, QString* reason)
+{
+    if (!m_file.FindNodeSpec(path))
+    {
+        if (reason)
+            *reason = tr("The job holds no node \"%1\".").arg(path);
+        return false;
+    }
+    m_file.RemoveNode(path);
+    SetModified(true);
+    emit NodesChanged();
+    return true;
+}
+
+bool JobDocument::RenameNode(const QString& path, const QString& name, QString* reason)
+{
+    return DuplicateNode(path, name, reason) && RemoveNode(path, reason);
+}
+
+bool JobDocument::DuplicateNode(const QString& path, const QString& name, QString* reason)
+{
+    return CopyNode({*TKE::Tree::Instance(), [this](const QString& node) { return m_file.FindNodeSpec(node); }}, path,
+                    *this, m_file.FindNodeSpec(ParentPath(path)) ? ParentPath(path) : QString(), name, reason);
 }
 
 void JobDocument::Collect(const TKE::Node& node, int parent, std::vector<JobNode>& nodes) const
