@@ -1,11 +1,13 @@
 #include "mainwindow.h"
 
+#include "compareactions.h"
 #include "dialogpane.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
+#include "reuseactions.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -47,6 +49,8 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillFileMenu();
     FillNodeMenu();
     FillViewMenu();
+    m_compare = new CompareActions(*this);
+    new ReuseActions(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
@@ -342,15 +346,19 @@ bool MainWindow::MayGo()
 
 bool MainWindow::MayOverwrite()
 {
-    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed)
+    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed || m_compare->IsDiskSettled())
         return true; // what has vanished is written again
+    m_compare->NoteDisk();
     QMessageBox question(
         QMessageBox::Warning, tr("Save Job"),
         tr("%1 was changed by somebody else since it was opened.").arg(QFileInfo(m_document->GetFileName()).fileName()),
         QMessageBox::Cancel, this);
     QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton* compare = question.addButton(tr("&Compare..."), QMessageBox::ActionRole);
     question.setDefaultButton(QMessageBox::Cancel);
     question.exec();
+    if (question.clickedButton() == compare)
+        m_compare->CompareWithDisk();
     return question.clickedButton() == overwrite;
 }
 

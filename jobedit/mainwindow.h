@@ -13,6 +13,7 @@ class QSplitter;
 namespace JOBEDIT
 {
 
+class CompareActions;
 class DialogPane;
 class MessageList;
 class NodePane;
@@ -46,6 +47,7 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    CompareActions& Comparing() { return *m_compare; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -85,6 +87,7 @@ private:
     QMenu* m_toolsMenu;
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
+    CompareActions* m_compare = nullptr;
     TKE::ErrorHandler::Subscription m_reports;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobmodel/jobfile.h"
+#include "nodecopy.h"
 
 namespace JOBEDIT
 {
@@ -10,6 +11,12 @@ struct OtherJob
 {
     TKE::Tree tree;
     TKE::JobFile file{tree};
+
+    /// Valid as long as this lives.
+    NodeSource Source() const
+    {
+        return {tree, [this](const QString& path) { return file.FindNodeSpec(path); }};
+    }
 };
 
 } // namespace JOBEDIT
