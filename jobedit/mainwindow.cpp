@@ -4,6 +4,7 @@
 #include "dialogpane.h"
 #include "messagelist.h"
 #include "nightcolours.h"
+#include "nodeactions.h"
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillViewMenu();
     m_compare = new CompareActions(*this);
     new ReuseActions(*this);
+    new NodeActions(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
@@ -211,13 +213,7 @@ void MainWindow::FillNodeMenu()
     QMenu* menu = m_nodeMenu;
     m_panelMenu = menu->addMenu(tr("Open &Panel"));
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::FillPanelMenu);
-    connect(m_nodes, &NodePane::MenuRequested, this,
-            [this](const QPoint& position)
-            {
-                FillPanelMenu();
-                if (!m_panelMenu->isEmpty())
-                    m_panelMenu->popup(position);
-            });
+    connect(m_nodes, &NodePane::MenuRequested, menu, [menu](const QPoint& position) { menu->popup(position); });
     menu->addSeparator();
     menu->addAction(tr("&Find..."), QKeySequence::Find, m_nodes->Filter(),
                     [filter = m_nodes->Filter()]

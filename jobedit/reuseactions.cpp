@@ -121,8 +121,10 @@ void ReuseActions::Apply(const ParameterSet& set, const QString& stepName)
         for (ValueChange& change : set.ChangesFor(target.path))
             changes.push_back(std::move(change));
     const WriteResult result = WriteValues(m_window.Document(), stepName, changes);
-    for (const Refusal& refusal : result.refused)
-        m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not written").arg(refusal.path), refusal.reason);
+    constexpr size_t listed = 300; // a chain's worth and more; the rest only repeats it for other chains
+    for (size_t number = 0; number < std::min(listed, result.refused.size()); ++number)
+        m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not written").arg(result.refused[number].path),
+                                result.refused[number].reason);
     const QString summary = tr("%1: %2 parameters changed in %3 chains, %4 did not fit.")
                                 .arg(stepName)
                                 .arg(result.written)
