@@ -64,8 +64,19 @@ public:
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
+    const std::shared_ptr<const TKE::JobModel>& GetModel() { return m_file.GetModel(); }
+    /// What the job says about the node at `path`; null when it says nothing.
+    const TKE::NodeSpec* FindNodeSpec(QStringView path) const { return m_file.FindNodeSpec(path); }
+
+    // Null or false, with the reason when asked for, when that is not possible; nothing has changed then.
+    TKE::Node* AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason);
+    bool RemoveNode(const QString& path, QString* reason);
+    bool RenameNode(const QString& path, const QString& name, QString* reason);
+    bool DuplicateNode(const QString& path, const QString& name, QString* reason);
 
 signals:
+    /// Nodes were added, removed or renamed.
+    void NodesChanged();
     /// Another job has taken the place of the one so far; all its nodes and values are gone.
     void Replaced();
     void ModifiedChanged(bool modified);

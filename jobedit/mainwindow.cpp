@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "checkdock.h"
+#include "compareactions.h"
 #include "dialogpane.h"
 #include "editactions.h"
 #include "languages.h"
@@ -8,9 +9,11 @@
 #include "findbar.h"
 #include "messagelist.h"
 #include "nightcolours.h"
+#include "nodeactions.h"
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
+#include "reuseactions.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -59,6 +62,9 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     FillNodeMenu();
     FillViewMenu();
     new EditActions(*this);
+    m_compare = new CompareActions(*this);
+    new ReuseActions(*this);
+    new NodeActions(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
@@ -252,13 +258,7 @@ void MainWindow::FillNodeMenu()
     QMenu* menu = m_nodeMenu;
     m_panelMenu = menu->addMenu(tr("Open &Panel"));
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::FillPanelMenu);
-    connect(m_nodes, &NodePane::MenuRequested, this,
-            [this](const QPoint& position)
-            {
-                FillPanelMenu();
-                if (!m_panelMenu->isEmpty())
-                    m_panelMenu->popup(position);
-            });
+    connect(m_nodes, &NodePane::MenuRequested, menu, [menu](const QPoint& position) { menu->popup(position); });
     menu->addSeparator();
     menu->addAction(tr("&Filter..."), QKeySequence(Qt::CTRL | Qt::Key_L), m_nodes->Filter(),
                     [filter = m_nodes->Filter()]
@@ -420,15 +420,19 @@ bool MainWindow::MayGo()
 
 bool MainWindow::MayOverwrite()
 {
-    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed)
+    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed || m_compare->IsDiskSettled())
         return true; // what has vanished is written again
+    m_compare->NoteDisk();
     QMessageBox question(
         QMessageBox::Warning, tr("Save Job"),
         tr("%1 was changed by somebody else since it was opened.").arg(QFileInfo(m_document->GetFileName()).fileName()),
         QMessageBox::Cancel, this);
     QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton* compare = question.addButton(tr("&Compare..."), QMessageBox::ActionRole);
     question.setDefaultButton(QMessageBox::Cancel);
     question.exec();
+    if (question.clickedButton() == compare)
+        m_compare->CompareWithDisk();
     return question.clickedButton() == overwrite;
 }
 

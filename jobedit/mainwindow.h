@@ -14,6 +14,7 @@ class QSplitter;
 namespace JOBEDIT
 {
 
+class CompareActions;
 class DialogPane;
 class MessageList;
 class NodePane;
@@ -54,6 +55,7 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    CompareActions& Comparing() { return *m_compare; }
     Place GetPlace() const;
     /// What of the place the job has.
     void GoTo(const Place& place);
@@ -106,6 +108,7 @@ private:
     QMenu* m_toolsMenu;
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
+    CompareActions* m_compare = nullptr;
     QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
     TKE::ErrorHandler::Subscription m_reports;
 };

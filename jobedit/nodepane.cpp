@@ -7,6 +7,7 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -37,6 +38,7 @@ NodePane::NodePane(QWidget* parent)
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->setExpandsOnDoubleClick(false);
     m_view->setIndentation(14);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -105,6 +107,31 @@ QModelIndex NodePane::ShownIndexOf(const QString& path) const
 const JobNode* NodePane::GetCurrentNode() const
 {
     return m_model->NodeOf(m_filtered->mapToSource(m_view->currentIndex()));
+}
+
+std::vector<JobNode> NodePane::GetSelectedNodes() const
+{
+    std::vector<const JobNode*> selected;
+    for (const QModelIndex& index : m_view->selectionModel()->selectedRows())
+        selected.push_back(m_model->NodeOf(m_filtered->mapToSource(index)));
+    std::ranges::sort(selected); // they stand in one vector, in the order of the tree
+    std::vector<JobNode> nodes;
+    for (const JobNode* node : selected)
+        nodes.push_back(*node);
+    return nodes;
+}
+
+void NodePane::UpdateNodes(std::vector<JobNode> nodes)
+{
+    const JobNode* current = GetCurrentNode();
+    QString path = current ? current->path : QString();
+    {
+        const QSignalBlocker blocker(this);
+        SetNodes(std::move(nodes));
+        while (!path.isEmpty() && !SelectNode(path))
+            path = path.left(path.chopped(1).lastIndexOf(u'/') + 1);
+    }
+    emit CurrentChanged();
 }
 
 bool NodePane::SelectNode(const QString& path)

@@ -68,6 +68,16 @@ bool VCCheckableGroupBox::SetValue(ValueBase* value)
     return true;
 }
 
+std::vector<ValueBase*> VCCheckableGroupBox::GetBoundValues() const
+{
+    std::vector<ValueBase*> values;
+    if (m_boolValue)
+        values.push_back(m_boolValue);
+    if (m_selectionValue)
+        values.push_back(m_selectionValue);
+    return values;
+}
+
 void VCCheckableGroupBox::Lock()
 {
     m_locked = true;

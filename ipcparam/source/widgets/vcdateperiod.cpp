@@ -68,6 +68,11 @@ void VCDatePeriod::SlotStopDateValueChanged(const QDate& date)
     Write(m_stopValue, date);
 }
 
+std::vector<ValueBase*> VCDatePeriod::GetBoundValues() const
+{
+    return PeriodWidget<VCDatePeriod>::BoundValues(*this);
+}
+
 void VCDatePeriod::Update(Observable* source, TChangeCode code)
 {
     PeriodWidget<VCDatePeriod>::Update(*this, source, code);

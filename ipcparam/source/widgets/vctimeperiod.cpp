@@ -69,6 +69,11 @@ void VCTimePeriod::SlotStopTimeValueChanged(const QTime& time)
     Write(m_stopValue, time);
 }
 
+std::vector<ValueBase*> VCTimePeriod::GetBoundValues() const
+{
+    return PeriodWidget<VCTimePeriod>::BoundValues(*this);
+}
+
 void VCTimePeriod::Update(Observable* source, TChangeCode code)
 {
     PeriodWidget<VCTimePeriod>::Update(*this, source, code);

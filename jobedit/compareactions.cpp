@@ -1,0 +1,196 @@
+#include "compareactions.h"
+
+#include "mainwindow.h"
+#include "messagelist.h"
+#include "nodepane.h"
+#include "otherjob.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressDialog>
+
+namespace JOBEDIT
+{
+
+CompareActions::CompareActions(MainWindow& window) : QObject(&window), m_window(window)
+{
+    QMenu* menu = window.ToolsMenu();
+    menu->addAction(tr("Compare with &File..."), this, &CompareActions::Slot_OnCompareWithFile);
+    m_withSaved = menu->addAction(tr("Compare with &Saved..."), this, &CompareActions::CompareWithSaved);
+    menu->addAction(tr("Compare C&hains..."), this, &CompareActions::Slot_OnCompareChains);
+    connect(menu, &QMenu::aboutToShow, this,
+            [this] { m_withSaved->setEnabled(!m_window.Document().GetFileName().isEmpty()); });
+    window.installEventFilter(this);
+}
+
+CompareDialog* CompareActions::CompareWithFile(const QString& fileName)
+{
+    const auto other = Load(fileName);
+    if (!other)
+        return nullptr;
+    const QString name = QFileInfo(fileName).fileName();
+    return Show({{}, {}, other->Source()}, other,
+                {.title = tr("Compare with %1").arg(name),
+                 .heading = tr("The open job at the left, %1 at the right.").arg(fileName),
+                 .leftName = tr("Open job"),
+                 .rightName = name,
+                 .takeOver = tr("&Take Over from File"),
+                 .close = tr("&Close")});
+}
+
+CompareDialog* CompareActions::CompareWithSaved()
+{
+    const QString fileName = m_window.Document().GetFileName();
+    const auto other = fileName.isEmpty() ? nullptr : Load(fileName);
+    if (!other)
+        return nullptr;
+    return Show({{}, {}, other->Source()}, other,
+                {.title = tr("Compare with Saved"),
+                 .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
+                 .leftName = tr("Open job"),
+                 .rightName = tr("Saved"),
+                 .takeOver = tr("&Take Back to Saved"),
+                 .close = tr("&Close")});
+}
+
+CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QString& rightPath)
+{
+    JobDocument& document = m_window.Document();
+    const NodeSource open{*TKE::Tree::Instance(), [&document](const QString& path) { return document.FindNodeSpec(path); }};
+    return Show({leftPath, rightPath, open}, nullptr,
+                {.title = tr("Compare Chains"),
+                 .heading = tr("%1 at the left, %2 at the right.").arg(leftPath, rightPath),
+                 .leftName = leftPath,
+                 .rightName = rightPath,
+                 .takeOver = tr("&Take Over from the Right"),
+                 .close = tr("&Close")});
+}
+
+CompareDialog* CompareActions::CompareWithDisk()
+{
+    NoteDisk();
+    const QString fileName = m_window.Document().GetFileName();
+    const auto other = Load(fileName);
+    if (!other)
+        return nullptr;
+    const Stamp stamp = m_told;
+    CompareDialog* dialog = Show({{}, {}, other->Source()}, other,
+                                 {.title = tr("File Changed by Somebody Else"),
+                                  .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
+                                                "come into the open job; what is not taken over stays as it is here, and "
+                                                "saving overwrites the file without asking again.")
+                                                 .arg(fileName),
+                                  .leftName = tr("Mine (open job)"),
+                                  .rightName = tr("Theirs (file)"),
+                                  .takeOver = tr("&Take Over Theirs"),
+                                  .close = tr("&Keep Mine")},
+                                 !m_window.Document().IsModified());
+    if (dialog)
+        connect(dialog, &QDialog::finished, this, [this, stamp] { m_settled = stamp; });
+    return dialog;
+}
+
+bool CompareActions::eventFilter(QObject* watched, QEvent* event)
+{
+    // After the event, which belongs to the window first.
+    if (watched == &m_window && event->type() == QEvent::WindowActivate)
+        QMetaObject::invokeMethod(this, &CompareActions::LookAtDisk, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
+
+CompareActions::Stamp CompareActions::DiskStamp() const
+{
+    const QFileInfo info(m_window.Document().GetFileName());
+    return {info.filePath(), info.size(), info.lastModified()};
+}
+
+void CompareActions::LookAtDisk()
+{
+    if (QApplication::activeModalWidget() || m_told == DiskStamp() || IsDiskSettled() ||
+        m_window.Document().GetDiskState() != TKE::JobFile::DiskState::Changed)
+        return;
+    CompareWithDisk();
+}
+
+void CompareActions::Slot_OnCompareWithFile()
+{
+    const QString start = QFileInfo(m_window.Document().GetFileName()).absolutePath();
+    const QString fileName =
+        QFileDialog::getOpenFileName(&m_window, tr("Compare with File"), start, tr("Jobs (*.xml);;All files (*)"));
+    if (!fileName.isEmpty())
+        CompareWithFile(fileName);
+}
+
+void CompareActions::Slot_OnCompareChains()
+{
+    const std::vector<JobNode> selected = m_window.Nodes().GetSelectedNodes();
+    if (selected.size() == 2)
+    {
+        CompareChains(selected[0].path, selected[1].path);
+        return;
+    }
+    const JobNode* current = m_window.Nodes().GetCurrentNode();
+    if (!current)
+        return;
+    // Chains of the same type first: they are what is compared most.
+    QStringList others;
+    QStringList otherTypes;
+    for (const JobNode& node : m_window.Nodes().GetNodes())
+        if (node.path != current->path)
+            (node.type == current->type ? others : otherTypes) << node.path;
+    bool chosen = false;
+    const QString path = QInputDialog::getItem(&m_window, tr("Compare Chains"), tr("Compare %1 with:").arg(current->path),
+                                               others + otherTypes, 0, false, &chosen);
+    if (chosen)
+        CompareChains(current->path, path);
+}
+
+std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
+{
+    auto job = std::make_shared<OtherJob>();
+    job->file.SetModel(m_window.Document().GetModel());
+    QProgressDialog progress(tr("Reading %1...").arg(QFileInfo(fileName).fileName()), tr("Cancel"), 0, 1000, &m_window);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(500);
+    job->file.SetProgress(
+        [&](qint64 done, qint64 all)
+        {
+            progress.setValue(int(all > 0 ? std::min<qint64>(999, done * 1000 / all) : 0));
+            return !progress.wasCanceled();
+        });
+    TKE::FileError error;
+    const bool loaded = job->file.Load(fileName, &error);
+    job->file.SetProgress({});
+    if (loaded)
+        return job;
+    if (progress.wasCanceled())
+        return nullptr;
+    progress.reset();
+    const QString text = tr("%1 could not be read.").arg(QFileInfo(fileName).fileName());
+    m_window.Messages().Add(TKE::Severity::Error, text, error.ToText());
+    QMessageBox(QMessageBox::Critical, tr("Compare"), text + "\n\n" + error.ToText(), QMessageBox::Ok, &m_window).exec();
+    return nullptr;
+}
+
+CompareDialog* CompareActions::Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
+                                    bool ticked)
+{
+    auto* dialog = new CompareDialog(m_window.Document(), std::move(sides), std::move(holder), texts, &m_window);
+    connect(dialog, &CompareDialog::Refused, this,
+            [this](const QString& path, const QString& reason)
+            { m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not taken over").arg(path), reason); });
+    if (!dialog->Compare(ticked))
+    {
+        delete dialog;
+        return nullptr;
+    }
+    dialog->show();
+    return dialog;
+}
+
+} // namespace JOBEDIT

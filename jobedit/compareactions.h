@@ -1,0 +1,59 @@
+#pragma once
+
+#include "comparedialog.h"
+
+#include <QDateTime>
+
+namespace JOBEDIT
+{
+
+class MainWindow;
+struct OtherJob;
+
+/// Tools > Compare..., and the look after the file of the open job: when somebody else has changed it, the differences
+/// are shown once, and the user decides what becomes of them.
+class CompareActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CompareActions(MainWindow& window);
+
+    /// Null when the file could not be read, which the user has been told then, or reading was cancelled.
+    CompareDialog* CompareWithFile(const QString& fileName);
+    CompareDialog* CompareWithSaved();
+    CompareDialog* CompareChains(const QString& leftPath, const QString& rightPath);
+    /// Shows how the file on disk differs from the open job.
+    CompareDialog* CompareWithDisk();
+
+    /// Whether the user has decided what becomes of the file's present content: saving need not ask again.
+    bool IsDiskSettled() const { return m_settled == DiskStamp(); }
+    /// The user knows of the file's present content: it is not told of on its own.
+    void NoteDisk() { m_told = DiskStamp(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Stamp
+    {
+        QString file;
+        qint64 size = -1;
+        QDateTime changed;
+        bool operator==(const Stamp&) const = default;
+    };
+    Stamp DiskStamp() const;
+    void LookAtDisk();
+    void Slot_OnCompareWithFile();
+    void Slot_OnCompareChains();
+    std::shared_ptr<OtherJob> Load(const QString& fileName);
+    CompareDialog* Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
+                        bool ticked = false);
+
+    MainWindow& m_window;
+    QAction* m_withSaved;
+    Stamp m_told;
+    Stamp m_settled;
+};
+
+} // namespace JOBEDIT

@@ -1,0 +1,194 @@
+#include "comparedialog.h"
+
+#include "differencemodel.h"
+#include "jobdocument.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace JOBEDIT
+{
+
+CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::shared_ptr<const void> holder,
+                             const CompareTexts& texts, QWidget* parent)
+    : QDialog(parent)
+    , m_document(document)
+    , m_sides(std::move(sides))
+    , m_holder(std::move(holder))
+    , m_model(new DifferenceModel(texts.leftName, texts.rightName, this))
+    , m_filtered(new QSortFilterProxyModel(this))
+    , m_filter(new QLineEdit(this))
+    , m_view(new QTreeView(this))
+    , m_counts(new QLabel(this))
+    , m_takeOver(new QPushButton(texts.takeOver, this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(texts.title);
+    m_filtered->setSourceModel(m_model);
+    m_filtered->setFilterKeyColumn(-1);
+    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    MakeLayout(texts);
+    connect(m_filter, &QLineEdit::textChanged, this, &CompareDialog::ApplyFilter);
+    connect(m_filter, &QLineEdit::returnPressed, m_view, qOverload<>(&QWidget::setFocus));
+    connect(m_model, &DifferenceModel::Ticked, this, &CompareDialog::ShowCounts);
+    connect(m_takeOver, &QPushButton::clicked, this, &CompareDialog::TakeOverTicked);
+    m_view->installEventFilter(this);
+    resize(1000, 560);
+}
+
+bool CompareDialog::Compare(bool ticked)
+{
+    QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(500);
+    auto differences = m_sides.Compare(
+        [&](qint64 done, qint64 all)
+        {
+            progress.setValue(int(all > 0 ? std::min<qint64>(999, done * 1000 / all) : 0));
+            return !progress.wasCanceled();
+        });
+    if (progress.wasCanceled())
+        return false;
+    progress.reset();
+    m_model->SetDifferences(std::move(differences), ticked);
+    m_view->setColumnHidden(DifferenceModel::Reason, true);
+    for (int column = 0; column < DifferenceModel::Reason; ++column)
+    {
+        m_view->resizeColumnToContents(column);
+        m_view->setColumnWidth(column, std::min(m_view->columnWidth(column) + 12, 300));
+    }
+    m_view->setCurrentIndex(m_filtered->index(0, 0));
+    m_view->setFocus();
+    return true;
+}
+
+bool CompareDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // The view itself would toggle the current row only, and not at all in the other columns.
+    if (watched == m_view && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
+    {
+        ToggleSelected();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void CompareDialog::MakeLayout(const CompareTexts& texts)
+{
+    auto* heading = new QLabel(texts.heading, this);
+    heading->setWordWrap(true);
+    m_filter->setObjectName("differenceFilter");
+    m_filter->setPlaceholderText(tr("Filter by node, parameter, key or value"));
+    m_filter->setAccessibleName(tr("Filter of the differences"));
+    m_filter->setClearButtonEnabled(true);
+
+    m_view->setObjectName("differences");
+    m_view->setAccessibleName(tr("Differences"));
+    m_view->setModel(m_filtered);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAlternatingRowColors(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setTextElideMode(Qt::ElideMiddle);
+    m_view->header()->setStretchLastSection(true);
+
+    auto* all = new QPushButton(tr("Tick &All"), this);
+    auto* none = new QPushButton(tr("Tick &None"), this);
+    all->setObjectName("tickAll");
+    none->setObjectName("tickNone");
+    connect(all, &QPushButton::clicked, this, [this] { TickShown(true); });
+    connect(none, &QPushButton::clicked, this, [this] { TickShown(false); });
+    m_counts->setObjectName("counts");
+    m_takeOver->setObjectName("takeOver");
+
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(m_takeOver, QDialogButtonBox::ApplyRole);
+    QPushButton* close = buttons->addButton(texts.close, QDialogButtonBox::RejectRole);
+    close->setObjectName("close");
+    for (QPushButton* button : {all, none, m_takeOver, close})
+        button->setAutoDefault(false); // Return in the filter or the list is no press of a button
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* ticks = new QHBoxLayout;
+    ticks->addWidget(all);
+    ticks->addWidget(none);
+    ticks->addWidget(m_counts, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(heading);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_view, 1);
+    layout->addLayout(ticks);
+    layout->addWidget(buttons);
+}
+
+void CompareDialog::TakeOverTicked()
+{
+    std::vector<Difference> wanted;
+    for (const QModelIndex& row : ShownRows())
+        if (m_model->IsTicked(row))
+            wanted.push_back(m_model->GetDifferences()[size_t(row.row())]);
+    const WriteResult result = TakeOver(m_document, windowTitle(), m_sides, wanted);
+    if (!Compare(false))
+        return reject();
+    m_model->SetRefusals(result.refused);
+    m_view->setColumnHidden(DifferenceModel::Reason, result.refused.empty());
+    m_counts->setText(tr("%1 taken over, %2 refused, %3 differences left")
+                          .arg(result.written)
+                          .arg(result.refused.size())
+                          .arg(m_model->rowCount()));
+    for (const Refusal& refusal : result.refused)
+        emit Refused(m_sides.leftBase + refusal.path, refusal.reason);
+}
+
+void CompareDialog::TickShown(bool on)
+{
+    m_model->Tick(ShownRows(), on);
+}
+
+void CompareDialog::ToggleSelected()
+{
+    QModelIndexList rows;
+    for (const QModelIndex& row : m_view->selectionModel()->selectedRows())
+        rows << m_filtered->mapToSource(row);
+    if (!rows.isEmpty())
+        m_model->Tick(rows, !std::ranges::all_of(rows, [this](const auto& row) { return m_model->IsTicked(row); }));
+}
+
+void CompareDialog::ShowCounts()
+{
+    const QModelIndexList rows = ShownRows();
+    const auto ticked = std::ranges::count_if(rows, [this](const auto& row) { return m_model->IsTicked(row); });
+    m_counts->setText(m_model->rowCount() == 0
+                          ? tr("There are no differences.")
+                          : tr("%1 differences, %2 shown, %3 of these ticked")
+                                .arg(m_model->rowCount())
+                                .arg(rows.size())
+                                .arg(ticked));
+    m_takeOver->setEnabled(ticked > 0);
+}
+
+void CompareDialog::ApplyFilter(const QString& text)
+{
+    m_filtered->setFilterFixedString(text.trimmed());
+    ShowCounts();
+}
+
+QModelIndexList CompareDialog::ShownRows() const
+{
+    QModelIndexList rows;
+    for (int row = 0; row < m_filtered->rowCount(); ++row)
+        rows << m_filtered->mapToSource(m_filtered->index(row, 0));
+    return rows;
+}
+
+} // namespace JOBEDIT
