@@ -19,7 +19,7 @@ JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* pa
         {
             if (m_otherJournal)
                 m_otherJournal(entry);
-            SetModified(true);
+            Note(entry);
         });
 }
 
@@ -71,6 +71,7 @@ bool JobDocument::Save(TKE::FileError& error)
 {
     if (!m_file.Save(&error))
         return false;
+    m_saved.clear();
     SetModified(false);
     return true;
 }
@@ -80,6 +81,7 @@ bool JobDocument::SaveAs(const QString& fileName, TKE::FileError& error)
     if (!m_file.SaveAs(QFileInfo(fileName).absoluteFilePath(), &error))
         return false;
     Lock();
+    m_saved.clear();
     m_readOnly = false;
     SetModified(false);
     emit FileNameChanged();
@@ -123,6 +125,28 @@ void JobDocument::Collect(const TKE::Node& node, int parent, std::vector<JobNode
         Collect(*child, parent, nodes);
 }
 
+QString JobDocument::SavedText(const TKE::ValueBase& value) const
+{
+    const auto found = m_saved.constFind(value.GetPathName());
+    return found == m_saved.constEnd() ? value.GetStoredText() : *found;
+}
+
+bool JobDocument::DiffersFromSaved(const TKE::ValueBase& value) const
+{
+    return m_saved.contains(value.GetPathName());
+}
+
+void JobDocument::Note(const TKE::JournalEntry& entry)
+{
+    const QString path = entry.value.GetPathName();
+    if (const auto found = m_saved.constFind(path); found == m_saved.constEnd())
+        m_saved.insert(path, entry.before);
+    else if (*found == entry.after)
+        m_saved.erase(found);
+    SetModified(true);
+    emit ContentChanged(entry.value);
+}
+
 void JobDocument::SetModified(bool modified)
 {
     if (m_modified == modified)
@@ -133,6 +157,7 @@ void JobDocument::SetModified(bool modified)
 
 void JobDocument::Loaded(bool readOnly)
 {
+    m_saved.clear();
     m_readOnly = readOnly;
     SetModified(false);
     emit FileNameChanged();

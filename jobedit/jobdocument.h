@@ -3,6 +3,7 @@
 #include "jobmodel/jobfile.h"
 #include "jobnode.h"
 
+#include <QHash>
 #include <QObject>
 
 namespace JOBEDIT
@@ -44,6 +45,10 @@ public:
     bool IsReadOnly() const { return m_readOnly; }
     TKE::JobFile::DiskState GetDiskState() const { return m_file.GetDiskState(); }
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
+    /// Stored text of the value in the saved file (for a new job: at its making), and whether the content differs from
+    /// it.
+    QString SavedText(const TKE::ValueBase& value) const;
+    bool DiffersFromSaved(const TKE::ValueBase& value) const;
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
 
@@ -52,8 +57,11 @@ signals:
     void Replaced();
     void ModifiedChanged(bool modified);
     void FileNameChanged();
+    /// The content has changed; the value's observers have not heard of it yet.
+    void ContentChanged(const TKE::ValueBase& value);
 
 private:
+    void Note(const TKE::JournalEntry& entry);
     void SetModified(bool modified);
     void Loaded(bool readOnly);
     void Lock();
@@ -62,6 +70,7 @@ private:
 
     TKE::JobFile m_file;
     TKE::JournalHook m_otherJournal;
+    QHash<QString, QString> m_saved; // stored texts of the values that differ from the file
     bool m_modified = false;
     bool m_readOnly = false;
 };

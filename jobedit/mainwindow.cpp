@@ -1,6 +1,8 @@
 #include "mainwindow.h"
 
 #include "dialogpane.h"
+#include "fieldmarks.h"
+#include "fieldmenu.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodepane.h"
@@ -47,6 +49,8 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillFileMenu();
     FillNodeMenu();
     FillViewMenu();
+    new FieldMarks(*this);
+    new FieldMenu(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 

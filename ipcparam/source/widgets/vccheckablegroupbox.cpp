@@ -88,6 +88,12 @@ void VCCheckableGroupBox::Update(Observable* source, TChangeCode code)
         Show(m_selectionValue->GetSelectedItem()->GetKey() != 0);
 }
 
+std::vector<FieldHolder::Field> VCCheckableGroupBox::GetFields() const
+{
+    ValueBase* value = m_boolValue ? static_cast<ValueBase*>(m_boolValue) : m_selectionValue;
+    return value ? std::vector<Field>{{const_cast<VCCheckableGroupBox*>(this), value}} : std::vector<Field>();
+}
+
 void VCCheckableGroupBox::FollowState(EnableState state)
 {
     if (state == stReleased)

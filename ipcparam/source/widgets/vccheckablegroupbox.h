@@ -2,6 +2,7 @@
 
 #include "value/value.h"
 #include "value/valueselection.h"
+#include "valuewidgets/fieldholder.h"
 
 #include <QGroupBox>
 
@@ -11,7 +12,7 @@ namespace TKE
 /// A group box whose title check box is bound to one value, a boolean or a selection (key 0 is unchecked, any other key
 /// checked), so that one value switches a whole group of rows. It follows the value's state and is disabled until a
 /// value enables it.
-class VCCheckableGroupBox : public QGroupBox, public IObserver
+class VCCheckableGroupBox : public QGroupBox, public IObserver, public FieldHolder
 {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ public:
     void Lock();
 
     void Update(Observable* source, TChangeCode code) override;
+    std::vector<Field> GetFields() const override;
 
 private slots:
     void slotInternalChange(bool on);

@@ -38,6 +38,11 @@ void VCDatePeriod::Lock()
     setEnabled(false);
 }
 
+std::vector<FieldHolder::Field> VCDatePeriod::GetFields() const
+{
+    return PeriodWidget<VCDatePeriod>::GetFields(*this);
+}
+
 void VCDatePeriod::Load(TextValue* value, QDateEdit& edit)
 {
     if (!value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "value/value.h"
+#include "valuewidgets/fieldholder.h"
 
 #include <QWidget>
 
@@ -14,7 +15,7 @@ namespace TKE
 template <typename Widget> class PeriodWidget;
 
 /// Edits a period of days: a start and a stop, each a text value that holds a date in ISO form.
-class VCDatePeriod : public QWidget, public IObserver
+class VCDatePeriod : public QWidget, public IObserver, public FieldHolder
 {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ public:
     void Lock();
 
     void Update(Observable* source, TChangeCode code) override;
+    std::vector<Field> GetFields() const override;
 
 private slots:
     void SlotStartDateValueChanged(const QDate& date);

@@ -40,6 +40,11 @@ void VCTimePeriod::Lock()
     setEnabled(false);
 }
 
+std::vector<FieldHolder::Field> VCTimePeriod::GetFields() const
+{
+    return PeriodWidget<VCTimePeriod>::GetFields(*this);
+}
+
 void VCTimePeriod::Load(TextValue* value, QTimeEdit& edit)
 {
     if (!value)
