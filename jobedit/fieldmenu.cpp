@@ -60,8 +60,20 @@ bool HasOwnMenu(const QWidget& widget)
 {
     if (!widget.isEnabled())
         return false;
-    return widget.contextMenuPolicy() == Qt::CustomContextMenu || qobject_cast<const QLineEdit*>(&widget) ||
-           qobject_cast<const QAbstractSpinBox*>(&widget);
+    return widget.contextMenuPolicy() == Qt::CustomContextMenu || qobject_cast<const QLineEdit*>(&widget);
+}
+
+// A spin box would run its own menu in an event loop within its event; a reset may delete the box meanwhile.
+QMenu* SpinMenu(QAbstractSpinBox& box)
+{
+    QMenu* menu = box.findChild<QLineEdit*>()->createStandardContextMenu();
+    menu->addSeparator();
+    QObject::connect(menu->addAction(QAbstractSpinBox::tr("&Step up")), &QAction::triggered, &box,
+                     &QAbstractSpinBox::stepUp, Qt::QueuedConnection);
+    QObject::connect(menu->addAction(QAbstractSpinBox::tr("Step &down")), &QAction::triggered, &box,
+                     &QAbstractSpinBox::stepDown, Qt::QueuedConnection);
+    menu->addSeparator();
+    return menu;
 }
 
 bool IsMenuKey(const QKeyEvent& event)
@@ -143,7 +155,8 @@ bool FieldMenu::OnContextMenu(QWidget& widget, const QPoint& position)
             this, [this] { m_asked = nullptr; }, Qt::QueuedConnection);
         return false;
     }
-    auto* menu = new QMenu(&m_window);
+    auto* box = qobject_cast<QAbstractSpinBox*>(field.widget);
+    QMenu* menu = box && box->isEnabled() && isInside ? SpinMenu(*box) : new QMenu(&m_window);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     Fill(*menu, m_window.Document(), *field.value, Fields::IsEditable(field));
     menu->popup(position);
