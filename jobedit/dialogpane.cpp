@@ -138,6 +138,7 @@ void DialogPane::Rebuild()
     m_dialog = dialog.get();
     m_area->setWidget(dialog.release());
     m_pages->setCurrentWidget(m_area);
+    emit DialogChanged();
 }
 
 void DialogPane::ShowHint(const QString& text)

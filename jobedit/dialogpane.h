@@ -37,6 +37,8 @@ public:
 
 signals:
     void FormChanged();
+    /// Another dialog is shown, or none.
+    void DialogChanged();
 
 private:
     void Rebuild();

@@ -3,6 +3,7 @@
 #include "edithistory.h"
 #include "jobnode.h"
 
+#include <QHash>
 #include <QObject>
 
 namespace JOBEDIT
@@ -60,7 +61,6 @@ public:
     bool IsReadOnly() const { return m_readOnly; }
     const TKE::JobFile& File() const { return m_file; }
     TKE::JobFile::DiskState GetDiskState() const { return m_file.GetDiskState(); }
-    const TKE::JobModel& GetModel() { return *m_file.GetModel(); }
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
@@ -68,15 +68,7 @@ public:
     /// What the job says about the node at `path`; null when it says nothing.
     const TKE::NodeSpec* FindNodeSpec(QStringView path) const { return m_file.FindNodeSpec(path); }
 
-    // Null or false, with the reason when asked for, when that is not possible; nothing has changed then.
-    TKE::Node* AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason);
-    bool RemoveNode(const QString& path, QString* reason);
-    bool RenameNode(const QString& path, const QString& name, QString* reason);
-    bool DuplicateNode(const QString& path, const QString& name, QString* reason);
-
 signals:
-    /// Nodes were added, removed or renamed.
-    void NodesChanged();
     /// Another job has taken the place of the one so far; all its nodes and values are gone.
     void Replaced();
     void ModifiedChanged(bool modified);

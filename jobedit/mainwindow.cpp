@@ -7,6 +7,8 @@
 #include "languages.h"
 #include "longwork.h"
 #include "findbar.h"
+#include "fieldmarks.h"
+#include "fieldmenu.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodeactions.h"
@@ -65,6 +67,8 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     m_compare = new CompareActions(*this);
     new ReuseActions(*this);
     new NodeActions(*this);
+    new FieldMarks(*this);
+    new FieldMenu(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);

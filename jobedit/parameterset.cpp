@@ -2,7 +2,7 @@
 
 #include "jobdiff.h"
 #include "nodecopy.h"
-#include "valuewidgets/valueholder.h"
+#include "valuewidgets/fieldholder.h"
 #include "valuewidgets/valuelink.h"
 
 #include <QCoreApplication>
@@ -69,8 +69,13 @@ std::vector<TKE::ValueBase*> BoundValues(QWidget* widget)
 {
     if (const auto* link = dynamic_cast<const TKE::ValueLink*>(widget))
         return link->GetBoundValue() ? std::vector{link->GetBoundValue()} : std::vector<TKE::ValueBase*>();
-    if (const auto* holder = dynamic_cast<const TKE::ValueHolder*>(widget))
-        return holder->GetBoundValues();
+    if (const auto* holder = dynamic_cast<const TKE::FieldHolder*>(widget))
+    {
+        std::vector<TKE::ValueBase*> values;
+        for (const TKE::FieldHolder::Field& field : holder->GetFields())
+            values.push_back(field.value);
+        return values;
+    }
     return {};
 }
 

@@ -1,0 +1,376 @@
+#include "jobedit/changemark.h"
+#include "jobedit/dialogpane.h"
+#include "jobedit/fieldmarks.h"
+#include "jobedit/fields.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/nightcolours.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/panelwindow.h"
+#include "keys/keys.h"
+#include "widgets/vccheckablegroupbox.h"
+#include "widgets/vctimeperiod.h"
+
+#include <QTest>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
+
+ValueBase* Find(const QString& path)
+{
+    return Tree::Instance()->FindValue(path);
+}
+
+/// What the screen shows beside the field: "", "filled", "outlined" or "both".
+QString MarkBeside(QWidget* field)
+{
+    auto* window = field->window();
+    const QImage picture = window->grab().toImage();
+    const QPoint corner = field->mapTo(window, QPoint(-ChangeMark::width - 1, 0));
+    const int lineHeight = field->fontMetrics().height();
+    const QRgb filled = window->palette().color(QPalette::Link).rgb();
+    const bool isFilled = picture.pixel(corner + QPoint(2, 3)) == filled;
+    const auto isOutlined = [&](int y)
+    { return picture.pixel(corner + QPoint(0, y)) != picture.pixel(corner + QPoint(2, y)); };
+    if (isFilled)
+        return isOutlined(lineHeight) ? "both" : "filled";
+    return isOutlined(lineHeight) ? "outlined" : "";
+}
+
+/// Another content that the value takes.
+QString OtherContent(const ValueBase& value)
+{
+    const ValueDescriptor& descriptor = value.GetDescriptor();
+    const QString now = value.GetStoredText();
+    switch (value.GetKind())
+    {
+    case ValueKind::Bool:
+        return now == "true" ? "false" : "true";
+    case ValueKind::Selection:
+        for (const SelectionItem& item : descriptor.items)
+            if (QString::number(item.GetKey()) != now)
+                return QString::number(item.GetKey());
+        return {};
+    case ValueKind::Text:
+        return "11:11";
+    case ValueKind::DateTime:
+        return "2020-01-02T03:04:05";
+    case ValueKind::DoubleList:
+        return QString::number(descriptor.minimum.value_or(7)) + ';' + QString::number(descriptor.maximum.value_or(8));
+    default:
+        return QString::number(now.toDouble() == *descriptor.minimum ? *descriptor.maximum : *descriptor.minimum, 'f',
+                               QLocale::FloatingPointShortest);
+    }
+}
+
+QMenu* OpenMenu()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+QAction* Entry(const QMenu* menu, const QString& start)
+{
+    for (QAction* action : menu->actions())
+        if (action->text().remove('&').startsWith(start))
+            return action;
+    return nullptr;
+}
+
+/// Clicks the entry, as a user does.
+void Choose(QMenu* menu, QAction* entry)
+{
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    QCoreApplication::processEvents();
+}
+
+void RightClick(QWidget* widget, QPoint place = {})
+{
+    QWidget* window = widget->window();
+    if (place.isNull())
+        place = widget->rect().center();
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, widget->mapTo(window, place));
+}
+
+} // namespace
+
+class TestFieldMarks : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+
+    QTabWidget* Dialog() { return m_window->Dialog().GetDialog(); }
+
+    QLineEdit* FrequencyField()
+    {
+        m_window->Nodes().SelectNode(tunerPath);
+        return Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_FREQUENCY)->findChild<QLineEdit*>();
+    }
+
+    /// The first visible, enabled field of this class that any dialog shows.
+    Fields::Field FieldOfClass(const char* name)
+    {
+        const auto nodes = m_window->Nodes().GetNodes();
+        for (const JobNode& node : nodes)
+        {
+            m_window->Nodes().SelectNode(node.path);
+            for (int tab = 0; Dialog() && tab < Dialog()->count(); ++tab)
+            {
+                Dialog()->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget())) 
+                    if (field.widget->inherits(name) && Fields::IsEditable(field) &&
+                        !field.widget->visibleRegion().isEmpty())
+                        return field;
+            }
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        QSettings().clear();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->resize(1400, 950);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+        NightColours::Switch(false);
+    }
+
+    void aFieldIsMarkedByWhatItDiffersFrom_data()
+    {
+        QTest::addColumn<bool>("night");
+        QTest::newRow("day") << false;
+        QTest::newRow("night") << true;
+    }
+    void aFieldIsMarkedByWhatItDiffersFrom()
+    {
+        QFETCH(bool, night);
+        NightColours::Switch(night);
+        ValueBase* value = Find(frequencyPath);
+        QVERIFY(value->SetToDefault());
+        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QLineEdit* field = FrequencyField();
+        QCOMPARE(MarkBeside(field), "");
+
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, "7040 k\t");
+        QCOMPARE(MarkBeside(field), "both");
+        QVERIFY(m_window->Save());
+        QCOMPARE(MarkBeside(field), "outlined");
+        QVERIFY(value->SetToDefault());
+        QCOMPARE(MarkBeside(field), "filled");
+        QVERIFY(value->SetStoredText("7040000"));
+        QCOMPARE(MarkBeside(field), "outlined");
+        QVERIFY(field->isVisible() && m_window->childAt(field->mapTo(m_window.get(), QPoint(5, 5))) == field);
+    }
+
+    void theMarksAreSwitchedInTheViewMenuAndStaySo()
+    {
+        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
+        QVERIFY(MarkBeside(FrequencyField()) != "");
+        QAction* action = m_window->findChild<FieldMarks*>()->GetAction();
+        action->trigger();
+        QCOMPARE(MarkBeside(FrequencyField()), "");
+        m_window->Nodes().SelectNode("/Jobs/Demo");
+        QCOMPARE(MarkBeside(FrequencyField()), "");
+        m_window.reset();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        QVERIFY(!m_window->findChild<FieldMarks*>()->GetAction()->isChecked());
+    }
+
+    void theMarkIsSaidInWords()
+    {
+        QVERIFY(Find(frequencyPath)->SetStoredText("7200000"));
+        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QLineEdit* field = FrequencyField();
+        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
+        QTRY_VERIFY(field->accessibleDescription().contains("Differs from the saved file"));
+        QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), field->mapToGlobal(QPoint(3, 3)));
+        QCoreApplication::sendEvent(field, &help);
+        QVERIFY2(QToolTip::text().contains("saved file: 7.2 MHz") || QToolTip::text().contains("7200"),
+                 qPrintable(QToolTip::text()));
+        QVERIFY(Find(frequencyPath)->SetToDefault());
+        QVERIFY(m_window->Save());
+        QTRY_VERIFY(field->accessibleDescription().isEmpty());
+    }
+
+    void marksFollowScrollingAndWhatIsScrolledAwayHasNone()
+    {
+        m_window->resize(700, 420);
+        QCoreApplication::processEvents();
+        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
+        QLineEdit* field = FrequencyField();
+        auto* area = m_window->Dialog().findChild<QScrollArea*>();
+        QScrollBar* bar = area->verticalScrollBar();
+        QVERIFY(bar->maximum() > 20);
+        bar->setValue(20);
+        QCOMPARE(MarkBeside(field), "both");
+        bar->setValue(0);
+        QCOMPARE(MarkBeside(field), "both");
+    }
+
+    void theMarksOfAPanelWindowGoWithTheValuesThatTheyStandFor()
+    {
+        const JobNode* node = nullptr;
+        for (const JobNode& one : m_window->Nodes().GetNodes())
+            if (!node && !FindDirectPanels(one).empty())
+                node = &one;
+        QVERIFY(node);
+        const QString path = node->path;
+        m_window->Nodes().SelectNode(path);
+        auto* panel = new PanelWindow(*node, *FindDirectPanels(*node).front(), m_window.get());
+        panel->show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        auto fields = Fields::VisibleIn(*panel);
+        std::erase_if(fields, [](const Fields::Field& field) { return !Fields::IsEditable(field); });
+        QVERIFY(!fields.empty());
+        QWidget* field = fields.front().widget;
+        QVERIFY(fields.front().value->SetStoredText(OtherContent(*fields.front().value)));
+        QVERIFY2(MarkBeside(field) != "", qPrintable(field->objectName()));
+        Tree::Instance()->RemoveBranch(path);
+        QCOMPARE(MarkBeside(field), "");
+    }
+
+    void everyKindOfFieldHasTheMenuAndIsResetByIt_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<bool>("keepsOwn");
+        QTest::newRow("line edit") << QByteArray("TKE::VCLineEdit") << true;
+        QTest::newRow("spin box") << QByteArray("TKE::VCNumericFloatSpin") << true;
+        QTest::newRow("combo box") << QByteArray("TKE::VCComboBoxClassic") << false;
+        QTest::newRow("check box") << QByteArray("TKE::VCCheckBox") << false;
+        QTest::newRow("group of buttons") << QByteArray("TKE::VCButtonGroup") << false;
+        QTest::newRow("list of numbers") << QByteArray("TKE::VCListBoxNumeric") << true;
+        QTest::newRow("date and time") << QByteArray("TKE::VCDateTimeEdit") << true;
+    }
+    void everyKindOfFieldHasTheMenuAndIsResetByIt()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(bool, keepsOwn);
+        const Fields::Field field = FieldOfClass(name.constData());
+        QVERIFY2(field.widget, "no dialog of the sample has one");
+        const QPointer<QWidget> widget = field.widget;
+        const QString path = field.value->GetPathName();
+        const QString saved = field.value->GetStoredText();
+        const QString other = OtherContent(*field.value);
+        QVERIFY(field.value->SetStoredText(other) && saved != other);
+        QCoreApplication::processEvents();
+        const auto shown = FieldOfClass(name.constData()); // the panel may be another one now
+        QCOMPARE(shown.value, Find(path));
+
+        RightClick(shown.widget, name.contains("Group") ? QPoint(4, 4) : QPoint());
+        QMenu* menu = OpenMenu();
+        QVERIFY(menu);
+        QAction* reset = Entry(menu, "Reset to Saved Value");
+        QVERIFY(reset && reset->isEnabled());
+        QCOMPARE(Entry(menu, "Reset to Saved") != menu->actions().front(), keepsOwn);
+        QVERIFY(Entry(menu, "Key: " + Find(path)->GetName()));
+        QVERIFY(!Entry(menu, "Key: ")->isEnabled());
+        Choose(menu, reset);
+        QCOMPARE(Find(path)->GetStoredText(), saved);
+
+        // And by the keyboard, now with nothing to take back.
+        const auto again = FieldOfClass(name.constData());
+        again.widget->setFocus();
+        QTest::keyClick(again.widget, Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(OpenMenu());
+        QVERIFY(Entry(OpenMenu(), "Reset to Saved Value"));
+        QVERIFY(!Entry(OpenMenu(), "Reset to Saved Value")->isEnabled());
+        OpenMenu()->close();
+    }
+
+    void widgetsOfSeveralValuesTellTheirFieldsApart()
+    {
+        Tree::Instance()->CreateValue<TextValue>("/T/Start")->SetValue("08:00");
+        Tree::Instance()->CreateValue<TextValue>("/T/Stop")->SetValue("09:00");
+        Tree::Instance()->CreateValue<BoolValue>("/T/On");
+        VCCheckableGroupBox box(nullptr, "box", {});
+        auto* period = new VCTimePeriod(&box, "period");
+        auto* other = new QLabel("other", &box);
+        QVERIFY(box.SetValue(Find("/T/On")) && period->SetPeriod_ValuePath("/T/Start", "/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QLabel*>("StopLabel")).value, Find("/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Find("/T/Start"));
+        QCOMPARE(Fields::Of(&box).value, Find("/T/On"));
+        QVERIFY(!Fields::Of(other).value);
+        Tree::Instance()->RemoveBranch("/T");
+        QVERIFY(!Fields::Of(&box).value && !Fields::Of(period).value);
+    }
+
+    void aLabelHasTheMenuOfItsField()
+    {
+        QLineEdit* field = FrequencyField();
+        QLabel* label = nullptr;
+        for (QLabel* one : Dialog()->findChildren<QLabel*>())
+            if (one->buddy() == field)
+                label = one;
+        QVERIFY(label);
+        RightClick(label);
+        QVERIFY(OpenMenu());
+        Choose(OpenMenu(), Entry(OpenMenu(), "Copy Path"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), frequencyPath);
+    }
+
+    void nothingIsWrittenToADisabledValue()
+    {
+        ValueBase* value = Find(frequencyPath);
+        QLineEdit* field = FrequencyField();
+        QVERIFY(value->SetStoredText("7100000"));
+        RightClick(field);
+        QMenu* menu = OpenMenu();
+        QVERIFY(menu);
+        value->SetState(stDisabled); // while the menu is open
+        Entry(menu, "Reset to Default")->trigger();
+        menu->close();
+        QCoreApplication::processEvents();
+        QCOMPARE(value->GetStoredText(), "7100000");
+        RightClick(field);
+        QVERIFY(OpenMenu());
+        for (const char* entry : {"Reset to Saved", "Reset to Default"})
+            QVERIFY(!Entry(OpenMenu(), entry)->isEnabled());
+        OpenMenu()->close();
+    }
+
+    void theMenusOfTheWindowStayAsTheyAre()
+    {
+        RightClick(m_window->Nodes().View()->viewport());
+        if (OpenMenu())
+            OpenMenu()->close();
+        RightClick(FrequencyField());
+        OpenMenu()->close();
+        m_window->EditMenu()->popup(QPoint());
+        QVERIFY(!Entry(m_window->EditMenu(), "Copy Path"));
+        m_window->EditMenu()->close();
+    }
+};
+
+QTEST_MAIN(TestFieldMarks)
+#include "test_fieldmarks.moc"
