@@ -20,6 +20,7 @@ JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* pa
             if (m_otherJournal)
                 m_otherJournal(entry);
             SetModified(true);
+            emit ContentChanged(entry.value);
         });
 }
 

@@ -52,6 +52,10 @@ signals:
     void Replaced();
     void ModifiedChanged(bool modified);
     void FileNameChanged();
+    /// The content of a value of the job is another than before.
+    void ContentChanged(const TKE::ValueBase& value);
+    /// Nodes were added, removed or renamed.
+    void NodesChanged();
 
 private:
     void SetModified(bool modified);

@@ -5,6 +5,7 @@
 #include "nightcolours.h"
 #include "nodepane.h"
 #include "panelwindow.h"
+#include "planactions.h"
 #include "recentfiles.h"
 #include "valuewidgets/textentry.h"
 
@@ -48,6 +49,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillNodeMenu();
     FillViewMenu();
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
+    new PlanActions(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
