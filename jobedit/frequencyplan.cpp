@@ -88,35 +88,54 @@ constexpr Source sources[] = {
 
 #undef TEXT
 
-/// Adds the marks that one row of the table finds at a node.
+/// The marks of nodes, one node after another.
 class Finder
 {
 public:
-    Finder(const TKE::Tree& tree, const TKE::Node& node, std::vector<PlanMark>& marks)
-        : m_tree(tree), m_node(node), m_marks(marks)
+    explicit Finder(const TKE::Tree& tree) : m_tree(tree)
     {
+        m_firstKeys.reserve(std::size(sources));
+        for (const Source& source : sources)
+            m_firstKeys.push_back({NameOf(source.first, 1), QLatin1StringView(source.first).contains(numberMark)});
     }
 
-    void Find(size_t index)
+    const std::vector<PlanMark>& Find(const TKE::Node& node)
     {
-        m_index = index;
-        if (!QLatin1StringView(Row().first).contains(QLatin1StringView("{n}")))
-            return void(FindNumber(0));
-        for (int number = 1; FindNumber(number);)
-            ++number;
+        m_node = &node;
+        m_marks.clear();
+        for (m_index = 0; m_index < std::size(sources); ++m_index)
+        {
+            // Most rows find nothing at most nodes; that is seen without forming a name.
+            if (!m_tree.FindValue(node, m_firstKeys[m_index].name))
+                continue;
+            if (!m_firstKeys[m_index].isNumbered)
+                FindNumber(0);
+            else
+                for (int number = 1; FindNumber(number);)
+                    ++number;
+        }
+        return m_marks;
     }
 
 private:
+    static constexpr QLatin1StringView numberMark{"{n}"};
+    struct FirstKey
+    {
+        QString name; // of the only or first number
+        bool isNumbered;
+    };
+
     const Source& Row() const { return sources[m_index]; }
+
+    static QString NameOf(const char* key, int number)
+    {
+        const QString name = QString::fromLatin1(key).replace(numberMark, QString::number(number));
+        return TKE::KeyManager::Instance()->GetFullNameByKey(name);
+    }
 
     const TKE::ValueBase* ValueOf(const char* key, int number) const
     {
-        if (!key)
-            return nullptr;
-        QString name = QString::fromLatin1(key);
-        if (number > 0)
-            name.replace(QLatin1StringView("{n}"), QString::number(number));
-        return m_tree.FindValue(m_node, TKE::KeyManager::Instance()->GetFullNameByKey(name));
+        return key ? m_tree.FindValue(*m_node, NameOf(key, number)) : nullptr;
     }
 
     static std::optional<qint64> NumberOf(const TKE::ValueBase* value)
@@ -188,8 +207,9 @@ private:
     }
 
     const TKE::Tree& m_tree;
-    const TKE::Node& m_node;
-    std::vector<PlanMark>& m_marks;
+    std::vector<FirstKey> m_firstKeys; // one per row of the table
+    const TKE::Node* m_node = nullptr;
+    std::vector<PlanMark> m_marks;
     size_t m_index = 0;
     bool m_active = true;
 };
@@ -218,17 +238,14 @@ QString TitleBelow(const std::vector<JobNode>& nodes, int section, int index)
 FrequencyPlan FrequencyPlan::Of(const std::vector<JobNode>& nodes, const TKE::Tree& tree)
 {
     FrequencyPlan plan;
-    std::vector<PlanMark> marks;
+    Finder finder(tree);
     for (int index = 0; index < int(nodes.size()); ++index)
     {
         const JobNode& node = nodes[size_t(index)];
         const TKE::Node* found = tree.FindNode(node.path);
         if (!found || (found->GetValues().empty() && found->GetNodes().empty()))
             continue;
-        marks.clear();
-        Finder finder(tree, *found, marks);
-        for (size_t row = 0; row < std::size(sources); ++row)
-            finder.Find(row);
+        const std::vector<PlanMark>& marks = finder.Find(*found);
         if (marks.empty())
             continue;
         const int section = SectionOf(nodes, index);
@@ -236,6 +253,23 @@ FrequencyPlan FrequencyPlan::Of(const std::vector<JobNode>& nodes, const TKE::Tr
                                 node.band, marks});
     }
     return plan;
+}
+
+bool FrequencyPlan::Update(const QString& path, const TKE::Tree& tree)
+{
+    Finder finder(tree);
+    for (const TKE::Node* node = tree.FindNode(path); node; node = node->GetParent())
+    {
+        const std::vector<PlanMark>& marks = finder.Find(*node);
+        const auto lane = std::ranges::find(m_lanes, node->GetBasePath(), &PlanLane::path);
+        if (lane == m_lanes.end() && marks.empty())
+            continue;
+        if (lane == m_lanes.end() || marks.empty())
+            return false;
+        lane->marks = marks;
+        return true;
+    }
+    return true;
 }
 
 bool FrequencyPlan::IsOn(const PlanLane& lane, const PlanMark& mark, TKE::Band band)

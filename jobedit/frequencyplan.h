@@ -57,6 +57,10 @@ public:
     /// The lanes of these nodes, whose values stand in `tree`.
     static FrequencyPlan Of(const std::vector<JobNode>& nodes, const TKE::Tree& tree);
 
+    /// Brings the lane of this node, or of the nearest node above that has one, up to date. False when the lanes are no
+    /// longer the same ones, so that the plan must be made anew.
+    bool Update(const QString& path, const TKE::Tree& tree);
+
     const std::vector<PlanLane>& GetLanes() const { return m_lanes; }
 
     /// Whether the mark belongs on the axis of `band`. A range may belong on both.

@@ -7,6 +7,7 @@
 #include "panelwindow.h"
 #include "planactions.h"
 #include "recentfiles.h"
+#include "reportactions.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -50,6 +51,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillViewMenu();
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new PlanActions(*this);
+    new ReportActions(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);

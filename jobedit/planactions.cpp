@@ -21,7 +21,8 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int settleTime = 40; // ms that changes are gathered for
+constexpr int settleTime = 40;  // ms that changes are gathered for
+constexpr int mostUpdates = 50; // nodes; beyond that all is made anew
 constexpr int usefulHeight = 340; // of the dock when it opens
 constexpr QSize exportSize(1600, 0);
 
@@ -66,7 +67,7 @@ PlanActions::PlanActions(MainWindow& window)
                 if (visible)
                     Refresh();
             });
-    connect(&window.Document(), &JobDocument::ContentChanged, this, &PlanActions::Slot_OnJobChanged);
+    connect(&window.Document(), &JobDocument::ContentChanged, this, &PlanActions::Slot_OnContentChanged);
     connect(&window.Document(), &JobDocument::NodesChanged, this, &PlanActions::Slot_OnJobChanged);
     connect(&window.Document(), &JobDocument::Replaced, this, &PlanActions::Slot_OnJobChanged);
     connect(&window.Nodes(), &NodePane::CurrentChanged, this,
@@ -99,6 +100,17 @@ bool PlanActions::ExportTo(const QString& fileName)
     return false;
 }
 
+void PlanActions::Slot_OnContentChanged(const TKE::ValueBase& value)
+{
+    if (m_stale || !value.GetNode())
+        return;
+    m_changed.insert(value.GetNode()->GetBasePath());
+    if (m_changed.size() > mostUpdates)
+        m_stale = true;
+    if (m_dock->isVisible() && !m_coalesce->isActive())
+        m_coalesce->start();
+}
+
 void PlanActions::Slot_OnJobChanged()
 {
     m_stale = true;
@@ -124,11 +136,17 @@ void PlanActions::Slot_OnExport()
 
 void PlanActions::Refresh()
 {
-    if (!m_stale)
+    if (!m_stale && m_changed.isEmpty())
         return;
     m_coalesce->stop();
+    FrequencyPlan plan = m_pane->GetPlan();
+    for (const QString& path : std::as_const(m_changed))
+        m_stale = m_stale || !plan.Update(path, *TKE::Tree::Instance());
+    if (m_stale)
+        plan = FrequencyPlan::Of(m_window.Document().GetNodes(), *TKE::Tree::Instance());
     m_stale = false;
-    m_pane->SetPlan(FrequencyPlan::Of(m_window.Document().GetNodes(), *TKE::Tree::Instance()));
+    m_changed.clear();
+    m_pane->SetPlan(std::move(plan));
     if (const JobNode* node = m_window.Nodes().GetCurrentNode())
         m_pane->SelectPath(node->path);
 }

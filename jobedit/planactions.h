@@ -1,9 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
 
 class QDockWidget;
 class QTimer;
+
+namespace TKE
+{
+class ValueBase;
+}
 
 namespace JOBEDIT
 {
@@ -24,6 +30,7 @@ public:
     bool ExportTo(const QString& fileName);
 
 private:
+    void Slot_OnContentChanged(const TKE::ValueBase& value);
     void Slot_OnJobChanged();
     void Slot_OnExport();
     void Refresh();
@@ -32,7 +39,8 @@ private:
     QDockWidget* m_dock;
     PlanPane* m_pane;
     QTimer* m_coalesce;
-    bool m_stale = true;
+    bool m_stale = true;      // as a whole
+    QSet<QString> m_changed; // paths of the nodes whose values changed since the plan was shown
 };
 
 } // namespace JOBEDIT

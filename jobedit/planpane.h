@@ -22,6 +22,7 @@ public:
     explicit PlanPane(QWidget* parent = nullptr);
 
     void SetPlan(FrequencyPlan plan);
+    const FrequencyPlan& GetPlan() const { return m_plan; }
     /// Marks the chain in both bands without choosing it.
     void SelectPath(const QString& path);
     /// Puts the focus into the first view that has chains.
