@@ -14,8 +14,10 @@
 #include "nodeactions.h"
 #include "nodepane.h"
 #include "panelwindow.h"
+#include "planactions.h"
 #include "recentfiles.h"
 #include "reuseactions.h"
+#include "reportactions.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -72,6 +74,8 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
+    new PlanActions(*this);
+    new ReportActions(*this);
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);

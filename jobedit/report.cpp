@@ -1,0 +1,34 @@
+#include "report.h"
+
+#include "reporthtml.h"
+#include "reportpdf.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace JOBEDIT
+{
+
+bool WriteReport(const JobDocument& document, const QString& fileName, const ReportOptions& options,
+                 const ReportProgress& progress, TKE::FileError& error)
+{
+    const auto fail = [&](const QString& reason)
+    {
+        error = {.file = fileName, .reason = reason};
+        return false;
+    };
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    const bool isPdf = suffix == "pdf";
+    if (!isPdf && suffix != "html" && suffix != "htm")
+        return fail(ReportContent::tr("A report is written as .html or .pdf."));
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return fail(file.errorString());
+    ReportContent content(document, options);
+    const ReportProgress tell = progress ? progress : [](qint64, qint64) { return true; };
+    if (!(isPdf ? ReportPdf(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
+        return fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
+    return file.commit() || fail(file.errorString());
+}
+
+} // namespace JOBEDIT

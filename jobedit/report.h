@@ -1,0 +1,20 @@
+#pragma once
+
+#include "jobmodel/fileerror.h"
+#include "reportcontent.h"
+
+#include <functional>
+
+namespace JOBEDIT
+{
+
+/// Called between sections with the rows done and all; false cancels.
+using ReportProgress = std::function<bool(qint64 done, qint64 all)>;
+
+/// Writes the job as a document, HTML or PDF as the suffix says (.html, .htm, .pdf). PDF needs a QGuiApplication for
+/// its fonts, HTML none. False with `error` when that fails or is cancelled (the reason is empty then); a file of that
+/// name stays as it was.
+bool WriteReport(const JobDocument& document, const QString& fileName, const ReportOptions& options,
+                 const ReportProgress& progress, TKE::FileError& error);
+
+} // namespace JOBEDIT

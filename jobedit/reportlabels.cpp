@@ -1,0 +1,171 @@
+#include "reportlabels.h"
+
+#include "frequencyplan.h"
+#include "jobmodel/journalpause.h"
+#include "valuewidgets/showntext.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+namespace JOBEDIT
+{
+
+namespace
+{
+
+/// Where the labels of the panels are translated.
+constexpr const char* panelContexts[] = {
+    "TKE::TunerDlg",
+    "TKE::TunerVUHFDlg",
+    "TKE::GeneralDlg",
+    "TKE::IPCParam",
+    "TKE::ParameterDlg",
+    "TKE::ActivityGenerationDlg",
+    "TKE::AlarmConditionsSPDlg",
+    "TKE::AutoRecordingDlg",
+    "TKE::ClassificatorDlg",
+    "TKE::CorrelatorDlg",
+    "TKE::DecoderDlg",
+    "TKE::DemodulatorDlg",
+    "TKE::DemodulatorPanel",
+    "TKE::DemodulatorPanelF7W",
+    "TKE::DemodulatorPanelFSK",
+    "TKE::DemodulatorPanelGMSK",
+    "TKE::DemodulatorPanelMFSK",
+    "TKE::DemodulatorPanelMORSE",
+    "TKE::DemodulatorPanelMPSK",
+    "TKE::DemodulatorPanelMT",
+    "TKE::DemodulatorPanelPSK",
+    "TKE::DemodulatorPanelProcedural",
+    "TKE::DetectionDlg",
+    "TKE::DetectionShortDlg",
+    "TKE::ExciterGeneralDlg",
+    "TKE::ExciterSCUDlg",
+    "TKE::ExciterSMUDlg",
+    "TKE::ExciterScanSettingsDlg",
+    "TKE::ExciterWDEDlg",
+    "TKE::FFTDataDlg",
+    "TKE::ShorttimeProfileDlg",
+    "TKE::ShorttimeProfileHeaderDlg",
+    "TKE::SigTrackingControlDlg",
+    "TKE::SpectralZoomDlg",
+    "TKE::TdsHeaderDDCDlg",
+    "TKE::TdsHeaderMSDlg",
+    "TKE::TdsHeaderWBDlg",
+    "TKE::WDEExciterDlg",
+    "TKE::WDERasterDetectorDlg",
+    "TKE::WDESimulationDlg",
+    "TKE::WDESingleChannelDetectorDlg",
+    "TKE::WavecomDlg",
+};
+
+QString WithoutColon(QString label)
+{
+    // The unit of the panel's field is not that of the document.
+    for (const char* unit : {"[Hz]", "[kHz]", "[MHz]"})
+        label.remove(QLatin1StringView(unit));
+    while (label.endsWith(':') || label.endsWith(' '))
+        label.chop(1);
+    return label;
+}
+
+} // namespace
+
+QString ReportLabels::LabelOf(const TKE::ValueDescriptor& descriptor)
+{
+    Texts& texts = TextsOf(descriptor);
+    if (!texts.labelKnown)
+    {
+        texts.labelKnown = true;
+        if (!descriptor.label.isEmpty())
+            texts.label = WithoutColon(Translated(descriptor.label));
+        else if (!descriptor.description.isEmpty())
+            texts.label = descriptor.description.left(1).toUpper() + descriptor.description.mid(1);
+    }
+    return texts.label;
+}
+
+ReportLabels::Shown ReportLabels::Of(const TKE::ValueBase& value) const
+{
+    const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
+    switch (value.GetKind())
+    {
+    case TKE::ValueKind::Bool:
+        return {value.GetBool() ? tr("on") : tr("off"), {}};
+    case TKE::ValueKind::Frequency:
+    {
+        const QString text = FrequencyPlan::FrequencyText(static_cast<const TKE::FrequencyValue&>(value).GetValue());
+        const qsizetype blank = text.lastIndexOf(' ');
+        return {text.left(blank), text.mid(blank + 1)};
+    }
+    case TKE::ValueKind::DoubleList:
+    {
+        QStringList numbers;
+        const bool isFrequency = descriptor.unit == QLatin1StringView("Hz");
+        for (const double number : static_cast<const TKE::DoubleListValue&>(value).GetValue())
+            numbers << (isFrequency && number == std::rint(number) ? FrequencyPlan::FrequencyText(std::llround(number))
+                                                                   : m_locale.toString(number, 'g', 15));
+        return {numbers.join("; "), isFrequency ? QString() : descriptor.unit};
+    }
+    case TKE::ValueKind::Selection:
+    {
+        const auto& selection = static_cast<const TKE::ValueSelection&>(value);
+        if (!selection.IsMultiple())
+            return {value.GetText(), descriptor.unit};
+        QStringList names;
+        for (const int key : selection.GetKeys())
+        {
+            const TKE::SelectionItem* item = selection.FindItem(key);
+            names << (item ? item->GetName() : QString::number(key));
+        }
+        return {names.join(", "), descriptor.unit};
+    }
+    default:
+        return {TKE::ShownText::Of(value, m_locale), descriptor.unit};
+    }
+}
+
+QString ReportLabels::DefaultOf(const TKE::ValueDescriptor& descriptor)
+{
+    Texts& texts = TextsOf(descriptor);
+    if (!texts.defaultKnown)
+    {
+        texts.defaultKnown = true;
+        // A value in a tree of its own, of which the journal hears nothing: showing is no edit.
+        TKE::Tree scratch;
+        const TKE::JournalPause pause(scratch);
+        const Shown shown = Of(*scratch.CreateValue(u"value", descriptor));
+        texts.shownDefault = shown.unit.isEmpty() ? shown.text : shown.text + ' ' + shown.unit;
+    }
+    return texts.shownDefault;
+}
+
+bool ReportLabels::IsChanged(const TKE::ValueBase& value)
+{
+    m_stored.clear();
+    value.AppendStored(m_stored);
+    return m_stored != TextsOf(value.GetDescriptor()).storedDefault;
+}
+
+ReportLabels::Texts& ReportLabels::TextsOf(const TKE::ValueDescriptor& descriptor)
+{
+    const auto found = m_texts.find(&descriptor);
+    if (found != m_texts.end())
+        return *found;
+    return *m_texts.insert(&descriptor, {.storedDefault = descriptor.defaultText.toStdString()});
+}
+
+QString ReportLabels::Translated(const QString& label)
+{
+    // Panels have labels with and without a colon; the first panel that knows one of them is as good as the others.
+    for (const QString& wanted : {label, label + " :", label + ':', label.endsWith(" :") ? label.chopped(2) : label})
+    {
+        const QByteArray source = wanted.toUtf8();
+        for (const char* context : panelContexts)
+            if (const QString text = QCoreApplication::translate(context, source.constData()); text != wanted)
+                return text;
+    }
+    return label;
+}
+
+} // namespace JOBEDIT
