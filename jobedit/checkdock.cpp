@@ -99,7 +99,7 @@ void CheckDock::MakeList()
 
 void CheckDock::Start()
 {
-    m_checker = std::make_unique<Checker>(*TKE::Tree::Instance(), m_window.Document().GetModel());
+    m_checker = std::make_unique<Checker>(*TKE::Tree::Instance(), *m_window.Document().GetModel());
     m_findings.clear();
     m_errors = m_warnings = 0;
     m_changed.clear();

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QFETCH(bool, isError);
         QFETCH(QString, says);
         QVERIFY2(Value(path), qPrintable(path));
-        const Checker checker(*Tree::Instance(), m_window->Document().GetModel());
+        const Checker checker(*Tree::Instance(), *m_window->Document().GetModel());
         QVERIFY(checker.CheckValues().empty());
         Value(path)->SetState(stEnabled);
         QVERIFY(Value(path)->SetStoredText(content));
@@ -122,7 +122,7 @@ private Q_SLOTS:
         descriptor.minimum = 5;
         descriptor.maximum = 9;
         ValueBase* value = tree.CreateValue(u"/A/X", descriptor);
-        const Checker checker(tree, m_window->Document().GetModel());
+        const Checker checker(tree, *m_window->Document().GetModel());
         QVERIFY(checker.CheckValues().empty());
         descriptor.minimum = 8; // as another version of the model has it
         const auto findings = checker.CheckValues();
