@@ -7,6 +7,7 @@
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
+#include "recoveryoffer.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -49,6 +50,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillNodeMenu();
     FillViewMenu();
     new EditActions(*this);
+    m_recovery = new RecoveryOffer(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
@@ -112,6 +114,7 @@ bool MainWindow::OpenFile(const QString& fileName)
         m_messages->Add(TKE::Severity::Warning, warning.ToText());
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 opened").arg(m_document->GetFileName()), 5000);
+    m_recovery->OfferForOpenJob();
     return true;
 }
 
@@ -125,10 +128,7 @@ bool MainWindow::Save()
     ReportRefusals();
     TKE::FileError error;
     if (!m_document->Save(error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(m_document->GetFileName()).fileName()), error);
-        return false;
-    }
+        return SaveElsewhere(m_document->GetFileName(), error);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
 }
@@ -146,18 +146,14 @@ bool MainWindow::SaveTo(const QString& fileName)
 {
     CommitPendingEdit();
     if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()),
-             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+        return SaveElsewhere(fileName,
+                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+    if (!MayReplace(fileName))
         return false;
-    }
     ReportRefusals();
     TKE::FileError error;
     if (!m_document->SaveAs(fileName, error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()), error);
-        return false;
-    }
+        return SaveElsewhere(fileName, error);
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
@@ -374,6 +370,42 @@ bool MainWindow::MayOverwrite()
     question.setDefaultButton(QMessageBox::Cancel);
     question.exec();
     return question.clickedButton() == overwrite;
+}
+
+bool MainWindow::MayReplace(const QString& fileName)
+{
+    if (!QFileInfo(fileName).isFile())
+        return true;
+    if (QFileInfo(fileName) == QFileInfo(m_document->GetFileName()))
+        return MayOverwrite();
+    const TKE::FileErrors errors = TKE::JobFile::Check(fileName);
+    const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
+    if (fault == errors.end())
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Save Job"),
+                         tr("%1 is no job that can be read.").arg(QFileInfo(fileName).fileName()), QMessageBox::Cancel,
+                         this);
+    question.setInformativeText(fault->ToText());
+    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.exec();
+    return question.clickedButton() == overwrite;
+}
+
+bool MainWindow::SaveElsewhere(const QString& fileName, const TKE::FileError& error)
+{
+    const QString text = tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName());
+    m_messages->Add(TKE::Severity::Error, text, error.ToText());
+    m_messageDock->show();
+    if (!isVisible())
+        return false;
+    QMessageBox box(QMessageBox::Critical, tr("Save Job"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this);
+    box.setInformativeText(tr("Your changes are still there. They can be saved in another place."));
+    QPushButton* elsewhere = box.addButton(tr("Save &As..."), QMessageBox::ActionRole);
+    box.setDefaultButton(elsewhere);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    return box.clickedButton() == elsewhere && SaveAs();
 }
 
 void MainWindow::ReportRefusals()

@@ -16,6 +16,7 @@ namespace JOBEDIT
 class DialogPane;
 class MessageList;
 class NodePane;
+class RecoveryOffer;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -46,6 +47,7 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    RecoveryOffer& Recovery() { return *m_recovery; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,6 +71,10 @@ private:
     bool MayGo();
     /// False: the user does not want to overwrite what somebody else wrote.
     bool MayOverwrite();
+    /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
+    bool MayReplace(const QString& fileName);
+    /// Shows why the job could not be saved, and saves it in another place if the user wants.
+    bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
     void Fail(const QString& text, const TKE::FileError& error);
@@ -87,6 +93,7 @@ private:
     QMenu* m_toolsMenu;
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
+    RecoveryOffer* m_recovery = nullptr;
     QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
     TKE::ErrorHandler::Subscription m_reports;
 };
