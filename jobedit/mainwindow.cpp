@@ -195,6 +195,7 @@ void MainWindow::FillFileMenu()
     auto* recent = new RecentFiles(menu);
     connect(recent, &RecentFiles::Chosen, this, &MainWindow::OpenFile);
     menu->addMenu(recent);
+    menu->addAction(tr("Re&cover Edits..."), this, [this] { m_recovery->OfferAgain(); });
     menu->addSeparator();
     menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
     menu->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &MainWindow::SaveAs);

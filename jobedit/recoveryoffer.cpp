@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QLockFile>
-#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -29,11 +28,9 @@ constexpr int roundsOfCorrection = 3;
 RecoveryOffer::RecoveryOffer(MainWindow& window)
     : QObject(&window), m_window(window), m_journal(new RecoveryJournal(window.Document(), this))
 {
-    QAction* recover = window.FileMenu()->addAction(tr("Re&cover Edits..."), this, &RecoveryOffer::Slot_OnRecover);
-    recover->setObjectName("recover");
 }
 
-void RecoveryOffer::Slot_OnRecover()
+void RecoveryOffer::OfferAgain()
 {
     m_later.clear();
     if (RecoveryJournal::FindAbandoned().isEmpty())

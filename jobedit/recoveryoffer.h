@@ -24,6 +24,8 @@ public:
     bool OfferAll();
     /// Offers those of the open job only. The window must be up for that.
     bool OfferForOpenJob();
+    /// The user asks for it: says so when there are none, and offers what was put off, too.
+    void OfferAgain();
 
 private:
     enum class Choice
@@ -32,7 +34,6 @@ private:
         Discarded,
         Later,
     };
-    void Slot_OnRecover();
     Choice Offer(const QString& kept, const RecoveryFile& edits);
     QString TextOf(const RecoveryFile& edits) const;
     bool Restore(const RecoveryFile& edits);
