@@ -18,6 +18,7 @@
 #include "recentfiles.h"
 #include "reuseactions.h"
 #include "reportactions.h"
+#include "recoveryoffer.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -71,6 +72,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     new NodeActions(*this);
     new FieldMarks(*this);
     new FieldMenu(*this);
+    m_recovery = new RecoveryOffer(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
@@ -137,8 +139,9 @@ bool MainWindow::NewFromSample()
 {
     if (!MayGo())
         return false;
-    return Run(tr("Making a new job"), tr("The sample job could not be made."),
-               [this](TKE::FileError& error) { return m_document->NewFromSample(error); });
+    return Run(
+        tr("Making a new job"), [this](TKE::FileError& error) { return m_document->NewFromSample(error); },
+        [this](const TKE::FileError& error) { return Fail(tr("The sample job could not be made."), error); });
 }
 
 bool MainWindow::OpenFile(const QString& fileName)
@@ -160,8 +163,10 @@ bool MainWindow::OpenFile(const QString& fileName)
         access = JobDocument::Access::ReadOnly;
     }
     const QString name = QFileInfo(fileName).fileName();
-    if (!Run(tr("Opening %1").arg(name), tr("%1 could not be opened.").arg(name),
-             [&](TKE::FileError& error) { return m_document->Open(fileName, access, error); }))
+    if (!Run(
+            tr("Opening %1").arg(name),
+            [&](TKE::FileError& error) { return m_document->Open(fileName, access, error); },
+            [&](const TKE::FileError& error) { return Fail(tr("%1 could not be opened.").arg(name), error); }))
     {
         if (!QFileInfo::exists(fileName))
             RecentFiles::Remove(fileName);
@@ -171,6 +176,7 @@ bool MainWindow::OpenFile(const QString& fileName)
         m_messages->Add(TKE::Severity::Warning, warning.ToText());
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 opened").arg(m_document->GetFileName()), 5000);
+    m_recovery->OfferForOpenJob();
     return true;
 }
 
@@ -183,8 +189,9 @@ bool MainWindow::Save()
         return false;
     ReportRefusals();
     const QString name = QFileInfo(m_document->GetFileName()).fileName();
-    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
-             [this](TKE::FileError& error) { return m_document->Save(error); }))
+    if (!Run(
+            tr("Saving %1").arg(name), [this](TKE::FileError& error) { return m_document->Save(error); },
+            [this](const TKE::FileError& error) { return SaveElsewhere(m_document->GetFileName(), error); }))
         return false;
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
@@ -203,15 +210,15 @@ bool MainWindow::SaveTo(const QString& fileName)
 {
     CommitPendingEdit();
     if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()),
-             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+        return SaveElsewhere(fileName,
+                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+    if (!MayReplace(fileName))
         return false;
-    }
     ReportRefusals();
     const QString name = QFileInfo(fileName).fileName();
-    if (!Run(tr("Saving %1").arg(name), tr("%1 could not be saved.").arg(name),
-             [&](TKE::FileError& error) { return m_document->SaveAs(fileName, error); }))
+    if (!Run(
+            tr("Saving %1").arg(name), [&](TKE::FileError& error) { return m_document->SaveAs(fileName, error); },
+            [&](const TKE::FileError& error) { return SaveElsewhere(fileName, error); }))
         return false;
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
@@ -254,6 +261,7 @@ void MainWindow::FillFileMenu()
     auto* recent = new RecentFiles(menu);
     connect(recent, &RecentFiles::Chosen, this, &MainWindow::OpenFile);
     menu->addMenu(recent);
+    menu->addAction(tr("Re&cover Edits..."), this, [this] { m_recovery->OfferAgain(); });
     menu->addSeparator();
     menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
     menu->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &MainWindow::SaveAs);
@@ -444,6 +452,42 @@ bool MainWindow::MayOverwrite()
     return question.clickedButton() == overwrite;
 }
 
+bool MainWindow::MayReplace(const QString& fileName)
+{
+    if (!QFileInfo(fileName).isFile())
+        return true;
+    if (QFileInfo(fileName) == QFileInfo(m_document->GetFileName()))
+        return MayOverwrite();
+    const TKE::FileErrors errors = TKE::JobFile::Check(fileName);
+    const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
+    if (fault == errors.end())
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Save Job"),
+                         tr("%1 is no job that can be read.").arg(QFileInfo(fileName).fileName()), QMessageBox::Cancel,
+                         this);
+    question.setInformativeText(fault->ToText());
+    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.exec();
+    return question.clickedButton() == overwrite;
+}
+
+bool MainWindow::SaveElsewhere(const QString& fileName, const TKE::FileError& error)
+{
+    const QString text = tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName());
+    m_messages->Add(TKE::Severity::Error, text, error.ToText());
+    m_messageDock->show();
+    if (!isVisible())
+        return false;
+    QMessageBox box(QMessageBox::Critical, tr("Save Job"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this);
+    box.setInformativeText(tr("Your changes are still there. They can be saved in another place."));
+    QPushButton* elsewhere = box.addButton(tr("Save &As..."), QMessageBox::ActionRole);
+    box.setDefaultButton(elsewhere);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    return box.clickedButton() == elsewhere && SaveAs();
+}
+
 void MainWindow::ReportRefusals()
 {
     if (!m_dialog->GetDialog())
@@ -461,8 +505,8 @@ void MainWindow::ReportRefusals()
     }
 }
 
-bool MainWindow::Run(const QString& title, const QString& failure,
-                     const std::function<bool(TKE::FileError&)>& operation)
+bool MainWindow::Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
+                     const std::function<bool(const TKE::FileError&)>& failed)
 {
     TKE::FileError error;
     auto work = std::make_unique<LongWork>(title, this);
@@ -473,14 +517,13 @@ bool MainWindow::Run(const QString& title, const QString& failure,
     work.reset();
     if (done)
         return true;
-    if (cancelled)
-        statusBar()->showMessage(tr("%1: cancelled, nothing has changed").arg(title), 5000);
-    else
-        Fail(failure, error);
+    if (!cancelled)
+        return failed(error);
+    statusBar()->showMessage(tr("%1: cancelled, nothing has changed").arg(title), 5000);
     return false;
 }
 
-void MainWindow::Fail(const QString& text, const TKE::FileError& error)
+bool MainWindow::Fail(const QString& text, const TKE::FileError& error)
 {
     m_messages->Add(TKE::Severity::Error, text, error.ToText());
     m_messageDock->show();
@@ -488,6 +531,7 @@ void MainWindow::Fail(const QString& text, const TKE::FileError& error)
     if (isVisible())
         QMessageBox(QMessageBox::Critical, tr("Job Editor"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this)
             .exec();
+    return false;
 }
 
 void MainWindow::RestoreLayout()

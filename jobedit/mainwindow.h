@@ -18,6 +18,7 @@ class CompareActions;
 class DialogPane;
 class MessageList;
 class NodePane;
+class RecoveryOffer;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -55,6 +56,7 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    RecoveryOffer& Recovery() { return *m_recovery; }
     CompareActions& Comparing() { return *m_compare; }
     Place GetPlace() const;
     /// What of the place the job has.
@@ -88,11 +90,18 @@ private:
     bool MayGo();
     /// False: the user does not want to overwrite what somebody else wrote.
     bool MayOverwrite();
+    /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
+    bool MayReplace(const QString& fileName);
+    /// Shows why the job could not be saved, and saves it in another place if the user wants.
+    bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
-    /// Runs an operation of the document that may take long, with its progress shown. Tells the user when it fails.
-    bool Run(const QString& title, const QString& failure, const std::function<bool(TKE::FileError&)>& operation);
-    void Fail(const QString& text, const TKE::FileError& error);
+    /// Runs an operation of the document that may take long, with its progress shown. What `failed` makes of a failure
+    /// counts; a cancelled operation is told in the status bar.
+    bool Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
+             const std::function<bool(const TKE::FileError&)>& failed);
+    /// False, for the caller to return.
+    bool Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
 
     JobDocument* m_document;
@@ -109,6 +118,7 @@ private:
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
     CompareActions* m_compare = nullptr;
+    RecoveryOffer* m_recovery = nullptr;
     QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
     TKE::ErrorHandler::Subscription m_reports;
 };

@@ -32,7 +32,7 @@ inline void WriteAll(const QString& fileName, const QByteArray& bytes)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
-/// Presses these buttons of the next message boxes, one of each, and keeps what the last box said.
+/// Presses these buttons of the next message boxes, one of each, and keeps what the boxes said.
 class Answer : public QObject
 {
 public:
@@ -50,7 +50,7 @@ private:
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box || m_buttons.isEmpty())
             return;
-        m_text = box->text() + '\n' + box->informativeText() + '\n' + box->detailedText();
+        m_text += box->text() + '\n' + box->informativeText() + '\n' + box->detailedText() + '\n';
         const QString wanted = m_buttons.takeFirst();
         for (QAbstractButton* button : box->buttons())
             if (button->text().remove('&') == wanted)

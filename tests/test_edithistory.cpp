@@ -1,4 +1,7 @@
 #include "editorfixture.h"
+#include "jobedit/panelwindow.h"
+#include "valuewidgets/vcnumericfloatspin.h"
+#include "widgets/vclistboxnumeric.h"
 
 #include <random>
 
@@ -221,6 +224,101 @@ private slots:
         }
         QVERIFY2(acts > 8, qPrintable(QString::number(acts)));
         CompareSteps(acts);
+    }
+
+    void aListEditedCellByCellIsAStepForEachCell()
+    {
+        VCListBoxNumeric* list = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        {
+            m_editor->window.Nodes().SelectNode(node.path);
+            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
+            for (int tab = 0; !list && dialog && tab < dialog->count(); ++tab)
+                for (auto* each : dialog->widget(tab)->findChildren<VCListBoxNumeric*>())
+                    if (each->isEnabled() && each->columnCount() == 1)
+                    {
+                        list = each;
+                        dialog->setCurrentIndex(tab);
+                    }
+            if (list)
+                break;
+        }
+        QVERIFY(list);
+        StepsBack(); // what showing has chosen
+        m_start = m_editor->Bytes();
+        list->setFocus();
+        int rows = list->rowCount();
+        for (const char* number : {"40000", "50000"})
+        {
+            QTest::keyClick(list, Qt::Key_Insert);
+            QTest::keyClicks(QApplication::focusWidget(), number);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QCoreApplication::processEvents(); // by which the cell's editor is closed
+            QCOMPARE(list->rowCount(), ++rows);
+        }
+        QCoreApplication::processEvents();
+        CompareSteps(2);
+        QCOMPARE(list->rowCount(), rows);
+        // A cell that is still being typed counts before undo.
+        QTest::keyClick(list, Qt::Key_Insert);
+        QTest::keyClicks(QApplication::focusWidget(), "60000");
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(list->rowCount(), rows);
+        QVERIFY(History().CanRedo());
+        QCOMPARE(StepsForth(), 1);
+        CompareSteps(3);
+    }
+
+    void leavingTheTabOrTheNodeCommitsWhatIsBeingTyped()
+    {
+        VCNumericFloatSpin* spin = nullptr;
+        QTabWidget* dialog = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        {
+            m_editor->window.Nodes().SelectNode(node.path);
+            dialog = m_editor->window.Dialog().GetDialog();
+            if (dialog && dialog->count() > 1 && !m_editor->window.isWindowModified())
+                for (auto* each : dialog->currentWidget()->findChildren<VCNumericFloatSpin*>())
+                    if (each->isVisible() && each->isEnabled())
+                        spin = each;
+            if (spin)
+                break;
+        }
+        QVERIFY(spin);
+        const QString path = spin->GetBoundValue()->GetPathName();
+        spin->setFocus();
+        spin->selectAll();
+        const QString typed = QString::number(spin->value() + 1);
+        QTest::keyClicks(spin, typed);
+        const int tab = dialog->currentIndex();
+        QTest::mouseClick(dialog->tabBar(), Qt::LeftButton, {}, dialog->tabBar()->tabRect(tab > 0 ? 0 : 1).center());
+        QVERIFY(dialog->currentIndex() != tab);
+        QCOMPARE(Editor::Stored(path), typed);
+        m_editor->TypeFrequency("7050 k");
+        QVERIFY(m_editor->window.Nodes().SelectNode("/Jobs/Demo"));
+        QCOMPARE(Editor::Stored(frequencyPath), "7050000");
+        CompareSteps(2);
+    }
+
+    void undoWorksInTheWindowOfAPanel()
+    {
+        const JobNode* found = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+            if (node.type == "IPC_HEADER_HF_AGSC")
+                found = &node;
+        QVERIFY(found);
+        PanelWindow panel(*found, *FindDirectPanels(*found).front(), &m_editor->window);
+        panel.setAttribute(Qt::WA_DeleteOnClose, false);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+        auto* time = panel.findChild<QWidget*>(Keys::AUTORECORDING_REAPPEARANCE_TIME);
+        QVERIFY(time);
+        time->setFocus();
+        QTest::keyClick(time, Qt::Key_Up);
+        QVERIFY(m_editor->Bytes() != m_start);
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(m_editor->Bytes(), m_start);
+        QCOMPARE(StepsForth(), 1);
     }
 
     void stepsOfOneNameHoldAllAndNothingIsNoStep()
