@@ -2,6 +2,7 @@
 
 #include "fieldnavigator.h"
 #include "mainwindow.h"
+#include "nodepane.h"
 
 #include <QElapsedTimer>
 #include <QHBoxLayout>
@@ -70,6 +71,8 @@ CheckDock::CheckDock(MainWindow& window)
     connect(m_list, &QTreeWidget::itemActivated, this, &CheckDock::Slot_OnActivated);
     connect(&window.Document(), &JobDocument::Replaced, this, &CheckDock::Start);
     connect(&window.Document(), &JobDocument::ContentChanged, this, &CheckDock::Slot_OnContentChanged);
+    // A panel may disable what does not apply in it, which is no change of content.
+    connect(&window.Nodes(), &NodePane::CurrentChanged, this, &CheckDock::Slot_OnNodeShown);
 }
 
 void CheckDock::MakeList()
@@ -94,6 +97,7 @@ void CheckDock::MakeList()
     layout->setContentsMargins(6, 2, 6, 0);
     layout->addLayout(header);
     layout->addWidget(m_list);
+    content->setFocusProxy(m_list);
     setWidget(content);
 }
 
@@ -135,6 +139,15 @@ void CheckDock::Slot_OnContentChanged(const TKE::ValueBase& value)
         return;
     // The rules that follow the value have not been heard yet.
     m_changed << value.GetNode()->GetBasePath();
+    m_timer.start();
+}
+
+void CheckDock::Slot_OnNodeShown()
+{
+    const JobNode* node = m_window.Nodes().GetCurrentNode();
+    if (!m_checker || !node)
+        return;
+    m_changed << node->path;
     m_timer.start();
 }
 

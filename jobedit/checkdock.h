@@ -16,8 +16,8 @@ namespace JOBEDIT
 
 class MainWindow;
 
-/// What is wrong with the values of the job. A job is checked when it comes, bit by bit while nothing else is to be done;
-/// after an edit only the node that it was in. Return or a double click goes to the field.
+/// What is wrong with the values of the job. A job is checked when it comes, bit by bit while nothing else is to be
+/// done; after an edit only the node that it was in. Return or a double click goes to the field.
 class CheckDock : public QDockWidget
 {
     Q_OBJECT
@@ -38,6 +38,7 @@ protected:
 private:
     void MakeList();
     void Slot_OnContentChanged(const TKE::ValueBase& value);
+    void Slot_OnNodeShown();
     void Slot_OnSlice();
     void Slot_OnActivated();
     void Check(const QString& nodePath, bool below);
@@ -49,7 +50,7 @@ private:
     std::map<QString, std::vector<Finding>> m_findings; // by the path of the node
     qsizetype m_errors = 0;
     qsizetype m_warnings = 0;
-    QStringList m_nodes;                                // that a check of all goes through
+    QStringList m_nodes; // that a check of all goes through
     qsizetype m_next = 0;
     QSet<QString> m_changed; // nodes
     std::unique_ptr<Checker> m_checker;

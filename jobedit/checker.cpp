@@ -107,8 +107,7 @@ QString FaultOfSelection(const TKE::ValueSelection& selection)
     const auto& items = selection.GetDescriptor().items;
     if (items.empty())
         return {};
-    const std::vector<int> keys =
-        selection.IsMultiple() ? selection.GetKeys() : std::vector{selection.GetCurrentKey()};
+    const std::vector<int> keys = selection.IsMultiple() ? selection.GetKeys() : std::vector{selection.GetCurrentKey()};
     const auto unknown = std::ranges::find_if_not(keys, [&](int key) { return IsKnown(selection, key); });
     if (unknown == keys.end())
         return {};

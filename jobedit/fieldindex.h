@@ -11,14 +11,14 @@ namespace JOBEDIT
 /// Finds fields of the job by words, each of which must occur in the label (in any language), the key, the description,
 /// the unit or the path of the node.
 ///
-/// What matches is decided once for each kind of field and for each node, so that the time does not grow with the number
-/// of values. The index is made at the first search, and anew when the tree has other nodes since.
+/// What matches is decided once for each kind of field and for each node, so that the time does not grow with the
+/// number of values. The index is made at the first search, and anew when the tree has other nodes since.
 class FieldIndex
 {
 public:
     struct Result
     {
-        QStringList paths; ///< best first: label begins, word of the label, label, key, description, unit, node
+        QStringList paths;   ///< best first: label begins, word of the label, label, key, description, unit, node
         qsizetype count = 0; ///< how many there are
     };
 

@@ -69,23 +69,28 @@ private Q_SLOTS:
         QString surveillance = tds + "CS_DATA/DATATRANS/";
         QTest::newRow("unknown item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "77" << false << "77";
         QTest::newRow("known item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "2" << false << "";
-        QTest::newRow("start after stop") << scanPath + "SCAN_START_FREQUENCY" << "4000000" << true << "3500000 Hz";
-        QTest::newRow("stop before start") << scanPath + "SCAN_STOP_FREQUENCY" << "1000000" << true << "1000000 Hz";
-        QTest::newRow("start at stop") << scanPath + "SCAN_START_FREQUENCY" << "3500000" << true << "";
-        QTest::newRow("list of half a row") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE" << "100000;200000;300000" << true
-                                            << "rows of 2";
-        QTest::newRow("range turned round") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE" << "100000;200000;400000;300000"
-                                            << true << "Row 2";
+        QTest::newRow("start after stop") << scanPath + "SCAN_START_FREQUENCY"
+                                          << "4000000" << true << "3500000 Hz";
+        QTest::newRow("stop before start") << scanPath + "SCAN_STOP_FREQUENCY"
+                                           << "1000000" << true << "1000000 Hz";
+        QTest::newRow("start at stop") << scanPath + "SCAN_START_FREQUENCY"
+                                       << "3500000" << true << "";
+        QTest::newRow("list of half a row") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE"
+                                            << "100000;200000;300000" << true << "rows of 2";
+        QTest::newRow("range turned round") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE"
+                                            << "100000;200000;400000;300000" << true << "Row 2";
         QTest::newRow("list too long") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(200) + "10000"
                                        << true << "200";
         QTest::newRow("list full") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(199) + "10000"
                                    << true << "";
-        QTest::newRow("dates turned round") << surveillance + "SURVEILLANCE_DATEPERIOD_START" << "2030-01-01" << true
-                                            << "2024-12-31";
-        QTest::newRow("no date") << surveillance + "SURVEILLANCE_DATEPERIOD_STOP" << "31.12.2024" << true
-                                 << "yyyy-MM-dd";
-        QTest::newRow("past midnight") << surveillance + "SURVEILLANCE_TIMEPERIOD_START" << "22:00" << true << "";
-        QTest::newRow("no time") << surveillance + "SURVEILLANCE_TIMEPERIOD_START" << "25:00" << true << "25:00";
+        QTest::newRow("dates turned round") << surveillance + "SURVEILLANCE_DATEPERIOD_START"
+                                            << "2030-01-01" << true << "2024-12-31";
+        QTest::newRow("no date") << surveillance + "SURVEILLANCE_DATEPERIOD_STOP"
+                                 << "31.12.2024" << true << "yyyy-MM-dd";
+        QTest::newRow("past midnight") << surveillance + "SURVEILLANCE_TIMEPERIOD_START"
+                                       << "22:00" << true << "";
+        QTest::newRow("no time") << surveillance + "SURVEILLANCE_TIMEPERIOD_START"
+                                 << "25:00" << true << "25:00";
     }
     void whatIsWrongWithAValueIsFound()
     {
@@ -174,13 +179,25 @@ private Q_SLOTS:
         QTRY_COMPARE(List()->topLevelItemCount(), 0);
     }
 
+    void whatAPanelDisablesIsCheckedNoMore()
+    {
+        const QString node = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/";
+        m_window->Nodes().SelectNode(scanPath);
+        QVERIFY(Value(node + "TUNER_HF_NB_IFSOURCE")->SetStoredText("9"));
+        QTRY_COMPARE(List()->topLevelItemCount(), 1);
+        Value(node + "TUNER_HF_NB_IFSOURCE")->SetState(stDisabled);
+        m_window->Nodes().SelectNode(node);
+        QTRY_COMPARE(List()->topLevelItemCount(), 0);
+    }
+
     void aLargeJobIsCheckedInSlicesAndCanBeStopped()
     {
         QByteArray chains;
         for (int number = 0; number < 1000; ++number)
-            chains += "<Node name=\"C" + QByteArray::number(number) +
-                      "\" type=\"IPC_FULL\" groups=\"G_AUTOREC G_CLASSIFIER G_DECODER G_DEMOD_HF G_DFLOCATE G_GENERAL_CS "
-                      "G_TUNER_HF\"><Value name=\"TUNER_HF_NB_IFSOURCE\">9</Value></Node>\n";
+            chains +=
+                "<Node name=\"C" + QByteArray::number(number) +
+                "\" type=\"IPC_FULL\" groups=\"G_AUTOREC G_CLASSIFIER G_DECODER G_DEMOD_HF G_DFLOCATE G_GENERAL_CS "
+                "G_TUNER_HF\"><Value name=\"TUNER_HF_NB_IFSOURCE\">9</Value></Node>\n";
         QFile file(m_directory->filePath("large.job.xml"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<Job version=\"1\"><Node name=\"/Jobs\" type=\"JOB\">" + chains + "</Node></Job>\n");

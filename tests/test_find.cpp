@@ -1,3 +1,4 @@
+#include "application/translationcenter.h"
 #include "jobedit/dialogpane.h"
 #include "jobedit/fieldindex.h"
 #include "jobedit/fieldnavigator.h"
@@ -91,8 +92,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("path"); // end of the first path; empty: nothing is found
         const QString tuner = "CS_TUNER/TUNER/";
         QTest::newRow("label") << "tds_hf1/cs_tuner if bandwidth" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("words in any order and case") << "BANDWIDTH cs_tuner IF tds_hf1"
-                                                     << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
+        QTest::newRow("words in any order and case")
+            << "BANDWIDTH cs_tuner IF tds_hf1" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
         QTest::newRow("German label") << "cs_tuner zf-bandbreite" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
         QTest::newRow("umlaut") << QString::fromUtf8("cs_tuner VERST\u00c4RKUNG")
                                 << tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD;
@@ -102,8 +103,10 @@ private Q_SLOTS:
         QTest::newRow("description") << "offset for cw /tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
         QTest::newRow("unit") << QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1")
                               << tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD;
-        QTest::newRow("a word that is nowhere") << "gain xyzzy" << "";
-        QTest::newRow("no word") << " / " << "";
+        QTest::newRow("a word that is nowhere") << "gain xyzzy"
+                                                << "";
+        QTest::newRow("no word") << " / "
+                                 << "";
     }
     void wordsFindTheBestFieldFirst()
     {
@@ -149,8 +152,8 @@ private Q_SLOTS:
         for (auto match = name.globalMatch(text); match.hasNext(); ++count)
         {
             const QByteArray context = match.next().captured(1).toUtf8();
-            const bool isKnown = std::ranges::any_of(FieldTexts::Contexts(), [&](const char* known)
-                                                     { return context == known; });
+            const bool isKnown =
+                std::ranges::any_of(FieldTexts::Contexts(), [&](const char* known) { return context == known; });
             QVERIFY2(isKnown || context == "TKE::ParameterDlg", context.constData());
         }
         QVERIFY(count > 30);
@@ -180,6 +183,16 @@ private Q_SLOTS:
         QVERIFY(!Text()->isVisible());
         QCOMPARE(QApplication::focusWidget(), field);
         QVERIFY(!m_window->isWindowModified());
+    }
+
+    void aFieldStandsUnderItsLabelInTheLanguageThatRuns()
+    {
+        const ValueBase& gain = *Tree::Instance()->FindValue(tunerPath + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
+        QCOMPARE(FieldTexts::Label(gain), QStringLiteral("Gain"));
+        QVERIFY(TranslationCenter::Instance()->Install(QLocale("de")));
+        QCOMPARE(FieldTexts::Label(gain), QString::fromUtf8("Verst\u00e4rkung"));
+        QCOMPARE(FieldTexts::Labels(gain.GetDescriptor()).constFirst(), QStringLiteral("Gain"));
+        TranslationCenter::Instance()->Install(QLocale::C);
     }
 
     void moreThanAPageOfHitsIsShownOnDemand()
