@@ -29,6 +29,7 @@ public:
     bool fromDefault = false;
 
     static ChangeMark Of(const JobDocument& document, const TKE::ValueBase& value);
+    static bool DiffersFromDefault(const TKE::ValueBase& value);
     bool IsSet() const { return fromSaved || fromDefault; }
     /// The mark in words, with what the value was; empty when it is not set.
     QString InWords(const JobDocument& document, const TKE::ValueBase& value) const;

@@ -59,6 +59,8 @@ signals:
     void FileNameChanged();
     /// The content has changed; the value's observers have not heard of it yet.
     void ContentChanged(const TKE::ValueBase& value);
+    /// Nodes have come or gone within the job.
+    void NodesChanged();
 
 private:
     void Note(const TKE::JournalEntry& entry);

@@ -8,6 +8,7 @@
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
+#include "valuesdock.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -51,6 +52,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillViewMenu();
     new FieldMarks(*this);
     new FieldMenu(*this);
+    new ValuesDock(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
