@@ -23,7 +23,7 @@ struct ChangeMark
     Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ChangeMark)
 
 public:
-    static constexpr int width = 5;
+    static constexpr int width = 4;
 
     bool fromSaved = false;
     bool fromDefault = false;

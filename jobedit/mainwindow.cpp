@@ -52,7 +52,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillViewMenu();
     new FieldMarks(*this);
     new FieldMenu(*this);
-    new ValuesDock(*this);
+    m_values = new ValuesDock(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     RestoreLayout();
 
@@ -302,7 +302,7 @@ void MainWindow::FillPanelMenu()
 
 void MainWindow::MovePane(int step)
 {
-    QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
+    QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock, m_values};
     const QWidget* focus = QApplication::focusWidget();
     int pane = 0;
     // The dialog stands within the pane of the switch: the innermost counts.
@@ -320,8 +320,10 @@ void MainWindow::MovePane(int step)
         return m_dialog->FocusSwitch();
     case 2:
         return m_dialog->FocusDialog();
-    default:
+    case 3:
         return m_messages->setFocus(Qt::TabFocusReason);
+    default:
+        return m_values->Filter()->setFocus(Qt::TabFocusReason);
     }
 }
 

@@ -16,6 +16,7 @@ namespace JOBEDIT
 class DialogPane;
 class MessageList;
 class NodePane;
+class ValuesDock;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -78,6 +79,7 @@ private:
     MessageList* m_messages;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
+    ValuesDock* m_values = nullptr;
     QMenu* m_fileMenu;
     QMenu* m_editMenu;
     QMenu* m_nodeMenu;

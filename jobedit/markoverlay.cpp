@@ -26,6 +26,8 @@ MarkOverlay::MarkOverlay(const JobDocument& document, QTabWidget& dialog)
     setFocusPolicy(Qt::NoFocus);
     dialog.installEventFilter(this);
     connect(&document, &JobDocument::ContentChanged, this, qOverload<>(&QWidget::update));
+    connect(&document, &JobDocument::ModifiedChanged, this, qOverload<>(&QWidget::update)); // saved
+    connect(&dialog, &QTabWidget::currentChanged, this, [this] { m_painted.reset(); });
     FollowDialog();
 }
 

@@ -25,8 +25,8 @@ namespace
 {
 
 const char* const treeKey = "values/tree";
-constexpr int typingPause = 150;  // ms
-constexpr int changePause = 300;  // ms
+constexpr int typingPause = 150;   // ms
+constexpr int changePause = 300;   // ms
 constexpr int openedAtOnce = 2000; // a tree of so many values opens by itself when it is filtered
 
 } // namespace
@@ -45,7 +45,7 @@ ValuesDock::ValuesDock(MainWindow& window)
     m_repaint.setSingleShot(true);
     Fill();
     AddActions();
-    window.addDockWidget(Qt::BottomDockWidgetArea, this);
+    window.addDockWidget(Qt::BottomDockWidgetArea, this, Qt::Vertical);
     hide();
 
     connect(&m_later, &QTimer::timeout, this, &ValuesDock::Refresh);
@@ -56,6 +56,7 @@ ValuesDock::ValuesDock(MainWindow& window)
     connect(&window.Document(), &JobDocument::Replaced, this, &ValuesDock::Slot_OnReplaced);
     connect(&window.Document(), &JobDocument::NodesChanged, this, &ValuesDock::Refresh);
     connect(&window.Document(), &JobDocument::ContentChanged, this, &ValuesDock::Slot_OnContentChanged);
+    connect(&window.Document(), &JobDocument::ModifiedChanged, this, &ValuesDock::Slot_OnContentChanged); // saved
     connect(&window.Nodes(), &NodePane::CurrentChanged, this,
             [this]
             {
@@ -104,7 +105,8 @@ void ValuesDock::Fill()
     for (QCheckBox* box : {m_asTree, m_onlyFromSaved, m_onlyFromDefault, m_onlyThisNode})
     {
         row->addWidget(box);
-        connect(box, &QCheckBox::toggled, this, box == m_asTree ? &ValuesDock::Slot_OnShapeChanged : &ValuesDock::Refresh);
+        connect(box, &QCheckBox::toggled, this,
+                box == m_asTree ? &ValuesDock::Slot_OnShapeChanged : &ValuesDock::Refresh);
     }
     row->addWidget(m_count);
 }
@@ -190,7 +192,7 @@ void ValuesDock::Slot_OnReplaced()
 
 void ValuesDock::Slot_OnContentChanged()
 {
-    // In the middle of a write: the values are looked at when it is over.
+    // Perhaps in the middle of a write: the values are looked at when it is over.
     if (!isVisible())
         m_stale = true;
     else if (!m_repaint.isActive())
@@ -211,7 +213,7 @@ void ValuesDock::Slot_OnFinished(const ValueListing& listing)
     const QStringList expanded = ExpandedPaths();
     m_model->SetListing(listing);
     RestoreView(current, expanded);
-    m_count->setText(tr("%n value(s)", nullptr, int(listing.rows.size())));
+    m_count->setText(tr("Values: %1").arg(listing.rows.size()));
 }
 
 QStringList ValuesDock::ExpandedPaths() const
@@ -247,10 +249,11 @@ void ValuesDock::RestoreView(const QString& current, const QStringList& expanded
         for (const QString& path : expanded)
             m_view->expand(m_model->IndexOf(path));
     // One node at the top alone has nothing to choose from.
-    for (QModelIndex top; !listing.isFlat && m_model->rowCount(top) == 1 && m_model->IsBranch(m_model->index(0, 0, top));)
+    QModelIndex top = m_model->index(0, 0);
+    while (!listing.isFlat && m_model->IsBranch(top) && m_model->rowCount(top.parent()) == 1)
     {
-        top = m_model->index(0, 0, top);
         m_view->expand(top);
+        top = m_model->index(0, 0, top);
     }
     if (const QModelIndex index = current.isEmpty() ? QModelIndex() : m_model->IndexOf(current); index.isValid())
     {

@@ -170,6 +170,7 @@ private Q_SLOTS:
         const QModelIndex content = ContentOf(frequencyPath);
         QVERIFY(content.data().toString() != content.siblingAtColumn(ValueListing::Saved).data().toString());
         QVERIFY(m_window->Save());
+        QTRY_VERIFY(Listed().isEmpty());
         Switch("onlyFromSaved", false);
         Switch("onlyFromDefault", true);
         Settle();
