@@ -100,8 +100,7 @@ void MarkOverlay::Describe(bool marked) const
         return;
     for (const auto& [widget, value] : Fields::VisibleIn(*page))
     {
-        const QString words =
-            marked ? ChangeMark::Of(m_document, *value).InWords(m_document, *value) : QString();
+        const QString words = marked ? ChangeMark::Of(m_document, *value).InWords(m_document, *value) : QString();
         const QString before = widget->property(wordsProperty).toString();
         if (words == before || widget->accessibleDescription() != before)
             continue;

@@ -33,10 +33,10 @@ struct ValueListing
     };
     struct Branch
     {
-        QString path;                  ///< of the node, "/" at the end
-        quint32 parent = 0;            ///< the branch above
-        quint32 position = 0;          ///< among the branches of that one
-        quint32 firstRow = 0;          ///< its values stand one after the other
+        QString path;         ///< of the node, "/" at the end
+        quint32 parent = 0;   ///< the branch above
+        quint32 position = 0; ///< among the branches of that one
+        quint32 firstRow = 0; ///< its values stand one after the other
         quint32 rowCount = 0;
         std::vector<quint32> branches; ///< those below that hold any row
     };

@@ -48,7 +48,14 @@ void ValueScan::Start(ValueQuery query)
     m_listing.isFlat = m_query.isFlat;
     m_listing.branches.emplace_back();
     for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
-        AddBranches(*top, 0);
+    {
+        // The root has no name to show.
+        if (!top->GetName().isEmpty() || !top->GetValues().empty())
+            AddBranches(*top, 0);
+        else
+            for (const auto& node : top->GetNodes())
+                AddBranches(*node, 0);
+    }
     m_keys.clear();
     m_labels.clear();
     m_branch = 1;

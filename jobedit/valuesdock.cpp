@@ -9,8 +9,8 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -28,6 +28,7 @@ const char* const treeKey = "values/tree";
 constexpr int typingPause = 150;   // ms
 constexpr int changePause = 300;   // ms
 constexpr int openedAtOnce = 2000; // a tree of so many values opens by itself when it is filtered
+constexpr int openedHeight = 280;  // pixels
 
 } // namespace
 
@@ -97,7 +98,8 @@ void ValuesDock::Fill()
 
     m_asTree = AddSwitch("asTree", tr("&Tree"), tr("By node, in the order of the job"));
     m_onlyFromSaved = AddSwitch("onlyFromSaved", tr("&Changed"), tr("Only values that differ from the saved file"));
-    m_onlyFromDefault = AddSwitch("onlyFromDefault", tr("Not de&fault"), tr("Only values that differ from the default"));
+    m_onlyFromDefault =
+        AddSwitch("onlyFromDefault", tr("Not de&fault"), tr("Only values that differ from the default"));
     m_onlyThisNode =
         AddSwitch("onlyThisNode", tr("This no&de"), tr("Only values of the selected node and those below it"));
     m_asTree->setChecked(QSettings().value(treeKey, true).toBool());
@@ -128,8 +130,12 @@ void ValuesDock::AddActions()
     connect(show, &QAction::triggered, this,
             [this](bool on)
             {
-                if (on)
-                    m_filter->setFocus(Qt::ShortcutFocusReason);
+                if (!on)
+                    return;
+                // As high as the user left it, but not a strip the first time.
+                if (height() < openedHeight && !QSettings().contains("window/state"))
+                    m_window.resizeDocks({this}, {openedHeight}, Qt::Vertical);
+                m_filter->setFocus(Qt::ShortcutFocusReason);
             });
 
     auto* edit = new QAction(tr("&Edit Value"), m_view);

@@ -8,8 +8,8 @@
 namespace JOBEDIT
 {
 
-/// Shows a list of values, and writes what is edited in it. Each content is looked up when it is shown; values that have
-/// gone meanwhile are empty rows until the next list comes.
+/// Shows a list of values, and writes what is edited in it. Each content is looked up when it is shown; values that
+/// have gone meanwhile are empty rows until the next list comes.
 class ValuesModel : public QAbstractItemModel
 {
     Q_OBJECT

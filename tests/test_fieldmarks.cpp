@@ -127,7 +127,7 @@ class TestFieldMarks : public QObject
             {
                 Dialog()->setCurrentIndex(tab);
                 QCoreApplication::processEvents();
-                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget())) 
+                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget()))
                     if (field.widget->inherits(name) && Fields::IsEditable(field) &&
                         !field.widget->visibleRegion().isEmpty())
                         return field;

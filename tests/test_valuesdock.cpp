@@ -59,10 +59,7 @@ class TestValuesDock : public QObject
         collect(collect, {});
         return paths;
     }
-    QModelIndex ContentOf(const QString& path)
-    {
-        return Model().IndexOf(path).siblingAtColumn(ValueListing::Content);
-    }
+    QModelIndex ContentOf(const QString& path) { return Model().IndexOf(path).siblingAtColumn(ValueListing::Content); }
     /// Selects the row of the value and presses F2; the editor that then has the keyboard.
     QWidget* Edit(const QString& path)
     {
