@@ -11,7 +11,12 @@ namespace JOBEDIT
 
 ChangeMark ChangeMark::Of(const JobDocument& document, const TKE::ValueBase& value)
 {
-    return {document.DiffersFromSaved(value), value.GetStoredText() != value.GetDescriptor().defaultText};
+    return {document.DiffersFromSaved(value), DiffersFromDefault(value)};
+}
+
+bool ChangeMark::DiffersFromDefault(const TKE::ValueBase& value)
+{
+    return value.GetStoredText() != value.GetDescriptor().defaultText;
 }
 
 QString ChangeMark::InWords(const JobDocument& document, const TKE::ValueBase& value) const

@@ -23,12 +23,13 @@ struct ChangeMark
     Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ChangeMark)
 
 public:
-    static constexpr int width = 5;
+    static constexpr int width = 4;
 
     bool fromSaved = false;
     bool fromDefault = false;
 
     static ChangeMark Of(const JobDocument& document, const TKE::ValueBase& value);
+    static bool DiffersFromDefault(const TKE::ValueBase& value);
     bool IsSet() const { return fromSaved || fromDefault; }
     /// The mark in words, with what the value was; empty when it is not set.
     QString InWords(const JobDocument& document, const TKE::ValueBase& value) const;

@@ -79,8 +79,8 @@ bool FieldMarks::ShowToolTip(QWidget& widget, const QPoint& position) const
     if (!own.isEmpty())
         lines.prepend(own);
     // A text of the dialog's may be marked up; then all is.
-    const QString text = Qt::mightBeRichText(own) ? own + "<br>" + lines.last().toHtmlEscaped().replace('\n', "<br>")
-                                                  : lines.join('\n');
+    const QString text =
+        Qt::mightBeRichText(own) ? own + "<br>" + lines.last().toHtmlEscaped().replace('\n', "<br>") : lines.join('\n');
     QToolTip::showText(position, text, &widget);
     return true;
 }

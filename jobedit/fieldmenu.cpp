@@ -94,8 +94,7 @@ void FieldMenu::Fill(QMenu& menu, JobDocument& document, const TKE::ValueBase& v
     const QString saved = document.SavedText(value);
     const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
     AddReset(menu, document, tr("Reset to &Saved Value (%1)"), value, saved, editable && mark.fromSaved);
-    AddReset(menu, document, tr("Reset to &Default (%1)"), value, descriptor.defaultText,
-             editable && mark.fromDefault);
+    AddReset(menu, document, tr("Reset to &Default (%1)"), value, descriptor.defaultText, editable && mark.fromDefault);
     menu.addAction(tr("Copy &Path"), &document,
                    [path = value.GetPathName()] { QGuiApplication::clipboard()->setText(path); });
 

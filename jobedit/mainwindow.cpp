@@ -19,6 +19,7 @@
 #include "reuseactions.h"
 #include "reportactions.h"
 #include "recoveryoffer.h"
+#include "valuesdock.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -73,6 +74,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     new FieldMarks(*this);
     new FieldMenu(*this);
     m_recovery = new RecoveryOffer(*this);
+    m_values = new ValuesDock(*this);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
@@ -408,8 +410,10 @@ void MainWindow::FocusPane(int pane)
         return m_dialog->FocusSwitch();
     case 2:
         return m_dialog->FocusDialog();
-    default:
+    case 3:
         return m_messages->setFocus(Qt::TabFocusReason);
+    default:
+        return m_values->Filter()->setFocus(Qt::TabFocusReason);
     }
 }
 

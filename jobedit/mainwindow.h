@@ -19,6 +19,7 @@ class DialogPane;
 class MessageList;
 class NodePane;
 class RecoveryOffer;
+class ValuesDock;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -110,6 +111,7 @@ private:
     MessageList* m_messages;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
+    ValuesDock* m_values = nullptr;
     QMenu* m_fileMenu;
     QMenu* m_editMenu;
     QMenu* m_nodeMenu;

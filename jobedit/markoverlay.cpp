@@ -26,6 +26,8 @@ MarkOverlay::MarkOverlay(const JobDocument& document, QTabWidget& dialog)
     setFocusPolicy(Qt::NoFocus);
     dialog.installEventFilter(this);
     connect(&document, &JobDocument::ContentChanged, this, qOverload<>(&QWidget::update));
+    connect(&document, &JobDocument::ModifiedChanged, this, qOverload<>(&QWidget::update)); // saved
+    connect(&dialog, &QTabWidget::currentChanged, this, [this] { m_painted.reset(); });
     FollowDialog();
 }
 
@@ -98,8 +100,7 @@ void MarkOverlay::Describe(bool marked) const
         return;
     for (const auto& [widget, value] : Fields::VisibleIn(*page))
     {
-        const QString words =
-            marked ? ChangeMark::Of(m_document, *value).InWords(m_document, *value) : QString();
+        const QString words = marked ? ChangeMark::Of(m_document, *value).InWords(m_document, *value) : QString();
         const QString before = widget->property(wordsProperty).toString();
         if (words == before || widget->accessibleDescription() != before)
             continue;

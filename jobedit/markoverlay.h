@@ -3,6 +3,7 @@
 #include "changemark.h"
 
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 class QTabWidget;
@@ -42,7 +43,7 @@ private:
 
     const JobDocument& m_document;
     QTabWidget& m_dialog;
-    std::vector<Placed> m_painted;
+    std::optional<std::vector<Placed>> m_painted; // on the page that is shown now
 };
 
 } // namespace JOBEDIT

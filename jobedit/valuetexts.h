@@ -17,10 +17,7 @@ public:
     /// the program shows.
     static QString OfStored(const TKE::ValueBase& value, const QString& stored);
     static QString OfContent(const TKE::ValueBase& value) { return OfStored(value, value.GetStoredText()); }
-    static QString OfDefault(const TKE::ValueBase& value)
-    {
-        return OfStored(value, value.GetDescriptor().defaultText);
-    }
+    static QString OfDefault(const TKE::ValueBase& value) { return OfStored(value, value.GetDescriptor().defaultText); }
     /// Empty where there are no limits.
     static QString Range(const TKE::ValueBase& value);
     /// The label without mnemonics and colon; the key where there is none.

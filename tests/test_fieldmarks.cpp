@@ -127,7 +127,7 @@ class TestFieldMarks : public QObject
             {
                 Dialog()->setCurrentIndex(tab);
                 QCoreApplication::processEvents();
-                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget())) 
+                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget()))
                     if (field.widget->inherits(name) && Fields::IsEditable(field) &&
                         !field.widget->visibleRegion().isEmpty())
                         return field;
@@ -310,9 +310,9 @@ private Q_SLOTS:
 
     void widgetsOfSeveralValuesTellTheirFieldsApart()
     {
-        Tree::Instance()->CreateValue<TextValue>("/T/Start")->SetValue("08:00");
-        Tree::Instance()->CreateValue<TextValue>("/T/Stop")->SetValue("09:00");
-        Tree::Instance()->CreateValue<BoolValue>("/T/On");
+        Tree::Instance()->CreateValue<TextValue>(u"/T/Start")->SetValue("08:00");
+        Tree::Instance()->CreateValue<TextValue>(u"/T/Stop")->SetValue("09:00");
+        Tree::Instance()->CreateValue<BoolValue>(u"/T/On");
         VCCheckableGroupBox box(nullptr, "box", {});
         auto* period = new VCTimePeriod(&box, "period");
         auto* other = new QLabel("other", &box);
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Find("/T/Start"));
         QCOMPARE(Fields::Of(&box).value, Find("/T/On"));
         QVERIFY(!Fields::Of(other).value);
-        Tree::Instance()->RemoveBranch("/T");
+        Tree::Instance()->RemoveBranch(u"/T");
         QVERIFY(!Fields::Of(&box).value && !Fields::Of(period).value);
     }
 

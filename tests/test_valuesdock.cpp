@@ -1,1 +1,376 @@
-int main(){return 0;}
+#include "jobedit/dialogpane.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/messagelist.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/valuesdock.h"
+#include "jobedit/valuesmodel.h"
+#include "keys/keys.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
+
+ValueBase* Find(const QString& path)
+{
+    return Tree::Instance()->FindValue(path);
+}
+
+} // namespace
+
+class TestValuesDock : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+    ValuesDock* m_dock = nullptr;
+
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+    ValuesModel& Model() { return m_dock->Model(); }
+    QTreeView* View() { return m_dock->View(); }
+
+    void Switch(const char* name, bool on) { m_dock->findChild<QCheckBox*>(name)->setChecked(on); }
+    void Settle() { QTRY_VERIFY_WITH_TIMEOUT(m_dock->IsUpToDate(), 5000); }
+    /// The paths of all values listed, from top to bottom.
+    QStringList Listed()
+    {
+        QStringList paths;
+        const auto collect = [&](const auto& self, const QModelIndex& parent) -> void
+        {
+            for (int row = 0; row < Model().rowCount(parent); ++row)
+            {
+                const QModelIndex index = Model().index(row, 0, parent);
+                if (Model().IsBranch(index))
+                    self(self, index);
+                else
+                    paths << Model().PathAt(index);
+            }
+        };
+        collect(collect, {});
+        return paths;
+    }
+    QModelIndex ContentOf(const QString& path) { return Model().IndexOf(path).siblingAtColumn(ValueListing::Content); }
+    /// Selects the row of the value and presses F2; the editor that then has the keyboard.
+    QWidget* Edit(const QString& path)
+    {
+        View()->setCurrentIndex(Model().IndexOf(path));
+        View()->setFocus();
+        QTest::keyClick(View(), Qt::Key_F2);
+        QWidget* editor = QApplication::focusWidget();
+        return editor != View() && View()->isAncestorOf(editor) ? editor : nullptr;
+    }
+    QString FirstOfKind(ValueKind kind, bool multiple = false)
+    {
+        for (const QString& path : Listed())
+            if (Find(path)->GetKind() == kind && Find(path)->GetState() == stEnabled &&
+                Find(path)->GetDescriptor().multiple == multiple)
+                return path;
+        return {};
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        QSettings().clear();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->resize(1500, 1000);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        m_dock = m_window->findChild<ValuesDock*>();
+        QTest::keyClick(m_window.get(), Qt::Key_F9);
+        QVERIFY(m_dock->isVisible() && m_dock->Filter()->hasFocus());
+        Settle();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void allValuesAreListedAsATreeAndFlat_data()
+    {
+        QTest::addColumn<bool>("asTree");
+        QTest::newRow("tree") << true;
+        QTest::newRow("flat") << false;
+    }
+    void allValuesAreListedAsATreeAndFlat()
+    {
+        QFETCH(bool, asTree);
+        Switch("asTree", asTree);
+        Settle();
+        const QAbstractItemModelTester tester(&Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QStringList listed = Listed();
+        QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
+        QCOMPARE(QSet<QString>(listed.begin(), listed.end()).size(), listed.size());
+        QCOMPARE(Model().rowCount() == listed.size(), !asTree);
+        for (const QString& path : {listed.front(), listed.back(), frequencyPath})
+            QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void theFilterLooksIntoEveryText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("key") << "tuner_hf_nb_frequency";
+        QTest::newRow("path") << "/CS_TUNER/TUNER/";
+        QTest::newRow("label") << "<label>";
+        QTest::newRow("content") << "<content>";
+    }
+    void theFilterLooksIntoEveryText()
+    {
+        QFETCH(QString, text);
+        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        if (text == "<content>")
+            text = "7.123456";
+        if (text == "<label>")
+            text = ContentOf(frequencyPath).siblingAtColumn(ValueListing::Label).data().toString();
+        QTest::keyClicks(m_dock->Filter(), text);
+        Settle();
+        const QStringList listed = Listed();
+        QVERIFY(listed.contains(frequencyPath));
+        QVERIFY(size_t(listed.size()) < Tree::Instance()->ValueCount() / 2);
+        QVERIFY2(View()->indexBelow(View()->indexAt({5, 5})).isValid(), "found values are shown at once");
+    }
+
+    void onlyChangedValuesAreListedWhenAskedFor()
+    {
+        QVERIFY(Find(frequencyPath)->SetToDefault());
+        QVERIFY(m_window->Save());
+        Switch("onlyFromSaved", true);
+        Settle();
+        QVERIFY(Listed().isEmpty());
+        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        QTRY_COMPARE(Listed(), QStringList{frequencyPath});
+        const QModelIndex content = ContentOf(frequencyPath);
+        QVERIFY(content.data().toString() != content.siblingAtColumn(ValueListing::Saved).data().toString());
+        QVERIFY(m_window->Save());
+        QTRY_VERIFY(Listed().isEmpty());
+        Switch("onlyFromSaved", false);
+        Switch("onlyFromDefault", true);
+        Settle();
+        const QStringList listed = Listed();
+        QVERIFY(listed.contains(frequencyPath));
+        for (const QString& path : listed)
+            QVERIFY(Find(path)->GetStoredText() != Find(path)->GetDescriptor().defaultText);
+    }
+
+    void onlyTheSelectedNodeIsListedWhenAskedFor()
+    {
+        m_window->Nodes().SelectNode(tunerPath);
+        Switch("onlyThisNode", true);
+        Settle();
+        QVERIFY(Listed().contains(frequencyPath));
+        for (const QString& path : Listed())
+            QVERIFY(path.startsWith(tunerPath));
+        m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
+        Settle();
+        QVERIFY(!Listed().isEmpty() && !Listed().contains(frequencyPath));
+    }
+
+    void aFlatListIsSortedByAColumn_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::newRow("label") << int(ValueListing::Label);
+        QTest::newRow("default") << int(ValueListing::Default);
+        QTest::newRow("key") << int(ValueListing::Key);
+    }
+    void aFlatListIsSortedByAColumn()
+    {
+        QFETCH(int, column);
+        Switch("asTree", false);
+        Settle();
+        QHeaderView* header = View()->header();
+        const QPoint place(header->sectionViewportPosition(column) + 20, 5);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+        if (header->sortIndicatorOrder() != Qt::AscendingOrder)
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+        Settle();
+        const auto text = [&](int row) { return Model().index(row, column).data().toString(); };
+        const auto isNumber = [&](int row)
+        {
+            const ValueKind kind = Model().ValueAt(Model().index(row, 0))->GetKind();
+            return kind == ValueKind::Int || kind == ValueKind::Double || kind == ValueKind::Frequency;
+        };
+        for (int row = 1; row < Model().rowCount(); ++row)
+            if (column != ValueListing::Default || (!isNumber(row - 1) && !isNumber(row)))
+                QVERIFY(text(row - 1).compare(text(row), Qt::CaseInsensitive) <= 0);
+        // Numbers go by their size: 9 before 10.
+        double last = -HUGE_VAL;
+        for (int row = 0; column == ValueListing::Default && row < Model().rowCount() && isNumber(row); ++row)
+        {
+            const double number = Model().ValueAt(Model().index(row, 0))->GetDescriptor().defaultText.toDouble();
+            QVERIFY(last <= number);
+            last = number;
+        }
+    }
+
+    void aNumberIsEditedInPlaceAndARefusedOneStaysInTheEditor()
+    {
+        const QString before = Find(frequencyPath)->GetStoredText();
+        QWidget* editor = Edit(frequencyPath);
+        QVERIFY(editor);
+        QTest::keyClicks(editor, "much");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), editor);
+        QVERIFY(editor->toolTip().contains("much"));
+        QCOMPARE(Find(frequencyPath)->GetStoredText(), before);
+        static_cast<QLineEdit*>(editor)->selectAll();
+        QTest::keyClicks(editor, "7040 k");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCOMPARE(Find(frequencyPath)->GetStoredText(), "7040000");
+        QTRY_VERIFY(View()->hasFocus());
+        QVERIFY(ContentOf(frequencyPath).data().toString().startsWith("7.04 "));
+        QVERIFY(m_window->isWindowModified());
+    }
+
+    void everyKindIsEditedByItsEditor()
+    {
+        const QString boolean = FirstOfKind(ValueKind::Bool);
+        const QString selection = FirstOfKind(ValueKind::Selection);
+        const QString list = FirstOfKind(ValueKind::DoubleList);
+        QVERIFY(!boolean.isEmpty() && !selection.isEmpty() && !list.isEmpty());
+
+        const bool on = Find(boolean)->GetBool();
+        QVERIFY(!Edit(boolean)); // switched at once
+        QCOMPARE(Find(boolean)->GetBool(), !on);
+
+        auto* combo = qobject_cast<QComboBox*>(Edit(selection));
+        QVERIFY(combo && combo->count() > 1);
+        const int row = combo->currentIndex();
+        QTest::keyClick(combo, row == 0 ? Qt::Key_Down : Qt::Key_Up);
+        QTest::keyClick(combo, Qt::Key_Return);
+        QTRY_VERIFY(View()->hasFocus());
+        QVERIFY(m_window->Document().DiffersFromSaved(*Find(selection)));
+
+        QWidget* editor = Edit(list);
+        QVERIFY(editor);
+        static_cast<QLineEdit*>(editor)->selectAll();
+        QTest::keyClicks(editor, "nothing");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(m_window->Messages().GetText().contains(list));
+        QVERIFY(!m_window->Document().DiffersFromSaved(*Find(list)));
+    }
+
+    void aDisabledValueIsNotEdited()
+    {
+        Find(frequencyPath)->SetState(stDisabled);
+        QVERIFY(!Edit(frequencyPath));
+        QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
+    }
+
+    void returnOnARowGoesToTheNodeOfTheField()
+    {
+        m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
+        QSignalSpy wanted(m_dock, &ValuesDock::Activated);
+        View()->setCurrentIndex(Model().IndexOf(frequencyPath));
+        QTest::keyClick(View(), Qt::Key_Return);
+        QCOMPARE(wanted.size(), 1);
+        QCOMPARE(wanted.front().front().toString(), frequencyPath);
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+    }
+
+    void anotherJobMayComeWhileTheListIsShownFilteredAndEdited_data()
+    {
+        QTest::addColumn<bool>("asTree");
+        QTest::addColumn<bool>("scanning");
+        QTest::newRow("tree, settled") << true << false;
+        QTest::newRow("tree, under way") << true << true;
+        QTest::newRow("flat, settled") << false << false;
+        QTest::newRow("flat, under way") << false << true;
+    }
+    void anotherJobMayComeWhileTheListIsShownFilteredAndEdited()
+    {
+        QFETCH(bool, asTree);
+        QFETCH(bool, scanning);
+        // Whoever hears of the old values' end may look at the list.
+        struct Looker : IObserver
+        {
+            explicit Looker(std::function<void()> look) : m_look(std::move(look)) {}
+            void Update(Observable*, TChangeCode) override { m_look(); }
+            std::function<void()> m_look;
+        };
+        Switch("asTree", asTree);
+        QTest::keyClicks(m_dock->Filter(), "TUNER");
+        Settle();
+        QVERIFY(Edit(frequencyPath));
+        int looked = 0;
+        Looker looker(
+            [&]
+            {
+                looked += int(Listed().size());
+                m_dock->grab();
+            });
+        Find(frequencyPath)->Attach(&looker);
+        if (scanning)
+            Switch("onlyFromDefault", true);
+        QFile small(File("b.job.xml"));
+        QVERIFY(small.open(QIODevice::WriteOnly));
+        small.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">\n  <Node name=\"/T\" "
+                    "type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\">\n  </Node>\n</Job>\n");
+        small.close();
+        QVERIFY(m_window->OpenFile(File("b.job.xml")));
+        Switch("onlyFromDefault", false);
+        Settle();
+        const QStringList listed = Listed();
+        QVERIFY(!listed.isEmpty());
+        for (const QString& path : listed)
+            QVERIFY(path.startsWith("/T/") && Find(path));
+        QVERIFY(looked > 0);
+    }
+
+    void valuesThatGoLeaveEmptyRowsUntilTheListIsMadeAnew()
+    {
+        Switch("asTree", false);
+        Settle();
+        const QModelIndex index = ContentOf(frequencyPath);
+        Tree::Instance()->RemoveBranch(tunerPath);
+        QCOMPARE(index.data(), QVariant());
+        QVERIFY(!Model().setData(index, "1"));
+        m_dock->grab();
+        emit m_window->Document().NodesChanged();
+        Settle();
+        QCOMPARE(size_t(Listed().size()), Tree::Instance()->ValueCount());
+    }
+
+    void theContextMenuTakesAValueBack()
+    {
+        const QString saved = Find(frequencyPath)->GetStoredText();
+        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        View()->setCurrentIndex(Model().IndexOf(frequencyPath));
+        View()->setFocus();
+        QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        for (QAction* action : menu->actions())
+            if (action->text().contains("Saved Value"))
+                action->trigger();
+        menu->close();
+        QTRY_COMPARE(Find(frequencyPath)->GetStoredText(), saved);
+    }
+};
+
+QTEST_MAIN(TestValuesDock)
+#include "test_valuesdock.moc"
