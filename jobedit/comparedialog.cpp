@@ -160,6 +160,9 @@ void CompareDialog::ToggleSelected()
     QModelIndexList rows;
     for (const QModelIndex& row : m_view->selectionModel()->selectedRows())
         rows << m_filtered->mapToSource(row);
+    // A filter that hides the selected rows leaves a current one that is not selected.
+    if (rows.isEmpty() && m_view->currentIndex().isValid())
+        rows << m_filtered->mapToSource(m_view->currentIndex());
     if (!rows.isEmpty())
         m_model->Tick(rows, !std::ranges::all_of(rows, [this](const auto& row) { return m_model->IsTicked(row); }));
 }

@@ -30,7 +30,8 @@ public:
 
     void CompareNodes(const Node& left, const Node& right, const QString& place)
     {
-        if (left.GetTypeText() != right.GetTypeText())
+        // The bases themselves may be of two types: they were chosen.
+        if (!place.isEmpty() && left.GetTypeText() != right.GetTypeText())
             Add({.node = place, .leftStored = left.GetTypeText(), .rightStored = right.GetTypeText()});
         CompareValues(left, right, place);
         CompareBelow(left.GetNodes(), right.GetNodes(), right.GetBasePath(), place);

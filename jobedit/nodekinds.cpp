@@ -99,7 +99,7 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
     struct Candidate
     {
         NodePlace place;
-        bool taken; // there is such a node already: the user rather wants a place of its own for the new one
+        bool taken; // a channel set that has its task: another one rather gets a set of its own
         bool chosen;
         qsizetype nearness;
     };
@@ -115,8 +115,8 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
             NodePlace place{node.path, {kind.above.begin() + qsizetype(level), kind.above.end()}};
             if (!place.added.empty())
                 place.added.front().name = UniqueNodeName(place.path, place.added.front().name);
-            const bool taken =
-                place.added.empty() && TKE::Tree::Instance()->FindNode(QString(node.path + kind.spec.name));
+            const bool taken = place.added.empty() && kind.above.size() > 1 &&
+                               !TKE::Tree::Instance()->FindNode(node.path)->GetNodes().empty();
             candidates.push_back({std::move(place), taken, node.path == nearPath, CommonPrefix(node.path, nearPath)});
             break;
         }
