@@ -42,7 +42,7 @@ CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::sha
     connect(m_model, &DifferenceModel::Ticked, this, &CompareDialog::ShowCounts);
     connect(m_takeOver, &QPushButton::clicked, this, &CompareDialog::TakeOverTicked);
     m_view->installEventFilter(this);
-    resize(1000, 560);
+    resize(1100, 560);
 }
 
 bool CompareDialog::Compare(bool ticked)
@@ -61,11 +61,7 @@ bool CompareDialog::Compare(bool ticked)
     progress.reset();
     m_model->SetDifferences(std::move(differences), ticked);
     m_view->setColumnHidden(DifferenceModel::Reason, true);
-    for (int column = 0; column < DifferenceModel::Reason; ++column)
-    {
-        m_view->resizeColumnToContents(column);
-        m_view->setColumnWidth(column, std::min(m_view->columnWidth(column) + 12, 300));
-    }
+    FitColumns();
     m_view->setCurrentIndex(m_filtered->index(0, 0));
     m_view->setFocus();
     return true;
@@ -129,6 +125,20 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     layout->addWidget(m_view, 1);
     layout->addLayout(ticks);
     layout->addWidget(buttons);
+}
+
+void CompareDialog::FitColumns()
+{
+    if (m_model->rowCount() == 0)
+        return;
+    // Percent of the width at most, so that both contents are in sight; what is longer stands in the tool tip.
+    constexpr int shares[] = {32, 20, 22, 15};
+    for (int column = DifferenceModel::Place; column <= DifferenceModel::Left; ++column)
+    {
+        m_view->resizeColumnToContents(column);
+        constexpr int gap = 12;
+        m_view->setColumnWidth(column, std::min(m_view->columnWidth(column) + gap, width() * shares[column] / 100));
+    }
 }
 
 void CompareDialog::TakeOverTicked()

@@ -149,6 +149,29 @@ const TKE::SelectionItem* FindItem(const TKE::ValueDescriptor& descriptor, QStri
     return isNumber && found != descriptor.items.end() ? &*found : nullptr;
 }
 
+/// Exact, in the largest unit that leaves a number of at least 1.
+QString FrequencyText(qint64 hertz)
+{
+    struct Unit
+    {
+        int decimals;
+        const char* name;
+    };
+    for (const Unit& unit : {Unit{9, "GHz"}, Unit{6, "MHz"}, Unit{3, "kHz"}})
+    {
+        QString digits = QString::number(hertz);
+        if (hertz <= 0 || digits.size() <= unit.decimals)
+            continue;
+        digits.insert(digits.size() - unit.decimals, u'.');
+        while (digits.endsWith(u'0'))
+            digits.chop(1);
+        if (digits.endsWith(u'.'))
+            digits.chop(1);
+        return digits + u' ' + QLatin1String(unit.name);
+    }
+    return QString::number(hertz) + QLatin1String(" Hz");
+}
+
 QString TextOf(const Difference& difference, const QString& stored)
 {
     if (!difference.descriptor)
@@ -215,6 +238,8 @@ QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stor
     {
     case TKE::ValueKind::Bool:
         return stored == u"true" ? JobDiff::tr("on") : JobDiff::tr("off");
+    case TKE::ValueKind::Frequency:
+        return FrequencyText(stored.toLongLong());
     case TKE::ValueKind::Selection:
     {
         QStringList names;

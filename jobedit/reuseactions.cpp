@@ -26,9 +26,11 @@ ReuseActions::ReuseActions(MainWindow& window) : QObject(&window), m_window(wind
     menu->addSeparator();
     menu->addAction(tr("Copy &Tab's Parameters"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this,
                     &ReuseActions::CopyTab);
-    menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
-    menu->addAction(tr("&Paste Parameters into Selected Chains"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this,
-                    &ReuseActions::Paste);
+    QAction* copy = menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
+    QAction* paste = menu->addAction(tr("&Paste Parameters into Selected Chains"),
+                                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this, &ReuseActions::Paste);
+    window.NodeMenu()->addSeparator();
+    window.NodeMenu()->addActions({copy, paste});
     m_presetMenu = menu->addMenu(tr("P&resets"));
     connect(m_presetMenu, &QMenu::aboutToShow, this, &ReuseActions::FillPresetMenu);
     FillPresetMenu();

@@ -106,10 +106,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("none") << Sample() << "";
         QTest::newRow("a value") << SampleWithFrequency("7040000")
-                                 << "~ " + frequencyPath + ": 10000000 Hz -> 7040000 Hz\n";
+                                 << "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n";
         QTest::newRow("nodes") << Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW")
                                << "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath +
-                                      ": 10000000 Hz -> 7040000 Hz\n+ /Jobs/Demo/TDS_NEW/: TDS\n";
+                                      ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n";
         QTest::newRow("channels") << Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"1\"")
                                   << "- /Jobs/Demo/TDS_EXC/CS_RASTER/DETECTOR/Range2/: (node)\n";
         QTest::newRow("a type") << Sample().replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\"")
@@ -161,6 +161,33 @@ private Q_SLOTS:
             ++seen;
         }
         QCOMPARE(seen, 3);
+    }
+
+    void contentsAreReadable_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("text");
+        const int frequency = int(ValueKind::Frequency);
+        QTest::newRow("0 Hz") << frequency << "0" << "0 Hz";
+        QTest::newRow("Hz") << frequency << "999" << "999 Hz";
+        QTest::newRow("kHz") << frequency << "1050" << "1.05 kHz";
+        QTest::newRow("MHz") << frequency << "433920001" << "433.920001 MHz";
+        QTest::newRow("GHz") << frequency << "3000000000" << "3 GHz";
+        QTest::newRow("negative") << frequency << "-5000" << "-5000 Hz";
+        QTest::newRow("number") << int(ValueKind::Double) << "-2.5" << "-2.5 dB";
+        QTest::newRow("off") << int(ValueKind::Bool) << "false" << "off";
+        QTest::newRow("items") << int(ValueKind::Selection) << "1;9" << "One, 9";
+    }
+    void contentsAreReadable()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, stored);
+        ValueDescriptor descriptor;
+        descriptor.kind = ValueKind(kind);
+        descriptor.unit = descriptor.kind == ValueKind::Double ? "dB" : "";
+        descriptor.items = {{1, "One"}};
+        QTEST(ReadableText(descriptor, stored), "text");
     }
 
     void aComparisonCanBeEnded()

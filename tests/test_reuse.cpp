@@ -119,7 +119,7 @@ private Q_SLOTS:
         Select({tunerPath});
         QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
         const QString text = QGuiApplication::clipboard()->text();
-        QVERIFY(text.contains(key + "\t7040000 Hz\n"));
+        QVERIFY(text.contains(key + "\t7.04 MHz\n"));
 
         Select({voicePath, classifier, vuhfPath});
         QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
