@@ -49,7 +49,7 @@ bool CompareDialog::Compare(bool ticked)
 {
     QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
+    progress.setMinimumDuration(100);
     auto differences = m_sides.Compare(
         [&](qint64 done, qint64 all)
         {
@@ -70,7 +70,8 @@ bool CompareDialog::Compare(bool ticked)
 bool CompareDialog::eventFilter(QObject* watched, QEvent* event)
 {
     // The view itself would toggle the current row only, and not at all in the other columns.
-    if (watched == m_view && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
+    if (watched == m_view && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
     {
         ToggleSelected();
         return true;
@@ -181,12 +182,10 @@ void CompareDialog::ShowCounts()
 {
     const QModelIndexList rows = ShownRows();
     const auto ticked = std::ranges::count_if(rows, [this](const auto& row) { return m_model->IsTicked(row); });
-    m_counts->setText(m_model->rowCount() == 0
-                          ? tr("There are no differences.")
-                          : tr("%1 differences, %2 shown, %3 of these ticked")
-                                .arg(m_model->rowCount())
-                                .arg(rows.size())
-                                .arg(ticked));
+    m_counts->setText(
+        m_model->rowCount() == 0
+            ? tr("There are no differences.")
+            : tr("%1 differences, %2 shown, %3 of these ticked").arg(m_model->rowCount()).arg(rows.size()).arg(ticked));
     m_takeOver->setEnabled(ticked > 0);
 }
 

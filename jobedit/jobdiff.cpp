@@ -101,7 +101,11 @@ private:
                 CompareContents(value, *other, place);
             }
             else
-                Add({Difference::Kind::OnlyLeft, place, value.GetName(), &value.GetDescriptor(), value.GetStoredText(),
+                Add({Difference::Kind::OnlyLeft,
+                     place,
+                     value.GetName(),
+                     &value.GetDescriptor(),
+                     value.GetStoredText(),
                      {}});
         }
         if (matched == others.size())
@@ -111,7 +115,11 @@ private:
             names.insert(&value->GetName());
         for (const auto& value : others)
             if (!names.contains(&value->GetName()))
-                Add({Difference::Kind::OnlyRight, place, value->GetName(), &value->GetDescriptor(), {},
+                Add({Difference::Kind::OnlyRight,
+                     place,
+                     value->GetName(),
+                     &value->GetDescriptor(),
+                     {},
                      value->GetStoredText()});
     }
 
@@ -187,7 +195,7 @@ std::vector<Difference> CompareTrees(const TKE::Tree& left, const QString& leftB
     Comparison comparison(right, qint64(left.ValueCount()), progress);
     if (leftBase.isEmpty() && rightBase.isEmpty())
         comparison.CompareBelow(left.GetTopNodes(), right.GetTopNodes(), {}, {});
-    else if (const Node *leftNode = left.FindNode(leftBase), *rightNode = right.FindNode(rightBase);
+    else if (const Node* leftNode = left.FindNode(leftBase), *rightNode = right.FindNode(rightBase);
              leftNode && rightNode)
         comparison.CompareNodes(*leftNode, *rightNode, {});
     return comparison.Take();

@@ -29,6 +29,7 @@ public:
     /// The model that the configuration names. What is wrong with it is reported; the compiled-in one serves where
     /// there is none.
     static std::shared_ptr<const TKE::JobModel> ConfiguredModel();
+    const std::shared_ptr<const TKE::JobModel>& GetModel() { return m_file.GetModel(); }
 
     // Where these fail, nothing has changed and `error` says why.
     bool NewFromSample(TKE::FileError& error);
@@ -42,13 +43,11 @@ public:
     const QString& GetFileName() const { return m_file.GetFileName(); }
     bool IsModified() const { return m_modified; }
     bool IsReadOnly() const { return m_readOnly; }
+    const TKE::JobFile& File() const { return m_file; }
     TKE::JobFile::DiskState GetDiskState() const { return m_file.GetDiskState(); }
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
-    const std::shared_ptr<const TKE::JobModel>& GetModel() { return m_file.GetModel(); }
-    /// What the job says about the node at `path`; null when it says nothing.
-    const TKE::NodeSpec* FindNodeSpec(QStringView path) const { return m_file.FindNodeSpec(path); }
 
     // Null or false, with the reason when asked for, when that is not possible; nothing has changed then.
     TKE::Node* AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason);

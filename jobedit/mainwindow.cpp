@@ -57,6 +57,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
+    connect(m_document, &JobDocument::NodesChanged, this, &MainWindow::Slot_OnNodesChanged);
     connect(m_document, &JobDocument::FileNameChanged, this, &MainWindow::Slot_OnFileNameChanged);
     connect(m_document, &JobDocument::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(m_nodes, &NodePane::CurrentChanged, m_dialog, [this] { m_dialog->ShowNode(m_nodes->GetCurrentNode()); });
@@ -264,6 +265,12 @@ void MainWindow::Slot_OnReplaced()
     for (PanelWindow* panel : findChildren<PanelWindow*>())
         panel->close();
     m_nodes->SetNodes(m_document->GetNodes());
+}
+
+void MainWindow::Slot_OnNodesChanged()
+{
+    const JobNode* current = m_nodes->GetCurrentNode();
+    m_nodes->UpdateNodes(m_document->GetNodes(), current ? current->path : QString());
 }
 
 void MainWindow::Slot_OnFileNameChanged()

@@ -60,6 +60,7 @@ private:
 
     void Slot_OnOpen();
     void Slot_OnReplaced();
+    void Slot_OnNodesChanged();
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();

@@ -89,8 +89,7 @@ std::vector<NodeKind> NodeKinds(const std::shared_ptr<const TKE::JobModel>& mode
     std::set<QString> known;
     for (const TKE::Node* top : sample.tree.GetTopNodes())
         Collect(*top, sample, *model, {}, known, kinds);
-    std::ranges::stable_sort(kinds, {},
-                             [](const NodeKind& kind) { return std::pair(!kind.isChain, kind.spec.type); });
+    std::ranges::stable_sort(kinds, {}, [](const NodeKind& kind) { return std::pair(!kind.isChain, kind.spec.type); });
     return kinds;
 }
 
@@ -106,7 +105,7 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
     std::vector<Candidate> candidates;
     for (const JobNode& node : document.GetNodes())
     {
-        const TKE::NodeSpec* spec = document.FindNodeSpec(node.path);
+        const TKE::NodeSpec* spec = document.File().FindNodeSpec(node.path);
         for (size_t level = kind.above.size() + 1; level-- > 0;)
         {
             const bool fits = level > 0 ? Serves(*spec, kind.above[level - 1]) : spec->type == QLatin1String("JOB");
@@ -121,12 +120,10 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
             break;
         }
     }
-    std::ranges::stable_sort(candidates, {},
-                             [](const Candidate& candidate)
-                             {
-                                 return std::tuple(!candidate.chosen, candidate.taken, -candidate.nearness,
-                                                   candidate.place.added.size());
-                             });
+    std::ranges::stable_sort(
+        candidates, {},
+        [](const Candidate& candidate)
+        { return std::tuple(!candidate.chosen, candidate.taken, -candidate.nearness, candidate.place.added.size()); });
     std::vector<NodePlace> places;
     for (Candidate& candidate : candidates)
         places.push_back(std::move(candidate.place));

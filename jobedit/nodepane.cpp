@@ -58,15 +58,50 @@ void NodePane::SetNodes(std::vector<JobNode> nodes)
     {
         // Half-built trees are nobody's business; the one change of the current node is told below.
         const QSignalBlocker blocker(this);
-        m_view->setCurrentIndex({});
-        m_model->SetNodes(std::move(nodes));
-        m_view->expandAll();
-        m_view->resizeColumnToContents(0);
+        Fill(std::move(nodes));
         for (const JobNode& node : m_model->GetNodes())
             if (HasDialog(node) && SelectNode(node.path))
                 break;
     }
     emit CurrentChanged();
+}
+
+void NodePane::UpdateNodes(std::vector<JobNode> nodes, const QString& path)
+{
+    {
+        const QSignalBlocker blocker(this);
+        QStringList before;
+        QStringList collapsed;
+        for (const JobNode& node : m_model->GetNodes())
+        {
+            before << node.path;
+            if (const QModelIndex index = ShownIndexOf(node.path); index.isValid() && !m_view->isExpanded(index))
+                collapsed << node.path;
+        }
+        Fill(std::move(nodes));
+        for (const QString& each : collapsed)
+            m_view->setExpanded(ShownIndexOf(each), false);
+        bool found = SelectNode(path);
+        const qsizetype place = std::max<qsizetype>(before.indexOf(path), 0);
+        for (qsizetype next = place; !found && next < before.size(); ++next)
+            found = SelectNode(before[next]);
+        for (qsizetype next = place; !found && next > 0; --next)
+            found = SelectNode(before[next - 1]);
+    }
+    emit CurrentChanged();
+}
+
+void NodePane::Fill(std::vector<JobNode> nodes)
+{
+    m_view->setCurrentIndex({});
+    m_model->SetNodes(std::move(nodes));
+    m_view->expandAll();
+    m_view->resizeColumnToContents(0);
+}
+
+QModelIndex NodePane::ShownIndexOf(const QString& path) const
+{
+    return m_filtered->mapFromSource(m_model->IndexOf(path));
 }
 
 const JobNode* NodePane::GetCurrentNode() const
@@ -84,19 +119,6 @@ std::vector<JobNode> NodePane::GetSelectedNodes() const
     for (const JobNode* node : selected)
         nodes.push_back(*node);
     return nodes;
-}
-
-void NodePane::UpdateNodes(std::vector<JobNode> nodes)
-{
-    const JobNode* current = GetCurrentNode();
-    QString path = current ? current->path : QString();
-    {
-        const QSignalBlocker blocker(this);
-        SetNodes(std::move(nodes));
-        while (!path.isEmpty() && !SelectNode(path))
-            path = path.left(path.chopped(1).lastIndexOf(u'/') + 1);
-    }
-    emit CurrentChanged();
 }
 
 bool NodePane::SelectNode(const QString& path)

@@ -22,13 +22,14 @@ public:
 
     /// Shows these nodes and selects the first that has a dialog.
     void SetNodes(std::vector<JobNode> nodes);
+    /// Shows these nodes in place of those so far, and selects the one at `path` or the nearest that is still there.
+    /// What was collapsed stays so. CurrentChanged follows in any case, since values may have been made anew.
+    void UpdateNodes(std::vector<JobNode> nodes, const QString& path);
     const std::vector<JobNode>& GetNodes() const { return m_model->GetNodes(); }
     /// Null when none is selected.
     const JobNode* GetCurrentNode() const;
     /// In the order of the tree; the current one when no other is selected with it.
     std::vector<JobNode> GetSelectedNodes() const;
-    /// Shows these nodes and stays at the current one, where they still have it or one above it.
-    void UpdateNodes(std::vector<JobNode> nodes);
     /// False when the job has no such node. A filter that hides the node is dropped.
     bool SelectNode(const QString& path);
 
@@ -43,6 +44,8 @@ signals:
 
 private:
     void ApplyFilter(const QString& text);
+    void Fill(std::vector<JobNode> nodes);
+    QModelIndex ShownIndexOf(const QString& path) const;
 
     NodeTreeModel* m_model;
     QSortFilterProxyModel* m_filtered;

@@ -101,9 +101,10 @@ void ReuseActions::SaveAsPreset(const std::optional<ParameterSet>& set)
     if (m_presets.Contains(name))
     {
         QString damage;
-        const QString text = m_presets.Load(name, damage)
-                                 ? tr("There is a preset %1 already. Replace it?").arg(name)
-                                 : tr("There is a preset %1 already, which is damaged: %2\n\nReplace it?").arg(name, damage);
+        const QString text =
+            m_presets.Load(name, damage)
+                ? tr("There is a preset %1 already. Replace it?").arg(name)
+                : tr("There is a preset %1 already, which is damaged: %2\n\nReplace it?").arg(name, damage);
         if (QMessageBox::question(&m_window, tr("Save as Preset"), text) != QMessageBox::Yes)
             return;
     }

@@ -63,10 +63,7 @@ class TestCompare : public QObject
     QString File(const QString& name) const { return m_directory->filePath(name); }
     static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
     static QTreeView* List(CompareDialog& dialog) { return dialog.findChild<QTreeView*>("differences"); }
-    static QPushButton* Button(CompareDialog& dialog, const char* name)
-    {
-        return dialog.findChild<QPushButton*>(name);
-    }
+    static QPushButton* Button(CompareDialog& dialog, const char* name) { return dialog.findChild<QPushButton*>(name); }
     CompareDialog* OpenDialog() const { return m_window->findChild<CompareDialog*>(); }
     void Load(OtherJob& job, const QByteArray& content)
     {
@@ -105,8 +102,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("right");
         QTest::addColumn<QString>("text");
         QTest::newRow("none") << Sample() << "";
-        QTest::newRow("a value") << SampleWithFrequency("7040000")
-                                 << "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n";
+        QTest::newRow("a value") << SampleWithFrequency("7040000") << "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n";
         QTest::newRow("nodes") << Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW")
                                << "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath +
                                       ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n";
@@ -149,8 +145,7 @@ private Q_SLOTS:
         Tree::Instance()->RemoveValue(tunerPath + "TUNER_HF_NB_MGCVALUE");
 
         int seen = 0;
-        for (const Difference& difference :
-             CompareTrees(*Tree::Instance(), tunerPath, *Tree::Instance(), voicePath))
+        for (const Difference& difference : CompareTrees(*Tree::Instance(), tunerPath, *Tree::Instance(), voicePath))
         {
             if (difference.key == selection->GetName())
                 QCOMPARE(difference.RightText(), item.GetName());
@@ -169,15 +164,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("text");
         const int frequency = int(ValueKind::Frequency);
-        QTest::newRow("0 Hz") << frequency << "0" << "0 Hz";
-        QTest::newRow("Hz") << frequency << "999" << "999 Hz";
-        QTest::newRow("kHz") << frequency << "1050" << "1.05 kHz";
-        QTest::newRow("MHz") << frequency << "433920001" << "433.920001 MHz";
-        QTest::newRow("GHz") << frequency << "3000000000" << "3 GHz";
-        QTest::newRow("negative") << frequency << "-5000" << "-5000 Hz";
-        QTest::newRow("number") << int(ValueKind::Double) << "-2.5" << "-2.5 dB";
-        QTest::newRow("off") << int(ValueKind::Bool) << "false" << "off";
-        QTest::newRow("items") << int(ValueKind::Selection) << "1;9" << "One, 9";
+        QTest::newRow("0 Hz") << frequency << "0"
+                              << "0 Hz";
+        QTest::newRow("Hz") << frequency << "999"
+                            << "999 Hz";
+        QTest::newRow("kHz") << frequency << "1050"
+                             << "1.05 kHz";
+        QTest::newRow("MHz") << frequency << "433920001"
+                             << "433.920001 MHz";
+        QTest::newRow("GHz") << frequency << "3000000000"
+                             << "3 GHz";
+        QTest::newRow("negative") << frequency << "-5000"
+                                  << "-5000 Hz";
+        QTest::newRow("number") << int(ValueKind::Double) << "-2.5"
+                                << "-2.5 dB";
+        QTest::newRow("off") << int(ValueKind::Bool) << "false"
+                             << "off";
+        QTest::newRow("items") << int(ValueKind::Selection) << "1;9"
+                               << "One, 9";
     }
     void contentsAreReadable()
     {
@@ -301,7 +305,8 @@ private Q_SLOTS:
             if (match.parent().data() == "CS_VOICE" && match.parent().parent().data() == "TDS_HF1")
             {
                 tree->scrollTo(match);
-                QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::ControlModifier, tree->visualRect(match).center());
+                QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                                  tree->visualRect(match).center());
             }
         QCOMPARE(m_window->Nodes().GetSelectedNodes().size(), size_t(2));
         for (QAction* action : m_window->ToolsMenu()->actions())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "value/tree.h"
+#include "valuewidgets/fieldholder.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -55,15 +56,6 @@ public:
         return true;
     }
 
-    static std::vector<ValueBase*> BoundValues(const Widget& widget)
-    {
-        std::vector<ValueBase*> values;
-        for (TextValue* value : {widget.m_startValue, widget.m_stopValue})
-            if (value)
-                values.push_back(value);
-        return values;
-    }
-
     static void Update(Widget& widget, const Observable* source, TChangeCode code)
     {
         const bool isStart = source && source == widget.m_startValue;
@@ -79,6 +71,16 @@ public:
             widget.Load(widget.m_startValue, *widget.m_startEdit);
         else if (code == ccContent && isStop)
             widget.Load(widget.m_stopValue, *widget.m_stopEdit);
+    }
+
+    static std::vector<FieldHolder::Field> GetFields(const Widget& widget)
+    {
+        std::vector<FieldHolder::Field> fields;
+        if (widget.m_startValue)
+            fields.push_back({widget.m_startEdit, widget.m_startValue});
+        if (widget.m_stopValue)
+            fields.push_back({widget.m_stopEdit, widget.m_stopValue});
+        return fields;
     }
 
 private:

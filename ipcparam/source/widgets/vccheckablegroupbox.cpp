@@ -68,16 +68,6 @@ bool VCCheckableGroupBox::SetValue(ValueBase* value)
     return true;
 }
 
-std::vector<ValueBase*> VCCheckableGroupBox::GetBoundValues() const
-{
-    std::vector<ValueBase*> values;
-    if (m_boolValue)
-        values.push_back(m_boolValue);
-    if (m_selectionValue)
-        values.push_back(m_selectionValue);
-    return values;
-}
-
 void VCCheckableGroupBox::Lock()
 {
     m_locked = true;
@@ -96,6 +86,12 @@ void VCCheckableGroupBox::Update(Observable* source, TChangeCode code)
         Show(m_boolValue->GetValue());
     else if (code == ccContent && m_selectionValue->GetSelectedItem())
         Show(m_selectionValue->GetSelectedItem()->GetKey() != 0);
+}
+
+std::vector<FieldHolder::Field> VCCheckableGroupBox::GetFields() const
+{
+    ValueBase* value = m_boolValue ? static_cast<ValueBase*>(m_boolValue) : m_selectionValue;
+    return value ? std::vector<Field>{{const_cast<VCCheckableGroupBox*>(this), value}} : std::vector<Field>();
 }
 
 void VCCheckableGroupBox::FollowState(EnableState state)

@@ -2,7 +2,7 @@
 
 #include "value/value.h"
 #include "value/valueselection.h"
-#include "valuewidgets/valueholder.h"
+#include "valuewidgets/fieldholder.h"
 
 #include <QGroupBox>
 
@@ -12,7 +12,7 @@ namespace TKE
 /// A group box whose title check box is bound to one value, a boolean or a selection (key 0 is unchecked, any other key
 /// checked), so that one value switches a whole group of rows. It follows the value's state and is disabled until a
 /// value enables it.
-class VCCheckableGroupBox : public QGroupBox, public IObserver, public ValueHolder
+class VCCheckableGroupBox : public QGroupBox, public IObserver, public FieldHolder
 {
     Q_OBJECT
 
@@ -30,9 +30,8 @@ public:
     /// Disables the box for good, whatever the state of its value.
     void Lock();
 
-    std::vector<ValueBase*> GetBoundValues() const override;
-
     void Update(Observable* source, TChangeCode code) override;
+    std::vector<Field> GetFields() const override;
 
 private slots:
     void slotInternalChange(bool on);

@@ -38,6 +38,11 @@ void VCDatePeriod::Lock()
     setEnabled(false);
 }
 
+std::vector<FieldHolder::Field> VCDatePeriod::GetFields() const
+{
+    return PeriodWidget<VCDatePeriod>::GetFields(*this);
+}
+
 void VCDatePeriod::Load(TextValue* value, QDateEdit& edit)
 {
     if (!value)
@@ -66,11 +71,6 @@ void VCDatePeriod::SlotStartDateValueChanged(const QDate& date)
 void VCDatePeriod::SlotStopDateValueChanged(const QDate& date)
 {
     Write(m_stopValue, date);
-}
-
-std::vector<ValueBase*> VCDatePeriod::GetBoundValues() const
-{
-    return PeriodWidget<VCDatePeriod>::BoundValues(*this);
 }
 
 void VCDatePeriod::Update(Observable* source, TChangeCode code)

@@ -40,6 +40,11 @@ void VCTimePeriod::Lock()
     setEnabled(false);
 }
 
+std::vector<FieldHolder::Field> VCTimePeriod::GetFields() const
+{
+    return PeriodWidget<VCTimePeriod>::GetFields(*this);
+}
+
 void VCTimePeriod::Load(TextValue* value, QTimeEdit& edit)
 {
     if (!value)
@@ -67,11 +72,6 @@ void VCTimePeriod::SlotStartTimeValueChanged(const QTime& time)
 void VCTimePeriod::SlotStopTimeValueChanged(const QTime& time)
 {
     Write(m_stopValue, time);
-}
-
-std::vector<ValueBase*> VCTimePeriod::GetBoundValues() const
-{
-    return PeriodWidget<VCTimePeriod>::BoundValues(*this);
 }
 
 void VCTimePeriod::Update(Observable* source, TChangeCode code)

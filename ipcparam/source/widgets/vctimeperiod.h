@@ -1,7 +1,7 @@
 #pragma once
 
 #include "value/value.h"
-#include "valuewidgets/valueholder.h"
+#include "valuewidgets/fieldholder.h"
 
 #include <QWidget>
 
@@ -15,7 +15,7 @@ namespace TKE
 template <typename Widget> class PeriodWidget;
 
 /// Edits a period of the day: a start and a stop, each a text value that holds a time as "hh:mm".
-class VCTimePeriod : public QWidget, public IObserver, public ValueHolder
+class VCTimePeriod : public QWidget, public IObserver, public FieldHolder
 {
     Q_OBJECT
 
@@ -29,9 +29,8 @@ public:
     /// Disables the widget for good, whatever the state of its values.
     void Lock();
 
-    std::vector<ValueBase*> GetBoundValues() const override;
-
     void Update(Observable* source, TChangeCode code) override;
+    std::vector<Field> GetFields() const override;
 
 private slots:
     void SlotStartTimeValueChanged(const QTime& time);
