@@ -86,7 +86,7 @@ QString AddNodeDialog::GetName() const
 void AddNodeDialog::FillKinds()
 {
     // The kind of the node that the user stands on is what is wanted most.
-    const TKE::NodeSpec* near = m_document.FindNodeSpec(m_nearPath);
+    const TKE::NodeSpec* near = m_document.File().FindNodeSpec(m_nearPath);
     QTreeWidgetItem* current = nullptr;
     for (const NodeKind& kind : m_kinds)
     {

@@ -61,7 +61,8 @@ CompareDialog* CompareActions::CompareWithSaved()
 CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QString& rightPath)
 {
     JobDocument& document = m_window.Document();
-    const NodeSource open{*TKE::Tree::Instance(), [&document](const QString& path) { return document.FindNodeSpec(path); }};
+    const NodeSource open{*TKE::Tree::Instance(),
+                          [&document](const QString& path) { return document.File().FindNodeSpec(path); }};
     return Show({leftPath, rightPath, open}, nullptr,
                 {.title = tr("Compare Chains"),
                  .heading = tr("%1 at the left, %2 at the right.").arg(leftPath, rightPath),
@@ -79,17 +80,18 @@ CompareDialog* CompareActions::CompareWithDisk()
     if (!other)
         return nullptr;
     const Stamp stamp = m_told;
-    CompareDialog* dialog = Show({{}, {}, other->Source()}, other,
-                                 {.title = tr("File Changed by Somebody Else"),
-                                  .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
-                                                "come into the open job; what is not taken over stays as it is here, and "
-                                                "saving overwrites the file without asking again.")
-                                                 .arg(fileName),
-                                  .leftName = tr("Mine (open job)"),
-                                  .rightName = tr("Theirs (file)"),
-                                  .takeOver = tr("&Take Over Theirs"),
-                                  .close = tr("&Keep Mine")},
-                                 !m_window.Document().IsModified());
+    CompareDialog* dialog =
+        Show({{}, {}, other->Source()}, other,
+             {.title = tr("File Changed by Somebody Else"),
+              .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
+                            "come into the open job; what is not taken over stays as it is here, and "
+                            "saving overwrites the file without asking again.")
+                             .arg(fileName),
+              .leftName = tr("Mine (open job)"),
+              .rightName = tr("Theirs (file)"),
+              .takeOver = tr("&Take Over Theirs"),
+              .close = tr("&Keep Mine")},
+             !m_window.Document().IsModified());
     if (dialog)
         connect(dialog, &QDialog::finished, this, [this, stamp] { m_settled = stamp; });
     return dialog;
@@ -144,8 +146,9 @@ void CompareActions::Slot_OnCompareChains()
         if (node.path != current->path)
             (node.type == current->type ? others : otherTypes) << node.path;
     bool chosen = false;
-    const QString path = QInputDialog::getItem(&m_window, tr("Compare Chains"), tr("Compare %1 with:").arg(current->path),
-                                               others + otherTypes, 0, false, &chosen);
+    const QString path =
+        QInputDialog::getItem(&m_window, tr("Compare Chains"), tr("Compare %1 with:").arg(current->path),
+                              others + otherTypes, 0, false, &chosen);
     if (chosen)
         CompareChains(current->path, path);
 }
@@ -156,7 +159,7 @@ std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
     job->file.SetModel(m_window.Document().GetModel());
     QProgressDialog progress(tr("Reading %1...").arg(QFileInfo(fileName).fileName()), tr("Cancel"), 0, 1000, &m_window);
     progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
+    progress.setMinimumDuration(100);
     job->file.SetProgress(
         [&](qint64 done, qint64 all)
         {
@@ -173,7 +176,8 @@ std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
     progress.reset();
     const QString text = tr("%1 could not be read.").arg(QFileInfo(fileName).fileName());
     m_window.Messages().Add(TKE::Severity::Error, text, error.ToText());
-    QMessageBox(QMessageBox::Critical, tr("Compare"), text + "\n\n" + error.ToText(), QMessageBox::Ok, &m_window).exec();
+    QMessageBox(QMessageBox::Critical, tr("Compare"), text + "\n\n" + error.ToText(), QMessageBox::Ok, &m_window)
+        .exec();
     return nullptr;
 }
 

@@ -42,14 +42,14 @@ CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::sha
     connect(m_model, &DifferenceModel::Ticked, this, &CompareDialog::ShowCounts);
     connect(m_takeOver, &QPushButton::clicked, this, &CompareDialog::TakeOverTicked);
     m_view->installEventFilter(this);
-    resize(1000, 560);
+    resize(1100, 560);
 }
 
 bool CompareDialog::Compare(bool ticked)
 {
     QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
+    progress.setMinimumDuration(100);
     auto differences = m_sides.Compare(
         [&](qint64 done, qint64 all)
         {
@@ -61,11 +61,7 @@ bool CompareDialog::Compare(bool ticked)
     progress.reset();
     m_model->SetDifferences(std::move(differences), ticked);
     m_view->setColumnHidden(DifferenceModel::Reason, true);
-    for (int column = 0; column < DifferenceModel::Reason; ++column)
-    {
-        m_view->resizeColumnToContents(column);
-        m_view->setColumnWidth(column, std::min(m_view->columnWidth(column) + 12, 300));
-    }
+    FitColumns();
     m_view->setCurrentIndex(m_filtered->index(0, 0));
     m_view->setFocus();
     return true;
@@ -74,7 +70,8 @@ bool CompareDialog::Compare(bool ticked)
 bool CompareDialog::eventFilter(QObject* watched, QEvent* event)
 {
     // The view itself would toggle the current row only, and not at all in the other columns.
-    if (watched == m_view && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
+    if (watched == m_view && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space)
     {
         ToggleSelected();
         return true;
@@ -131,6 +128,20 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     layout->addWidget(buttons);
 }
 
+void CompareDialog::FitColumns()
+{
+    if (m_model->rowCount() == 0)
+        return;
+    // Percent of the width at most, so that both contents are in sight; what is longer stands in the tool tip.
+    constexpr int shares[] = {32, 20, 22, 15};
+    for (int column = DifferenceModel::Place; column <= DifferenceModel::Left; ++column)
+    {
+        m_view->resizeColumnToContents(column);
+        constexpr int gap = 12;
+        m_view->setColumnWidth(column, std::min(m_view->columnWidth(column) + gap, width() * shares[column] / 100));
+    }
+}
+
 void CompareDialog::TakeOverTicked()
 {
     std::vector<Difference> wanted;
@@ -160,6 +171,9 @@ void CompareDialog::ToggleSelected()
     QModelIndexList rows;
     for (const QModelIndex& row : m_view->selectionModel()->selectedRows())
         rows << m_filtered->mapToSource(row);
+    // A filter that hides the selected rows leaves a current one that is not selected.
+    if (rows.isEmpty() && m_view->currentIndex().isValid())
+        rows << m_filtered->mapToSource(m_view->currentIndex());
     if (!rows.isEmpty())
         m_model->Tick(rows, !std::ranges::all_of(rows, [this](const auto& row) { return m_model->IsTicked(row); }));
 }
@@ -168,12 +182,10 @@ void CompareDialog::ShowCounts()
 {
     const QModelIndexList rows = ShownRows();
     const auto ticked = std::ranges::count_if(rows, [this](const auto& row) { return m_model->IsTicked(row); });
-    m_counts->setText(m_model->rowCount() == 0
-                          ? tr("There are no differences.")
-                          : tr("%1 differences, %2 shown, %3 of these ticked")
-                                .arg(m_model->rowCount())
-                                .arg(rows.size())
-                                .arg(ticked));
+    m_counts->setText(
+        m_model->rowCount() == 0
+            ? tr("There are no differences.")
+            : tr("%1 differences, %2 shown, %3 of these ticked").arg(m_model->rowCount()).arg(rows.size()).arg(ticked));
     m_takeOver->setEnabled(ticked > 0);
 }
 

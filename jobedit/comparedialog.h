@@ -52,6 +52,7 @@ protected:
 
 private:
     void MakeLayout(const CompareTexts& texts);
+    void FitColumns();
     void TakeOverTicked();
     void TickShown(bool on);
     void ToggleSelected();

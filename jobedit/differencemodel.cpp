@@ -98,8 +98,8 @@ QString DifferenceModel::TextOf(const Difference& difference, int column) const
     case Place:
         return difference.node.isEmpty() ? tr("(the chain itself)") : difference.node.chopped(1);
     case Parameter:
-        if (!node)
-            return difference.Label();
+        if (!node) // the key says it where there is no label
+            return difference.Label() == difference.key ? QString() : difference.Label();
         return difference.kind == Difference::Kind::Changed ? tr("Type of the node") : tr("Whole node");
     case Key:
         return difference.key;

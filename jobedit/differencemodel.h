@@ -36,7 +36,10 @@ public:
     void Tick(const QModelIndexList& rows, bool on);
     bool IsTicked(const QModelIndex& index) const { return m_ticked[size_t(index.row())]; }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(m_differences.size()); }
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_differences.size());
+    }
     int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(ColumnCount); }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -30,7 +30,8 @@ public:
 
     void CompareNodes(const Node& left, const Node& right, const QString& place)
     {
-        if (left.GetTypeText() != right.GetTypeText())
+        // The bases themselves may be of two types: they were chosen.
+        if (!place.isEmpty() && left.GetTypeText() != right.GetTypeText())
             Add({.node = place, .leftStored = left.GetTypeText(), .rightStored = right.GetTypeText()});
         CompareValues(left, right, place);
         CompareBelow(left.GetNodes(), right.GetNodes(), right.GetBasePath(), place);
@@ -100,7 +101,11 @@ private:
                 CompareContents(value, *other, place);
             }
             else
-                Add({Difference::Kind::OnlyLeft, place, value.GetName(), &value.GetDescriptor(), value.GetStoredText(),
+                Add({Difference::Kind::OnlyLeft,
+                     place,
+                     value.GetName(),
+                     &value.GetDescriptor(),
+                     value.GetStoredText(),
                      {}});
         }
         if (matched == others.size())
@@ -110,7 +115,11 @@ private:
             names.insert(&value->GetName());
         for (const auto& value : others)
             if (!names.contains(&value->GetName()))
-                Add({Difference::Kind::OnlyRight, place, value->GetName(), &value->GetDescriptor(), {},
+                Add({Difference::Kind::OnlyRight,
+                     place,
+                     value->GetName(),
+                     &value->GetDescriptor(),
+                     {},
                      value->GetStoredText()});
     }
 
@@ -148,6 +157,29 @@ const TKE::SelectionItem* FindItem(const TKE::ValueDescriptor& descriptor, QStri
     return isNumber && found != descriptor.items.end() ? &*found : nullptr;
 }
 
+/// Exact, in the largest unit that leaves a number of at least 1.
+QString FrequencyText(qint64 hertz)
+{
+    struct Unit
+    {
+        int decimals;
+        const char* name;
+    };
+    for (const Unit& unit : {Unit{9, "GHz"}, Unit{6, "MHz"}, Unit{3, "kHz"}})
+    {
+        QString digits = QString::number(hertz);
+        if (hertz <= 0 || digits.size() <= unit.decimals)
+            continue;
+        digits.insert(digits.size() - unit.decimals, u'.');
+        while (digits.endsWith(u'0'))
+            digits.chop(1);
+        if (digits.endsWith(u'.'))
+            digits.chop(1);
+        return digits + u' ' + QLatin1String(unit.name);
+    }
+    return QString::number(hertz) + QLatin1String(" Hz");
+}
+
 QString TextOf(const Difference& difference, const QString& stored)
 {
     if (!difference.descriptor)
@@ -163,7 +195,7 @@ std::vector<Difference> CompareTrees(const TKE::Tree& left, const QString& leftB
     Comparison comparison(right, qint64(left.ValueCount()), progress);
     if (leftBase.isEmpty() && rightBase.isEmpty())
         comparison.CompareBelow(left.GetTopNodes(), right.GetTopNodes(), {}, {});
-    else if (const Node *leftNode = left.FindNode(leftBase), *rightNode = right.FindNode(rightBase);
+    else if (const Node* leftNode = left.FindNode(leftBase), *rightNode = right.FindNode(rightBase);
              leftNode && rightNode)
         comparison.CompareNodes(*leftNode, *rightNode, {});
     return comparison.Take();
@@ -214,6 +246,8 @@ QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stor
     {
     case TKE::ValueKind::Bool:
         return stored == u"true" ? JobDiff::tr("on") : JobDiff::tr("off");
+    case TKE::ValueKind::Frequency:
+        return FrequencyText(stored.toLongLong());
     case TKE::ValueKind::Selection:
     {
         QStringList names;

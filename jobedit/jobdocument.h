@@ -30,6 +30,7 @@ public:
     /// The model that the configuration names. What is wrong with it is reported; the compiled-in one serves where
     /// there is none.
     static std::shared_ptr<const TKE::JobModel> ConfiguredModel();
+    const std::shared_ptr<const TKE::JobModel>& GetModel() { return m_file.GetModel(); }
 
     // Where these fail, nothing has changed and `error` says why.
     bool NewFromSample(TKE::FileError& error);
@@ -64,9 +65,6 @@ public:
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
-    const std::shared_ptr<const TKE::JobModel>& GetModel() { return m_file.GetModel(); }
-    /// What the job says about the node at `path`; null when it says nothing.
-    const TKE::NodeSpec* FindNodeSpec(QStringView path) const { return m_file.FindNodeSpec(path); }
 
 signals:
     /// Another job has taken the place of the one so far; all its nodes and values are gone.

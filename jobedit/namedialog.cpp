@@ -10,10 +10,7 @@ namespace JOBEDIT
 {
 
 NameDialog::NameDialog(const QString& title, const QString& label, const QString& name, Fault fault, QWidget* parent)
-    : QDialog(parent)
-    , m_fault(std::move(fault))
-    , m_name(new QLineEdit(name, this))
-    , m_reason(new QLabel(this))
+    : QDialog(parent), m_fault(std::move(fault)), m_name(new QLineEdit(name, this)), m_reason(new QLabel(this))
 {
     setWindowTitle(title);
     auto* caption = new QLabel(label, this);

@@ -25,7 +25,6 @@ NodeActions::NodeActions(MainWindow& window) : QObject(&window), m_window(window
     m_rename = AddAction(tr("&Rename..."), Qt::Key_F2, &NodeActions::Rename);
     m_remove = AddAction(tr("Re&move"), QKeySequence::Delete, &NodeActions::Remove);
     connect(&window.Nodes(), &NodePane::CurrentChanged, this, &NodeActions::EnableActions);
-    connect(&window.Document(), &JobDocument::NodesChanged, this, &NodeActions::Slot_OnNodesChanged);
 }
 
 void NodeActions::Add()
@@ -36,9 +35,11 @@ void NodeActions::Add()
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString reason;
-    m_goTo = AddNodeOfKind(m_window.Document(), *dialog.GetKind(), *dialog.GetPlace(), dialog.GetName(), reason);
-    if (m_goTo.isEmpty())
-        Fail(tr("%1 could not be added.").arg(dialog.GetName()), reason);
+    const QString path =
+        AddNodeOfKind(m_window.Document(), *dialog.GetKind(), *dialog.GetPlace(), dialog.GetName(), reason);
+    if (path.isEmpty())
+        return Fail(tr("%1 could not be added.").arg(dialog.GetName()), reason);
+    m_window.Nodes().SelectNode(path);
 }
 
 void NodeActions::Duplicate()
@@ -56,7 +57,7 @@ void NodeActions::Duplicate()
         return;
     QString reason;
     if (m_window.Document().DuplicateNode(path, name, &reason))
-        m_goTo = parent + name + u'/';
+        m_window.Nodes().SelectNode(parent + name);
     else
         Fail(tr("%1 could not be duplicated.").arg(path), reason);
 }
@@ -77,7 +78,7 @@ void NodeActions::Rename()
         return;
     QString reason;
     if (m_window.Document().RenameNode(path, name, &reason))
-        m_goTo = parent + name + u'/';
+        m_window.Nodes().SelectNode(parent + name);
     else
         Fail(tr("%1 could not be renamed.").arg(path), reason);
 }
@@ -92,13 +93,13 @@ void NodeActions::Remove()
     if (paths.isEmpty())
         return;
     const auto& nodes = m_window.Nodes().GetNodes();
-    const auto count = std::ranges::count_if(nodes, [&](const JobNode& node)
-                                             { return std::ranges::any_of(paths, [&](const QString& path)
-                                                                          { return node.path.startsWith(path); }); });
+    const auto count = std::ranges::count_if(
+        nodes, [&](const JobNode& node)
+        { return std::ranges::any_of(paths, [&](const QString& path) { return node.path.startsWith(path); }); });
     // A key hit by chance must not take a section away.
-    if (count > 1 && QMessageBox::question(&m_window, tr("Remove"),
-                                           tr("Remove %1 nodes with all their parameters?").arg(count)) !=
-                         QMessageBox::Yes)
+    if (count > 1 &&
+        QMessageBox::question(&m_window, tr("Remove"), tr("Remove %1 nodes with all their parameters?").arg(count)) !=
+            QMessageBox::Yes)
         return;
     for (const QString& path : paths)
     {
@@ -126,23 +127,6 @@ void NodeActions::EnableActions()
     const JobNode* current = m_window.Nodes().GetCurrentNode();
     for (QAction* action : {m_duplicate, m_rename, m_remove})
         action->setEnabled(current && current->parent >= 0);
-}
-
-void NodeActions::Slot_OnNodesChanged()
-{
-    // Many nodes may come and go at once.
-    if (m_refreshing)
-        return;
-    m_refreshing = true;
-    QMetaObject::invokeMethod(this, &NodeActions::Refresh, Qt::QueuedConnection);
-}
-
-void NodeActions::Refresh()
-{
-    m_refreshing = false;
-    m_window.Nodes().UpdateNodes(m_window.Document().GetNodes());
-    if (const QString path = std::exchange(m_goTo, {}); !path.isEmpty())
-        m_window.Nodes().SelectNode(path);
 }
 
 void NodeActions::Fail(const QString& text, const QString& reason)

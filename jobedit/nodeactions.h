@@ -9,7 +9,7 @@ namespace JOBEDIT
 
 class MainWindow;
 
-/// Node > Add, Duplicate, Rename and Remove, with Ins, F2 and Del in the tree of the nodes, which follows the job.
+/// Node > Add, Duplicate, Rename and Remove, with Ins, F2 and Del in the tree of the nodes.
 class NodeActions : public QObject
 {
     Q_OBJECT
@@ -25,16 +25,12 @@ public:
 private:
     QAction* AddAction(const QString& text, const QKeySequence& key, void (NodeActions::*operation)());
     void EnableActions();
-    void Slot_OnNodesChanged();
-    void Refresh();
     void Fail(const QString& text, const QString& reason);
 
     MainWindow& m_window;
     QAction* m_duplicate;
     QAction* m_rename;
     QAction* m_remove;
-    QString m_goTo; ///< the node to select when the tree has been filled anew
-    bool m_refreshing = false;
 };
 
 } // namespace JOBEDIT

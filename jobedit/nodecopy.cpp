@@ -53,7 +53,8 @@ bool CopyNode(const NodeSource& source, const QString& fromPath, JobDocument& do
     if (!known)
     {
         if (reason)
-            *reason = QCoreApplication::translate("JOBEDIT::NodeCopy", "%1 is no node of a job of its own.").arg(fromPath);
+            *reason =
+                QCoreApplication::translate("JOBEDIT::NodeCopy", "%1 is no node of a job of its own.").arg(fromPath);
         return false;
     }
     TKE::NodeSpec spec = *known;

@@ -89,8 +89,7 @@ std::vector<NodeKind> NodeKinds(const std::shared_ptr<const TKE::JobModel>& mode
     std::set<QString> known;
     for (const TKE::Node* top : sample.tree.GetTopNodes())
         Collect(*top, sample, *model, {}, known, kinds);
-    std::ranges::stable_sort(kinds, {},
-                             [](const NodeKind& kind) { return std::pair(!kind.isChain, kind.spec.type); });
+    std::ranges::stable_sort(kinds, {}, [](const NodeKind& kind) { return std::pair(!kind.isChain, kind.spec.type); });
     return kinds;
 }
 
@@ -99,14 +98,14 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
     struct Candidate
     {
         NodePlace place;
-        bool taken; // there is such a node already: the user rather wants a place of its own for the new one
+        bool taken; // a channel set that has its task: another one rather gets a set of its own
         bool chosen;
         qsizetype nearness;
     };
     std::vector<Candidate> candidates;
     for (const JobNode& node : document.GetNodes())
     {
-        const TKE::NodeSpec* spec = document.FindNodeSpec(node.path);
+        const TKE::NodeSpec* spec = document.File().FindNodeSpec(node.path);
         for (size_t level = kind.above.size() + 1; level-- > 0;)
         {
             const bool fits = level > 0 ? Serves(*spec, kind.above[level - 1]) : spec->type == QLatin1String("JOB");
@@ -115,18 +114,16 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
             NodePlace place{node.path, {kind.above.begin() + qsizetype(level), kind.above.end()}};
             if (!place.added.empty())
                 place.added.front().name = UniqueNodeName(place.path, place.added.front().name);
-            const bool taken =
-                place.added.empty() && TKE::Tree::Instance()->FindNode(QString(node.path + kind.spec.name));
+            const bool taken = place.added.empty() && kind.above.size() > 1 &&
+                               !TKE::Tree::Instance()->FindNode(node.path)->GetNodes().empty();
             candidates.push_back({std::move(place), taken, node.path == nearPath, CommonPrefix(node.path, nearPath)});
             break;
         }
     }
-    std::ranges::stable_sort(candidates, {},
-                             [](const Candidate& candidate)
-                             {
-                                 return std::tuple(!candidate.chosen, candidate.taken, -candidate.nearness,
-                                                   candidate.place.added.size());
-                             });
+    std::ranges::stable_sort(
+        candidates, {},
+        [](const Candidate& candidate)
+        { return std::tuple(!candidate.chosen, candidate.taken, -candidate.nearness, candidate.place.added.size()); });
     std::vector<NodePlace> places;
     for (Candidate& candidate : candidates)
         places.push_back(std::move(candidate.place));

@@ -121,19 +121,6 @@ std::vector<JobNode> NodePane::GetSelectedNodes() const
     return nodes;
 }
 
-void NodePane::UpdateNodes(std::vector<JobNode> nodes)
-{
-    const JobNode* current = GetCurrentNode();
-    QString path = current ? current->path : QString();
-    {
-        const QSignalBlocker blocker(this);
-        SetNodes(std::move(nodes));
-        while (!path.isEmpty() && !SelectNode(path))
-            path = path.left(path.chopped(1).lastIndexOf(u'/') + 1);
-    }
-    emit CurrentChanged();
-}
-
 bool NodePane::SelectNode(const QString& path)
 {
     const QModelIndex index = m_model->IndexOf(path);

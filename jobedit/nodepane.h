@@ -30,8 +30,6 @@ public:
     const JobNode* GetCurrentNode() const;
     /// In the order of the tree; the current one when no other is selected with it.
     std::vector<JobNode> GetSelectedNodes() const;
-    /// Shows these nodes and stays at the current one, where they still have it or one above it.
-    void UpdateNodes(std::vector<JobNode> nodes);
     /// False when the job has no such node. A filter that hides the node is dropped.
     bool SelectNode(const QString& path);
 

@@ -65,18 +65,15 @@ void Collect(const TKE::Node& node, const QString& base, const std::unordered_se
             Collect(*below, base, others, set);
 }
 
-std::vector<TKE::ValueBase*> BoundValues(QWidget* widget)
+std::vector<const TKE::ValueBase*> BoundValues(QWidget* widget)
 {
-    if (const auto* link = dynamic_cast<const TKE::ValueLink*>(widget))
-        return link->GetBoundValue() ? std::vector{link->GetBoundValue()} : std::vector<TKE::ValueBase*>();
+    std::vector<const TKE::ValueBase*> values;
+    if (const auto* link = dynamic_cast<const TKE::ValueLink*>(widget); link && link->GetBoundValue())
+        values.push_back(link->GetBoundValue());
     if (const auto* holder = dynamic_cast<const TKE::FieldHolder*>(widget))
-    {
-        std::vector<TKE::ValueBase*> values;
         for (const TKE::FieldHolder::Field& field : holder->GetFields())
             values.push_back(field.value);
-        return values;
-    }
-    return {};
+    return values;
 }
 
 } // namespace
@@ -146,8 +143,8 @@ std::optional<ParameterSet> ParameterSet::FromJson(const QByteArray& json, QStri
             reason = ParameterSetText::tr("Value %1 has no path or no content.").arg(number + 1);
             return {};
         }
-        set.parameters.push_back({value["path"].toString(), value["value"].toString(), value["label"].toString(),
-                                  value["text"].toString()});
+        set.parameters.push_back(
+            {value["path"].toString(), value["value"].toString(), value["label"].toString(), value["text"].toString()});
     }
     return set;
 }

@@ -14,9 +14,7 @@ namespace JOBEDIT
 {
 
 PresetDialog::PresetDialog(QWidget* parent)
-    : QDialog(parent)
-    , m_list(new QListWidget(this))
-    , m_details(new QLabel(this))
+    : QDialog(parent), m_list(new QListWidget(this)), m_details(new QLabel(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
@@ -70,8 +68,7 @@ void PresetDialog::ShowCurrent()
     if (name.isEmpty())
         m_details->setText(tr("There are no presets yet. Save those of a tab or a chain from the Edit menu."));
     else if (set)
-        m_details->setText(
-            tr("%1 parameters of %2 (%3)").arg(set->parameters.size()).arg(set->source, set->type));
+        m_details->setText(tr("%1 parameters of %2 (%3)").arg(set->parameters.size()).arg(set->source, set->type));
     else
         m_details->setText(tr("This preset is damaged. %1").arg(reason));
     m_apply->setEnabled(set.has_value());

@@ -26,9 +26,11 @@ ReuseActions::ReuseActions(MainWindow& window) : QObject(&window), m_window(wind
     menu->addSeparator();
     menu->addAction(tr("Copy &Tab's Parameters"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this,
                     &ReuseActions::CopyTab);
-    menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
-    menu->addAction(tr("&Paste Parameters into Selected Chains"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this,
-                    &ReuseActions::Paste);
+    QAction* copy = menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
+    QAction* paste = menu->addAction(tr("&Paste Parameters into Selected Chains"),
+                                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this, &ReuseActions::Paste);
+    window.NodeMenu()->addSeparator();
+    window.NodeMenu()->addActions({copy, paste});
     m_presetMenu = menu->addMenu(tr("P&resets"));
     connect(m_presetMenu, &QMenu::aboutToShow, this, &ReuseActions::FillPresetMenu);
     FillPresetMenu();
@@ -99,9 +101,10 @@ void ReuseActions::SaveAsPreset(const std::optional<ParameterSet>& set)
     if (m_presets.Contains(name))
     {
         QString damage;
-        const QString text = m_presets.Load(name, damage)
-                                 ? tr("There is a preset %1 already. Replace it?").arg(name)
-                                 : tr("There is a preset %1 already, which is damaged: %2\n\nReplace it?").arg(name, damage);
+        const QString text =
+            m_presets.Load(name, damage)
+                ? tr("There is a preset %1 already. Replace it?").arg(name)
+                : tr("There is a preset %1 already, which is damaged: %2\n\nReplace it?").arg(name, damage);
         if (QMessageBox::question(&m_window, tr("Save as Preset"), text) != QMessageBox::Yes)
             return;
     }

@@ -26,7 +26,7 @@ QString TakeNode(JobDocument& document, const CompareSides& sides, const Differe
     case Difference::Kind::Changed:
         return TakingOver::tr("The type of a node cannot be taken over.");
     case Difference::Kind::OnlyLeft:
-        if (!document.FindNodeSpec(path))
+        if (!document.File().FindNodeSpec(path))
             return TakingOver::tr("The node belongs to the one above it and cannot be removed by itself.");
         document.RemoveNode(path, &reason);
         return reason;
@@ -67,7 +67,8 @@ WriteResult TakeOver(JobDocument& document, const QString& stepName, const Compa
             changes.push_back({sides.leftBase + difference.Path(), difference.rightStored});
         else
             result.refused.push_back(
-                {difference.Path(), TakingOver::tr("Only one side has the parameter: the nodes have different groups.")});
+                {difference.Path(),
+                 TakingOver::tr("Only one side has the parameter: the nodes have different groups.")});
     }
     const WriteResult values = WriteValues(document, stepName, changes);
     result.written += values.written;

@@ -56,15 +56,6 @@ public:
         return true;
     }
 
-    static std::vector<ValueBase*> BoundValues(const Widget& widget)
-    {
-        std::vector<ValueBase*> values;
-        for (TextValue* value : {widget.m_startValue, widget.m_stopValue})
-            if (value)
-                values.push_back(value);
-        return values;
-    }
-
     static void Update(Widget& widget, const Observable* source, TChangeCode code)
     {
         const bool isStart = source && source == widget.m_startValue;

@@ -1,0 +1,448 @@
+#include "jobedit/addnodedialog.h"
+#include "jobedit/chains.h"
+#include "jobedit/dialogpane.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/messagelist.h"
+#include "jobedit/nodeactions.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/otherjob.h"
+#include "jobedit/presetdialog.h"
+#include "jobedit/reuseactions.h"
+#include "keys/keys.h"
+
+#include <QTest>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
+const QString vuhfPath = QStringLiteral("/Jobs/Demo/TDS_VUHF1/CS_TUNER/TUNER/");
+
+/// Does this with the next modal dialog.
+class Next : public QObject
+{
+public:
+    explicit Next(std::function<void(QDialog&)> act) : m_act(std::move(act))
+    {
+        m_timer.callOnTimeout(this,
+                              [this]
+                              {
+                                  if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                                  {
+                                      m_timer.stop();
+                                      const QPointer<QDialog> open(dialog);
+                                      m_act(*dialog);
+                                      if (open && QTest::currentTestFailed())
+                                          open->reject(); // the test goes on
+                                  }
+                              });
+        m_timer.start(10);
+    }
+    bool HasActed() const { return !m_timer.isActive(); }
+
+private:
+    std::function<void(QDialog&)> m_act;
+    QTimer m_timer;
+};
+
+} // namespace
+
+class TestReuse : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+    static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
+    static QString Text(const QString& path) { return Value(path) ? Value(path)->GetStoredText() : "(missing)"; }
+    QTreeView* NodeView() { return m_window->Nodes().View(); }
+    bool Has(const QString& path) const { return m_window->Document().File().FindNodeSpec(path); }
+    /// Selects these nodes, the first as the current one.
+    void Select(const QStringList& paths)
+    {
+        m_window->activateWindow(); // a dialog that closes gives it back only on some platforms
+        QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+        for (const QString& path : paths)
+            QVERIFY(m_window->Nodes().SelectNode(path));
+        QItemSelection selection;
+        for (const QString& path : paths)
+        {
+            m_window->Nodes().SelectNode(path);
+            selection.select(NodeView()->currentIndex(), NodeView()->currentIndex());
+        }
+        m_window->Nodes().SelectNode(paths.first());
+        NodeView()->selectionModel()->select(selection,
+                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        NodeView()->setFocus();
+        QCOMPARE(m_window->Nodes().GetSelectedNodes().size(), size_t(paths.size()));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+        QLocale::setDefault(QLocale::C);
+    }
+
+    void init()
+    {
+        QDir(QFileInfo(Presets().FileOf("x")).path()).removeRecursively();
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        QGuiApplication::clipboard()->clear();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void aCopiedChainIsPastedIntoAllSelectedOnesWhereItFits()
+    {
+        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
+        const QString classifier = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/";
+        Value(tunerPath + key)->SetStoredText("7040000");
+        Select({tunerPath});
+        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        const QString text = QGuiApplication::clipboard()->text();
+        QVERIFY(text.contains(key + "\t7.04 MHz\n"));
+
+        Select({voicePath, classifier, vuhfPath});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Text(voicePath + key), QString("7040000"));
+        QCOMPARE(Text(classifier + key), QString("7040000"));
+        QVERIFY(m_window->Messages().GetText().contains(vuhfPath + key + " was not written"));
+        QVERIFY(!m_window->Messages().GetText().contains(voicePath));
+        QVERIFY(m_window->isWindowModified());
+    }
+
+    void everyValueOfATabIsCopied()
+    {
+        // What the widgets of a tab write to is what its copy holds: values of the channel set above the chain too.
+        QSet<QString> kinds;
+        for (const JobNode& node : std::vector(m_window->Nodes().GetNodes()))
+        {
+            m_window->Nodes().SelectNode(node.path);
+            QTabWidget* dialog = m_window->Dialog().GetDialog();
+            for (int tab = 0; dialog && tab < dialog->count(); ++tab)
+            {
+                dialog->setCurrentIndex(tab);
+                const auto set = ParameterSet::OfTab(node, *dialog->currentWidget(), dialog->tabText(tab));
+                for (const ValueChange& change : set.ChangesFor(node.path))
+                {
+                    QVERIFY2(Value(change.path), qPrintable(change.path));
+                    QCOMPARE(change.stored, Text(change.path));
+                }
+                for (const auto& parameter : set.parameters)
+                    kinds << (parameter.path.startsWith("../") ? "above" : "own");
+            }
+        }
+        QCOMPARE(kinds.size(), 2);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void aTabIsCopiedFromTheDialogAndPastedElsewhere()
+    {
+        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
+        Value(tunerPath + key)->SetStoredText("7040000");
+        Select({tunerPath});
+        QTabWidget* dialog = m_window->Dialog().GetDialog();
+        for (int tab = 0; tab < dialog->count(); ++tab)
+            if (dialog->currentWidget()->findChild<QWidget*>(key) == nullptr)
+                dialog->setCurrentIndex(tab);
+        QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        const QString text = QGuiApplication::clipboard()->text();
+        QVERIFY(text.contains(key));
+        QVERIFY(text.count('\n') < int(Tree::Instance()->FindNode(tunerPath)->GetValues().size()));
+        Select({voicePath});
+        QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(Text(voicePath + key), QString("7040000"));
+    }
+
+    void whatTheClipboardHoldsBesidesIsNotPasted_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("text") << QByteArray("text/plain") << QByteArray("a\tb\n");
+        const QByteArray own = "application/x-jobedit-parameters";
+        QTest::newRow("damaged") << own << QByteArray("{\"format\":");
+        QTest::newRow("something else") << own << QByteArray("{}");
+        QTest::newRow("newer") << own << QByteArray(R"({"format":"jobedit-parameters","version":2,"values":[]})");
+        QTest::newRow("without content")
+            << own << QByteArray(R"({"format":"jobedit-parameters","version":1,"values":[{"path":"A"}]})");
+    }
+    void whatTheClipboardHoldsBesidesIsNotPasted()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(QByteArray, content);
+        auto* data = new QMimeData;
+        data->setData(type, content);
+        QGuiApplication::clipboard()->setMimeData(data);
+        Select({voicePath});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void anItemThatTheTargetLacksIsRefused()
+    {
+        const ValueSelection* selection = nullptr;
+        for (const auto& value : Tree::Instance()->FindNode(tunerPath)->GetValues())
+            if (value->GetKind() == ValueKind::Selection)
+                selection = static_cast<const ValueSelection*>(value.get());
+        QVERIFY(selection);
+        ParameterSet set;
+        set.parameters.push_back({selection->GetName(), "98765", {}, {}});
+        const QString before = selection->GetStoredText();
+        const WriteResult result = WriteValues(m_window->Document(), {}, set.ChangesFor(tunerPath));
+        QCOMPARE(result.refused.size(), size_t(1));
+        QCOMPARE(selection->GetStoredText(), before);
+    }
+
+    void aValueThatAnotherOneSetsHoldsWhatWasWritten()
+    {
+        // The panel of the exciter sets the switches when the mode changes.
+        struct Panel : IObserver
+        {
+            void Update(Observable*, TChangeCode) override { Value(voicePath + "OFFSET")->SetStoredText("0"); }
+        } panel;
+        auto* offset = Tree::Instance()->CreateValue<IntValue>(QString(voicePath + "OFFSET"));
+        auto* mode = Tree::Instance()->CreateValue<IntValue>(QString(voicePath + "MODE"));
+        mode->Attach(&panel);
+        WriteValues(m_window->Document(), {}, {{offset->GetPathName(), "5"}, {mode->GetPathName(), "1"}});
+        QCOMPARE(offset->GetValue(), 5);
+        QCOMPARE(mode->GetValue(), 1);
+    }
+
+    void presetsAreKeptUnderAnyName_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"Tuner", "../a/b\\c", "50 % : *?", ".hidden", "Empfänger", "a&b"})
+            QTest::newRow(name) << QString::fromUtf8(name);
+    }
+    void presetsAreKeptUnderAnyName()
+    {
+        QFETCH(QString, name);
+        Presets presets(File("presets"));
+        QVERIFY(presets.NameFault(name).isEmpty());
+        QString reason;
+        const ParameterSet set{"here", "T", {{"A", "1\n2", "label", "text"}}};
+        QVERIFY2(presets.Save(name, set, reason), qPrintable(reason));
+        QCOMPARE(presets.GetNames(), QStringList{name});
+        const auto loaded = presets.Load(name, reason);
+        QVERIFY2(loaded, qPrintable(reason));
+        QCOMPARE(loaded->ToJson(), set.ToJson());
+        QVERIFY(presets.Rename(name, "other", reason));
+        QCOMPARE(presets.GetNames(), QStringList{"other"});
+        QVERIFY(presets.Save(name, set, reason));
+        QVERIFY(!presets.Rename(name, "other", reason));
+        QVERIFY(presets.Remove(name, reason));
+        QVERIFY(!presets.Load(name, reason));
+        QCOMPARE(QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 (QStringList{"presets"}));
+    }
+
+    void aPresetIsSavedReplacedOnlyWhenWantedAndApplied()
+    {
+        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
+        const auto save = [&]
+        {
+            Next name(
+                [](QDialog& dialog)
+                {
+                    dialog.findChild<QLineEdit*>("name")->selectAll();
+                    QTest::keyClicks(dialog.findChild<QLineEdit*>("name"), "mine");
+                    QTest::keyClick(&dialog, Qt::Key_Return);
+                });
+            for (QAction* action : m_window->EditMenu()->findChild<QMenu*>()->actions())
+                if (action->text().contains("Chain"))
+                    return action->trigger();
+        };
+        Select({tunerPath});
+        Value(tunerPath + key)->SetStoredText("7040000");
+        save();
+        QCOMPARE(Presets().GetNames(), QStringList{"mine"});
+
+        QFile file(Presets().FileOf("mine"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{damaged") > 0);
+        file.close();
+        {
+            std::unique_ptr<Next> question;
+            QTimer::singleShot(50, this,
+                               [&]
+                               {
+                                   question = std::make_unique<Next>(
+                                       [](QDialog& dialog)
+                                       {
+                                           QVERIFY(static_cast<QMessageBox&>(dialog).text().contains("damaged"));
+                                           dialog.reject();
+                                       });
+                               });
+            save();
+            QVERIFY(question && question->HasActed());
+        }
+        QString reason;
+        QVERIFY(!Presets().Load("mine", reason));
+        {
+            Next box([](QDialog& dialog) { dialog.reject(); });
+            m_window->findChild<ReuseActions*>()->ApplyPreset("mine");
+            QVERIFY(box.HasActed());
+        }
+        QVERIFY(m_window->Messages().GetText().contains(Presets().FileOf("mine")));
+        QVERIFY(Presets().Remove("mine", reason));
+        save();
+
+        Select({voicePath});
+        auto* dialog = new PresetDialog(m_window.get());
+        connect(dialog, &PresetDialog::Chosen, m_window->findChild<ReuseActions*>(), &ReuseActions::ApplyPreset);
+        dialog->show();
+        QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QVERIFY(dialog->findChild<QLabel*>("details")->text().contains(tunerPath));
+        QTest::mouseClick(dialog->findChild<QPushButton*>("apply"), Qt::LeftButton);
+        QCOMPARE(Text(voicePath + key), QString("7040000"));
+    }
+
+    void aChainOfEveryKindCanBeAddedAndSaved()
+    {
+        m_window->Nodes().SelectNode("/Jobs/Demo"); // no dialog that follows
+        const auto kinds = NodeKinds(m_window->Document().GetModel());
+        QSet<const Chain*> chains;
+        for (const NodeKind& kind : kinds)
+        {
+            for (const QString& near : {QString(), tunerPath, vuhfPath})
+            {
+                const auto places = PlacesFor(kind, m_window->Document(), near);
+                QVERIFY2(!places.empty(), qPrintable(kind.spec.type));
+                QString reason;
+                const QString name = UniqueNodeName(places[0].ParentPath(), kind.spec.name);
+                const QString path = AddNodeOfKind(m_window->Document(), kind, places[0], name, reason);
+                QVERIFY2(!path.isEmpty(), qPrintable(kind.spec.type + reason));
+                const JobNode node{path, name, kind.spec.type, kind.spec.band, kind.spec.dataForm};
+                chains << FindChain(node);
+                QCOMPARE(MakeDialog(node, Form::Job, nullptr) != nullptr, kind.isChain);
+            }
+        }
+        chains.remove(nullptr);
+        QCOMPARE(size_t(chains.size()), Chains().size());
+        QVERIFY(m_window->SaveTo(File("all.job.xml")));
+        QVERIFY(JobFile::Check(File("all.job.xml")).isEmpty());
+    }
+
+    void aChainIsAddedByKeyboard()
+    {
+        Select({tunerPath});
+        Next next(
+            [](QDialog& dialog)
+            {
+                auto* name = dialog.findChild<QLineEdit*>("name");
+                auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+                QCOMPARE(dialog.findChild<QTreeWidget*>("kinds")->currentItem()->text(0), QString("IPC_TUNER_HF"));
+                QTest::keyClicks(dialog.findChild<QLineEdit*>("kindFilter"), "ipc_voice_hf");
+                QCOMPARE(dialog.findChild<QLabel*>("reason")->text(),
+                         QString("Adds /Jobs/Demo/TDS_HF1/CS_VOICE2/VOICE"));
+                for (const char* bad : {"", "a/b", ".."})
+                {
+                    name->selectAll();
+                    QTest::keyClick(name, Qt::Key_Delete);
+                    QTest::keyClicks(name, bad);
+                    QVERIFY2(!ok->isEnabled(), bad);
+                }
+                name->selectAll();
+                QTest::keyClicks(name, "NIGHT");
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+        QTest::keyClick(NodeView(), Qt::Key_Insert);
+        QVERIFY(next.HasActed());
+        const QString added = "/Jobs/Demo/TDS_HF1/CS_VOICE2/NIGHT/";
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, added);
+        QVERIFY(m_window->Dialog().GetDialog());
+        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" +
+                      Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues().front()->GetName()));
+        QVERIFY(m_window->isWindowModified());
+    }
+
+    void nodesAreRenamedAndDuplicatedWithAllBelowThem_data()
+    {
+        QTest::addColumn<bool>("duplicate");
+        QTest::newRow("rename") << false;
+        QTest::newRow("duplicate") << true;
+    }
+    void nodesAreRenamedAndDuplicatedWithAllBelowThem()
+    {
+        QFETCH(bool, duplicate);
+        const QString key = QString("TUNER/") + Keys::TUNER_HF_NB_FREQUENCY;
+        const QString before = "/Jobs/Demo/TDS_HF1/CS_TUNER/";
+        const QString after = "/Jobs/Demo/TDS_HF1/CS_NIGHT/";
+        Value(before + key)->SetStoredText("7040000");
+        Select({before});
+        Next next(
+            [](QDialog& dialog)
+            {
+                auto* name = dialog.findChild<QLineEdit*>("name");
+                auto* reason = dialog.findChild<QLabel*>("reason");
+                name->selectAll();
+                QTest::keyClicks(name, "CS_VOICE"); // taken
+                QVERIFY(!reason->text().isEmpty());
+                QTest::keyClick(name, Qt::Key_Return);
+                QVERIFY(dialog.isVisible());
+                name->selectAll();
+                QTest::keyClicks(name, "CS_NIGHT");
+                QVERIFY(reason->text().isEmpty());
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+        if (duplicate)
+            m_window->findChild<NodeActions*>()->Duplicate();
+        else
+            QTest::keyClick(NodeView(), Qt::Key_F2);
+        QVERIFY(next.HasActed());
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, after);
+        QCOMPARE(Text(after + key), QString("7040000"));
+        QCOMPARE(Has(before), duplicate);
+        QCOMPARE(Tree::Instance()->FindNode(after)->GetNodes().size(), size_t(1));
+    }
+
+    void nodesAreRemovedSeveralOnlyAfterAQuestion()
+    {
+        Select({tunerPath});
+        QTest::keyClick(NodeView(), Qt::Key_Delete);
+        QVERIFY(!Has(tunerPath));
+        QVERIFY(!m_window->Nodes().SelectNode(tunerPath));
+
+        const QStringList both{"/Jobs/Demo/TDS_HF1/CS_VOICE/", voicePath, vuhfPath};
+        for (const auto answer : {QMessageBox::No, QMessageBox::Yes})
+        {
+            Select(both);
+            Next next(
+                [&](QDialog& dialog)
+                {
+                    QVERIFY(static_cast<QMessageBox&>(dialog).text().contains('3'));
+                    static_cast<QMessageBox&>(dialog).button(answer)->click();
+                });
+            QTest::keyClick(NodeView(), Qt::Key_Delete);
+            QVERIFY(next.HasActed());
+            for (const QString& path : both)
+                QCOMPARE(Has(path), answer == QMessageBox::No);
+        }
+        QVERIFY(!m_window->Nodes().SelectNode(vuhfPath));
+        Select({"/Jobs/Demo/"});
+        QTest::keyClick(NodeView(), Qt::Key_Delete);
+        QVERIFY(Has("/Jobs/Demo/"));
+    }
+};
+
+QTEST_MAIN(TestReuse)
+#include "test_reuse.moc"
