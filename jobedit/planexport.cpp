@@ -127,8 +127,8 @@ bool PlanPicture::WriteSvg(QIODevice& device, const QSize& size) const
     generator.setSize(size);
     generator.setViewBox(QRect({}, size));
     generator.setResolution(96);
-    generator.setTitle(m_title);
-    generator.setDescription(tr("Frequency plan of a job"));
+    // Written as it stands, so nothing that comes from the job: a file name could break the XML.
+    generator.setTitle(tr("Frequency plan of a job"));
     QPainter painter;
     if (!painter.begin(&generator))
         return false;
