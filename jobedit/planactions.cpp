@@ -21,8 +21,8 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int settleTime = 40;  // ms that changes are gathered for
-constexpr int mostUpdates = 50; // nodes; beyond that all is made anew
+constexpr int settleTime = 40;    // ms that changes are gathered for
+constexpr int mostUpdates = 50;   // nodes; beyond that all is made anew
 constexpr int usefulHeight = 340; // of the dock when it opens
 constexpr QSize exportSize(1600, 0);
 
@@ -122,8 +122,7 @@ void PlanActions::Slot_OnExport()
 {
     const QString job = m_window.Document().GetFileName();
     const QFileInfo info(job);
-    const QString start =
-        job.isEmpty() ? tr("plan.svg") : info.absolutePath() + '/' + info.completeBaseName() + ".svg";
+    const QString start = job.isEmpty() ? tr("plan.svg") : info.absolutePath() + '/' + info.completeBaseName() + ".svg";
     QString filter;
     QString fileName = QFileDialog::getSaveFileName(m_dock, tr("Export Frequency Plan"), start,
                                                     tr("Drawing (*.svg);;Picture (*.png)"), &filter);

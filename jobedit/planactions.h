@@ -39,7 +39,7 @@ private:
     QDockWidget* m_dock;
     PlanPane* m_pane;
     QTimer* m_coalesce;
-    bool m_stale = true;      // as a whole
+    bool m_stale = true;     // as a whole
     QSet<QString> m_changed; // paths of the nodes whose values changed since the plan was shown
 };
 

@@ -152,7 +152,8 @@ void PlanPane::ShowSelected()
 {
     const PlanView* view = m_current->SelectedText().isEmpty() ? m_views[m_current == m_views[0]] : m_current;
     const QString text = view->SelectedText();
-    m_selected->setText(text.isEmpty() ? tr("No chain of the plan is selected.") : QString(text).replace('\n', "  \u00b7  "));
+    m_selected->setText(text.isEmpty() ? tr("No chain of the plan is selected.")
+                                       : QString(text).replace('\n', "  \u00b7  "));
     m_selected->setToolTip("<qt>" + text.toHtmlEscaped().replace('\n', "<br>"));
 }
 

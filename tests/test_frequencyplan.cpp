@@ -103,10 +103,11 @@ private Q_SLOTS:
                            "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
                            "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
                            "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"};
-        QTest::newRow("receiver scan")
-            << "TDS_WBRX/CS_WBRX/RECEIVER/"
-            << QStringList{"Panorama: 100 MHz, bandwidth 10 MHz", "Receiver scan 1: 118 MHz to 137 MHz",
-                           "Receiver scan 2: 156 MHz to 162 MHz", "Receive frequency: 100 MHz, bandwidth 120 kHz"};
+        QTest::newRow("receiver scan") << "TDS_WBRX/CS_WBRX/RECEIVER/"
+                                       << QStringList{"Panorama: 100 MHz, bandwidth 10 MHz",
+                                                      "Receiver scan 1: 118 MHz to 137 MHz",
+                                                      "Receiver scan 2: 156 MHz to 162 MHz",
+                                                      "Receive frequency: 100 MHz, bandwidth 120 kHz"};
         QTest::newRow("ranges of channel nodes")
             << "TDS_EXC/CS_RASTER/DETECTOR/"
             << QStringList{"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"};
@@ -143,9 +144,12 @@ private Q_SLOTS:
                 if (value->GetKind() != ValueKind::Frequency || value->GetDescriptor().minimum < 9e3)
                     continue;
                 const qint64 hertz = static_cast<const FrequencyValue&>(*value).GetValue();
-                QVERIFY2(lane && std::ranges::any_of(lane->marks, [&](const PlanMark& mark)
-                                                     { return mark.frequency < 0 ? mark.from == hertz || mark.to == hertz
-                                                                                 : mark.frequency == hertz; }),
+                QVERIFY2(lane && std::ranges::any_of(lane->marks,
+                                                     [&](const PlanMark& mark) {
+                                                         return mark.frequency < 0
+                                                                    ? mark.from == hertz || mark.to == hertz
+                                                                    : mark.frequency == hertz;
+                                                     }),
                          qPrintable(value->GetPathName()));
                 ++seen;
             }
@@ -166,8 +170,8 @@ private Q_SLOTS:
         const QString external = "TDS_EXT/CS_EXT/TUNER/TUNER_EXT_FREQUENCY";
         QTest::newRow("last of HF") << external << "30000000" << true << false;
         QTest::newRow("external receiver above HF") << external << "100000000" << false << true;
-        QTest::newRow("V/UHF device below 30 MHz")
-            << "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY" << "25000000" << false << true;
+        QTest::newRow("V/UHF device below 30 MHz") << "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY"
+                                                   << "25000000" << false << true;
         QTest::newRow("range over both") << "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE"
                                          << "20000000;40000000" << true << true;
     }

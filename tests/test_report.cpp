@@ -51,8 +51,8 @@ Document Read(const QString& fileName)
                 document.ids.insert('#' + attributes.value("id").toString());
             if (attributes.hasAttribute("href"))
                 document.links.insert(attributes.value("href").toString());
-            document.reachesOutside |= attributes.hasAttribute("src") || reader.name() == u"link" ||
-                                       reader.name() == u"script";
+            document.reachesOutside |=
+                attributes.hasAttribute("src") || reader.name() == u"link" || reader.name() == u"script";
             if (reader.name() == u"tr")
             {
                 cells.clear();
@@ -148,28 +148,32 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("cells"); // without the key
         const QString on = "\u25cf";
         const QString tuner = "TDS_HF1/CS_TUNER/TUNER/";
-        QTest::newRow("frequency") << tuner + "TUNER_HF_NB_FREQUENCY" << "7040500"
-                                   << QStringList{on, "Frequency", "7.0405|default: 10 MHz", "MHz"};
-        QTest::newRow("selection") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD" << "4"
-                                   << QStringList{on, "Demodulation", "CW|default: USB", ""};
-        QTest::newRow("selection with a unit") << tuner + "TUNER_HF_NB_AGCDECAY" << "50"
-                                               << QStringList{on, "Decay", "50|default: 500 ms", "ms"};
-        QTest::newRow("unknown key") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD" << "77"
-                                     << QStringList{on, "Demodulation", "77|default: USB", ""};
-        QTest::newRow("several keys") << "JOB_RESOURCES" << "1;5"
-                                      << QStringList{on, "Resources of the job",
-                                                     "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1",
-                                                     ""};
-        QTest::newRow("list of frequencies") << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE" << "3000000;3000100"
-                                             << QStringList{on, "Excluded ranges, pairs, 0 to 100 rows",
-                                                            "3 MHz; 3.0001 MHz|default: empty", ""};
-        QTest::newRow("switch") << tuner + "SCAN_STATUS" << "true" << QStringList{on, "Scan on", "on|default: off", ""};
-        QTest::newRow("emptied text") << "JOB_AUTHOR" << ""
-                                      << QStringList{on, "Author", "|default: Operator 1", ""};
-        QTest::newRow("as by default") << "JOB_AUTHOR" << "Operator 1" << QStringList{"", "Author", "Operator 1", ""};
+        QTest::newRow("frequency") << tuner + "TUNER_HF_NB_FREQUENCY"
+                                   << "7040500" << QStringList{on, "Frequency", "7.0405|default: 10 MHz", "MHz"};
+        QTest::newRow("selection") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
+                                   << "4" << QStringList{on, "Demodulation", "CW|default: USB", ""};
+        QTest::newRow("selection with a unit") << tuner + "TUNER_HF_NB_AGCDECAY"
+                                               << "50" << QStringList{on, "Decay", "50|default: 500 ms", "ms"};
+        QTest::newRow("unknown key") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
+                                     << "77" << QStringList{on, "Demodulation", "77|default: USB", ""};
+        QTest::newRow("several keys")
+            << "JOB_RESOURCES"
+            << "1;5"
+            << QStringList{on, "Resources of the job",
+                           "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""};
+        QTest::newRow("list of frequencies")
+            << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE"
+            << "3000000;3000100"
+            << QStringList{on, "Excluded ranges, pairs, 0 to 100 rows", "3 MHz; 3.0001 MHz|default: empty", ""};
+        QTest::newRow("switch") << tuner + "SCAN_STATUS"
+                                << "true" << QStringList{on, "Scan on", "on|default: off", ""};
+        QTest::newRow("emptied text") << "JOB_AUTHOR"
+                                      << "" << QStringList{on, "Author", "|default: Operator 1", ""};
+        QTest::newRow("as by default") << "JOB_AUTHOR"
+                                       << "Operator 1" << QStringList{"", "Author", "Operator 1", ""};
         QTest::newRow("label with a colon and a unit of the panel")
-            << "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency" << "10010000"
-            << QStringList{"", "Emitter2, Frequency", "10.01", "MHz"};
+            << "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency"
+            << "10010000" << QStringList{"", "Emitter2, Frequency", "10.01", "MHz"};
     }
     void contentsAreShownAsPeopleReadThem()
     {
