@@ -335,6 +335,32 @@ private Q_SLOTS:
         QTRY_VERIFY(Hf().SelectedText().contains("Simulated emitter 2: 12.345678 MHz"));
     }
 
+    void aPlanBehindAnotherTabComesToTheFront()
+    {
+        ShowPlan();
+        m_window->findChild<QDockWidget*>("messageDock")->raise();
+        QTRY_VERIFY(Hf().visibleRegion().isEmpty());
+        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTRY_VERIFY(!Hf().visibleRegion().isEmpty());
+    }
+
+    void theToolTipTellsWhatIsThere()
+    {
+        ShowPlan();
+        Hf().SelectPath(tunerPath);
+        const auto textAt = [&](const QPoint& place)
+        {
+            QHelpEvent event(QEvent::ToolTip, place, Hf().viewport()->mapToGlobal(place));
+            QApplication::sendEvent(Hf().viewport(), &event);
+            return QToolTip::text();
+        };
+        const QString text = textAt(Hf().PlaceOf(tunerPath, 10e6));
+        QVERIFY2(text.contains(tunerPath) && text.contains("Receive frequency: 10 MHz, bandwidth 2.7 kHz"),
+                 qPrintable(text));
+        QVERIFY(!text.contains("Scan"));
+        QVERIFY(textAt(Hf().PlaceOf(tunerPath, 3.2e6)).contains("Scan: 3 MHz to 3.5 MHz (switched off)"));
+    }
+
     void aPlanThatWasHiddenIsUpToDateWhenShown()
     {
         ShowPlan();
