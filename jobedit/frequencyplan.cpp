@@ -249,8 +249,8 @@ FrequencyPlan FrequencyPlan::Of(const std::vector<JobNode>& nodes, const TKE::Tr
         if (marks.empty())
             continue;
         const int section = SectionOf(nodes, index);
-        plan.m_lanes.push_back({node.path, TitleBelow(nodes, section, index), nodes[size_t(section)].name, node.type,
-                                node.band, marks});
+        plan.m_lanes.push_back(
+            {node.path, TitleBelow(nodes, section, index), nodes[size_t(section)].name, node.type, node.band, marks});
     }
     return plan;
 }

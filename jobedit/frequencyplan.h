@@ -28,9 +28,9 @@ struct PlanMark
     static constexpr int kindCount = 6;
 
     Kind kind;
-    bool active;  ///< false: the job describes it but does not use it, for its switch is off
+    bool active;   ///< false: the job describes it but does not use it, for its switch is off
     quint8 source; ///< which value it comes from
-    int number;   ///< of its channel or row, from 1; 0 when there is one only
+    int number;    ///< of its channel or row, from 1; 0 when there is one only
     qint64 from;
     qint64 to;
     qint64 frequency; ///< the middle of a tuned bandwidth; -1 for a range

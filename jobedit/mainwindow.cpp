@@ -531,6 +531,7 @@ bool MainWindow::Fail(const QString& text, const TKE::FileError& error)
 {
     m_messages->Add(TKE::Severity::Error, text, error.ToText());
     m_messageDock->show();
+    m_messageDock->raise();
     // Before the window is up there is nobody to press a button: the message waits in the list.
     if (isVisible())
         QMessageBox(QMessageBox::Critical, tr("Job Editor"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this)

@@ -21,8 +21,8 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int settleTime = 40;  // ms that changes are gathered for
-constexpr int mostUpdates = 50; // nodes; beyond that all is made anew
+constexpr int settleTime = 40;    // ms that changes are gathered for
+constexpr int mostUpdates = 50;   // nodes; beyond that all is made anew
 constexpr int usefulHeight = 340; // of the dock when it opens
 constexpr QSize exportSize(1600, 0);
 
@@ -42,42 +42,48 @@ PlanActions::PlanActions(MainWindow& window)
         window.tabifyDockWidget(messages, m_dock);
     m_dock->hide();
 
-    QAction* show = m_dock->toggleViewAction();
-    show->setText(tr("&Frequency Plan"));
+    // Not the action of the dock: behind another tab it counts as shown there, and would be closed instead of brought
+    // to the front.
+    auto* show = new QAction(tr("&Frequency Plan"), this);
+    show->setCheckable(true);
     show->setShortcut(QKeySequence(Qt::Key_F8));
     window.ViewMenu()->addAction(show);
-    connect(show, &QAction::triggered, this,
-            [this](bool shown)
+    connect(show, &QAction::triggered, this, &PlanActions::Show);
+    connect(m_dock, &QDockWidget::visibilityChanged, show, &QAction::setChecked);
+    connect(m_dock, &QDockWidget::visibilityChanged, this,
+            [this](bool inSight)
             {
-                if (!shown)
-                    return;
-                m_dock->raise();
-                if (!m_dock->isFloating() && m_dock->height() < usefulHeight)
-                    m_window.resizeDocks({m_dock}, {usefulHeight}, Qt::Vertical);
-                Refresh();
-                m_pane->FocusView();
+                m_inSight = inSight;
+                if (inSight)
+                    Refresh();
             });
 
     m_coalesce->setSingleShot(true);
     m_coalesce->setInterval(settleTime);
     connect(m_coalesce, &QTimer::timeout, this, &PlanActions::Refresh);
-    connect(m_dock, &QDockWidget::visibilityChanged, this,
-            [this](bool visible)
-            {
-                if (visible)
-                    Refresh();
-            });
     connect(&window.Document(), &JobDocument::ContentChanged, this, &PlanActions::Slot_OnContentChanged);
     connect(&window.Document(), &JobDocument::NodesChanged, this, &PlanActions::Slot_OnJobChanged);
     connect(&window.Document(), &JobDocument::Replaced, this, &PlanActions::Slot_OnJobChanged);
     connect(&window.Nodes(), &NodePane::CurrentChanged, this,
             [this]
             {
-                if (const JobNode* node = m_window.Nodes().GetCurrentNode(); node && m_dock->isVisible())
-                    m_pane->SelectPath(node->path);
+                if (m_inSight)
+                    FollowSelection();
             });
     connect(m_pane, &PlanPane::NodeChosen, &window.Nodes(), &NodePane::SelectNode);
     connect(m_pane, &PlanPane::ExportRequested, this, &PlanActions::Slot_OnExport);
+}
+
+void PlanActions::Show(bool on)
+{
+    m_dock->setVisible(on);
+    if (!on)
+        return;
+    m_dock->raise();
+    if (!m_dock->isFloating() && m_dock->height() < usefulHeight)
+        m_window.resizeDocks({m_dock}, {usefulHeight}, Qt::Vertical);
+    Refresh();
+    m_pane->FocusView();
 }
 
 bool PlanActions::ExportTo(const QString& fileName)
@@ -107,14 +113,14 @@ void PlanActions::Slot_OnContentChanged(const TKE::ValueBase& value)
     m_changed.insert(value.GetNode()->GetBasePath());
     if (m_changed.size() > mostUpdates)
         m_stale = true;
-    if (m_dock->isVisible() && !m_coalesce->isActive())
+    if (m_inSight && !m_coalesce->isActive())
         m_coalesce->start();
 }
 
 void PlanActions::Slot_OnJobChanged()
 {
     m_stale = true;
-    if (m_dock->isVisible() && !m_coalesce->isActive())
+    if (m_inSight && !m_coalesce->isActive())
         m_coalesce->start();
 }
 
@@ -122,8 +128,7 @@ void PlanActions::Slot_OnExport()
 {
     const QString job = m_window.Document().GetFileName();
     const QFileInfo info(job);
-    const QString start =
-        job.isEmpty() ? tr("plan.svg") : info.absolutePath() + '/' + info.completeBaseName() + ".svg";
+    const QString start = job.isEmpty() ? tr("plan.svg") : info.absolutePath() + '/' + info.completeBaseName() + ".svg";
     QString filter;
     QString fileName = QFileDialog::getSaveFileName(m_dock, tr("Export Frequency Plan"), start,
                                                     tr("Drawing (*.svg);;Picture (*.png)"), &filter);
@@ -136,17 +141,23 @@ void PlanActions::Slot_OnExport()
 
 void PlanActions::Refresh()
 {
-    if (!m_stale && m_changed.isEmpty())
-        return;
     m_coalesce->stop();
-    FrequencyPlan plan = m_pane->GetPlan();
-    for (const QString& path : std::as_const(m_changed))
-        m_stale = m_stale || !plan.Update(path, *TKE::Tree::Instance());
-    if (m_stale)
-        plan = FrequencyPlan::Of(m_window.Document().GetNodes(), *TKE::Tree::Instance());
-    m_stale = false;
-    m_changed.clear();
-    m_pane->SetPlan(std::move(plan));
+    if (m_stale || !m_changed.isEmpty())
+    {
+        FrequencyPlan plan = m_pane->GetPlan();
+        for (const QString& path : std::as_const(m_changed))
+            m_stale = m_stale || !plan.Update(path, *TKE::Tree::Instance());
+        if (m_stale)
+            plan = FrequencyPlan::Of(m_window.Document().GetNodes(), *TKE::Tree::Instance());
+        m_stale = false;
+        m_changed.clear();
+        m_pane->SetPlan(std::move(plan));
+    }
+    FollowSelection();
+}
+
+void PlanActions::FollowSelection()
+{
     if (const JobNode* node = m_window.Nodes().GetCurrentNode())
         m_pane->SelectPath(node->path);
 }

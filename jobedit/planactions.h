@@ -33,13 +33,16 @@ private:
     void Slot_OnContentChanged(const TKE::ValueBase& value);
     void Slot_OnJobChanged();
     void Slot_OnExport();
+    void Show(bool on);
     void Refresh();
+    void FollowSelection();
 
     MainWindow& m_window;
     QDockWidget* m_dock;
     PlanPane* m_pane;
     QTimer* m_coalesce;
-    bool m_stale = true;      // as a whole
+    bool m_inSight = false;  // shown and not behind another tab
+    bool m_stale = true;     // as a whole
     QSet<QString> m_changed; // paths of the nodes whose values changed since the plan was shown
 };
 

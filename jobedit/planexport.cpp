@@ -58,8 +58,8 @@ int PlanPicture::HeightFor(int width) const
 {
     int height = 2 * margin + 2 * QFontMetrics(QGuiApplication::font()).height();
     for (const Section& section : m_sections)
-        height += section.painter.AxisHeight() + int(section.painter.GetRows().size()) * section.painter.RowHeight() +
-                  margin;
+        height +=
+            section.painter.AxisHeight() + int(section.painter.GetRows().size()) * section.painter.RowHeight() + margin;
     if (!m_sections.empty())
         height += m_sections.front().painter.LegendHeight(width - 2 * margin);
     return height;
@@ -127,8 +127,8 @@ bool PlanPicture::WriteSvg(QIODevice& device, const QSize& size) const
     generator.setSize(size);
     generator.setViewBox(QRect({}, size));
     generator.setResolution(96);
-    generator.setTitle(m_title);
-    generator.setDescription(tr("Frequency plan of a job"));
+    // Written as it stands, so nothing that comes from the job: a file name could break the XML.
+    generator.setTitle(tr("Frequency plan of a job"));
     QPainter painter;
     if (!painter.begin(&generator))
         return false;
@@ -140,9 +140,8 @@ bool PlanPicture::WritePng(QIODevice& device, const QSize& size, QString& reason
 {
     if (size.height() > mostPixels || size.width() > mostPixels)
     {
-        reason = tr("A PNG of %1 by %2 points is too large; an SVG has no such limit.")
-                     .arg(size.width())
-                     .arg(size.height());
+        reason =
+            tr("A PNG of %1 by %2 points is too large; an SVG has no such limit.").arg(size.width()).arg(size.height());
         return false;
     }
     QImage image(size, QImage::Format_RGB32);

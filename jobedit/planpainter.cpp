@@ -165,20 +165,21 @@ void PlanPainter::PaintRow(QPainter& painter, const QRectF& area, const PlanScal
     const QRectF title(area.left(), area.top(), scale.left - area.left(), area.height());
     if (current)
         painter.fillRect(title, m_palette.color(QPalette::Highlight));
-    painter.setPen(m_palette.color(current             ? QPalette::HighlightedText
+    painter.setPen(m_palette.color(current           ? QPalette::HighlightedText
                                    : shown.isHeading ? QPalette::WindowText
                                                      : QPalette::Text));
     // A heading has the whole row for itself.
     const QRectF text = (shown.isHeading ? area : title).adjusted(shown.isHeading ? gap : 2 * gap, 0.0, -gap, 0.0);
-    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
-                     QFontMetricsF(font).elidedText(shown.isHeading ? lane.group : lane.title, Qt::ElideMiddle,
-                                                    text.width()));
+    painter.drawText(
+        text, Qt::AlignVCenter | Qt::AlignLeft,
+        QFontMetricsF(font).elidedText(shown.isHeading ? lane.group : lane.title, Qt::ElideMiddle, text.width()));
     if (!shown.isHeading)
     {
         const QRectF field(scale.left, area.top(), scale.width, area.height());
         painter.setClipRect(field);
         painter.setPen(QPen(m_palette.color(QPalette::Mid), 0.5, Qt::DotLine));
-        for (const PlanScale::Tick& tick : scale.Ticks(QFontMetricsF(m_font).horizontalAdvance("0000.000 MHz") + 2 * gap))
+        for (const PlanScale::Tick& tick :
+             scale.Ticks(QFontMetricsF(m_font).horizontalAdvance("0000.000 MHz") + 2 * gap))
             if (!tick.text.isEmpty())
                 painter.drawLine(QPointF(scale.XOf(tick.hertz), area.top()),
                                  QPointF(scale.XOf(tick.hertz), area.bottom()));
@@ -315,9 +316,10 @@ void PlanPainter::PaintLegend(QPainter& painter, const QRectF& area) const
         const QRectF place = places[size_t(kind)].translated(area.topLeft());
         const QRectF swatch(place.left(), place.top() + 1, swatchWidth, place.height() - 2);
         const bool isOff = kind == PlanMark::kindCount;
-        const bool isRange = kind == int(Kind::Wideband) || kind == int(Kind::Range) || kind == int(Kind::Excluded) || isOff;
-        const PlanMark mark{isOff ? Kind::Range : Kind(kind), !isOff, 0, 0, isRange ? 4 : 40, isRange ? 96 : 60,
-                            isRange ? -1 : 50};
+        const bool isRange =
+            kind == int(Kind::Wideband) || kind == int(Kind::Range) || kind == int(Kind::Excluded) || isOff;
+        const PlanMark mark{
+            isOff ? Kind::Range : Kind(kind), !isOff, 0, 0, isRange ? 4 : 40, isRange ? 96 : 60, isRange ? -1 : 50};
         PaintMark(painter, swatch, {0.0, 100.0, swatch.left(), swatch.width()}, mark);
         painter.setPen(m_palette.color(QPalette::WindowText));
         painter.drawText(place.adjusted(swatchWidth + gap, 0.0, 0.0, 0.0), Qt::AlignVCenter | Qt::AlignLeft,

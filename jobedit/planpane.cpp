@@ -35,17 +35,17 @@ PlanPane::PlanPane(QWidget* parent)
     : QWidget(parent)
     , m_views{new PlanView(TKE::Band::Hf), new PlanView(TKE::Band::Vuhf)}
     , m_current(m_views[0])
+    , m_splitter(new QSplitter(Qt::Vertical, this))
     , m_legend(new Legend(m_views[0]->Painter(), this))
     , m_selected(new QLabel(this))
 {
     auto* bar = new QWidget(this);
     AddButtons(bar);
 
-    auto* splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setChildrenCollapsible(false);
+    m_splitter->setChildrenCollapsible(false);
     for (PlanView* view : m_views)
     {
-        splitter->addWidget(view);
+        m_splitter->addWidget(view);
         connect(view, &PlanView::NodeChosen, this, &PlanPane::NodeChosen);
         connect(view, &PlanView::SelectionChanged, this,
                 [this, view]
@@ -69,10 +69,17 @@ PlanPane::PlanPane(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     layout->addWidget(bar);
-    layout->addWidget(splitter, 1);
+    layout->addWidget(m_splitter, 1);
     layout->addWidget(m_legend);
     layout->addWidget(m_selected);
     ShowSelected();
+}
+
+void PlanPane::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // In a low dock the bands stand side by side, or neither would show more than a few chains.
+    m_splitter->setOrientation(width() > 2 * height() ? Qt::Horizontal : Qt::Vertical);
 }
 
 void PlanPane::AddButtons(QWidget* bar)
@@ -152,7 +159,8 @@ void PlanPane::ShowSelected()
 {
     const PlanView* view = m_current->SelectedText().isEmpty() ? m_views[m_current == m_views[0]] : m_current;
     const QString text = view->SelectedText();
-    m_selected->setText(text.isEmpty() ? tr("No chain of the plan is selected.") : QString(text).replace('\n', "  \u00b7  "));
+    m_selected->setText(text.isEmpty() ? tr("No chain of the plan is selected.")
+                                       : QString(text).replace('\n', "  \u00b7  "));
     m_selected->setToolTip("<qt>" + text.toHtmlEscaped().replace('\n', "<br>"));
 }
 

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QSplitter;
 
 namespace JOBEDIT
 {
@@ -12,8 +13,8 @@ namespace JOBEDIT
 class PlanPicture;
 class PlanView;
 
-/// The frequency plan of a job: a view per band that has chains, buttons above them, the legend and what the selected
-/// chain does below.
+/// The frequency plan of a job: a view per band that has chains, above one another or side by side, buttons above them,
+/// the legend and what the selected chain does below.
 class PlanPane : public QWidget
 {
     Q_OBJECT
@@ -36,6 +37,9 @@ signals:
     void NodeChosen(const QString& path);
     void ExportRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     class Legend;
 
@@ -47,6 +51,7 @@ private:
     FrequencyPlan m_plan;
     PlanView* m_views[2];
     PlanView* m_current;
+    QSplitter* m_splitter;
     Legend* m_legend;
     QLabel* m_selected;
 };

@@ -30,6 +30,7 @@ PlanView::PlanView(TKE::Band band, QWidget* parent) : QAbstractScrollArea(parent
 {
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::StyledPanel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or zooming would change the height
     setAccessibleName(band == TKE::Band::Hf ? tr("Frequency plan of the HF chains")
                                             : tr("Frequency plan of the V/UHF chains"));
     setAccessibleDescription(tr("Up and Down go through the chains, Return opens one; plus and minus zoom, Left and "
@@ -157,8 +158,8 @@ int PlanView::RowAt(const QPoint& position) const
 
 QRect PlanView::RectOf(int row) const
 {
-    return {0, m_painter.AxisHeight() + row * m_painter.RowHeight() - verticalScrollBar()->value(),
-            viewport()->width(), m_painter.RowHeight()};
+    return {0, m_painter.AxisHeight() + row * m_painter.RowHeight() - verticalScrollBar()->value(), viewport()->width(),
+            m_painter.RowHeight()};
 }
 
 int PlanView::SelectedRow() const
@@ -210,8 +211,7 @@ QString PlanView::TextAt(const QPoint& position) const
     QStringList lines{lane->path, tr("Type: %1").arg(lane->type)};
     if (position.x() < m_scale.left)
         return lines.join('\n');
-    const auto marks =
-        m_painter.MarksAt(row, m_scale.HertzAt(position.x()), m_scale.HertzPerPixel() * reach);
+    const auto marks = m_painter.MarksAt(row, m_scale.HertzAt(position.x()), m_scale.HertzPerPixel() * reach);
     for (size_t index = 0; index < std::min(marks.size(), mostInToolTip); ++index)
         lines << FrequencyPlan::MarkText(*marks[index]);
     if (marks.size() > mostInToolTip)

@@ -9,9 +9,9 @@ namespace JOBEDIT
 
 /// The lanes of one band on a frequency axis that can be zoomed and moved.
 ///
-/// Mouse: the wheel zooms around the cursor (beside the axis, or with Ctrl, it scrolls), dragging moves, a click chooses
-/// the chain. Keys: + and - zoom, Left and Right move, Home shows all, * the selected chain, Up and Down go through
-/// the chains, Return chooses. Only the rows in sight are painted.
+/// Mouse: the wheel zooms around the cursor (beside the axis, or with Ctrl, it scrolls), dragging moves, a click
+/// chooses the chain. Keys: + and - zoom, Left and Right move, Home shows all, * the selected chain, Up and Down go
+/// through the chains, Return chooses. Only the rows in sight are painted.
 class PlanView : public QAbstractScrollArea
 {
     Q_OBJECT

@@ -63,12 +63,12 @@ void ReportActions::Slot_OnReport()
 
     const QString suffix = pdf->isChecked() ? ".pdf" : ".html";
     const QString job = m_window.Document().GetFileName();
-    const QString start = job.isEmpty() ? tr("report") + suffix
-                                        : QDir(QFileInfo(job).absolutePath())
-                                              .filePath(QFileInfo(job).completeBaseName() + suffix);
-    QString fileName = QFileDialog::getSaveFileName(
-        &m_window, tr("Save Report"), start,
-        pdf->isChecked() ? tr("PDF documents (*.pdf)") : tr("HTML documents (*.html *.htm)"));
+    const QString start =
+        job.isEmpty() ? tr("report") + suffix
+                      : QDir(QFileInfo(job).absolutePath()).filePath(QFileInfo(job).completeBaseName() + suffix);
+    QString fileName = QFileDialog::getSaveFileName(&m_window, tr("Save Report"), start,
+                                                    pdf->isChecked() ? tr("PDF documents (*.pdf)")
+                                                                     : tr("HTML documents (*.html *.htm)"));
     if (fileName.isEmpty())
         return;
     if (QFileInfo(fileName).suffix().isEmpty())

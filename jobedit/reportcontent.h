@@ -42,7 +42,7 @@ public:
         QString name{};  ///< with those of nodes above it that have no section
         QString type{};  ///< type text
         QString title{}; ///< of the chain's dialog; empty where there is none
-        int depth = 0; ///< sections above it
+        int depth = 0;   ///< sections above it
         qint64 values = 0;
         qint64 changed = 0;
     };

@@ -117,8 +117,9 @@ void ReportPdf::AddTitle()
     for (const ReportContent::Fact& fact : m_content.GetFacts())
         AddCells({{0.0, 0.32, fact.name, Font::Body}, {0.33, 0.67, fact.text, Font::Body}}, false);
     m_top += 6 * point;
-    AddCells({{labelLeft, 1.0 - labelLeft, tr("Marked and in bold: values that differ from their default."), Font::Bold}},
-             true);
+    AddCells(
+        {{labelLeft, 1.0 - labelLeft, tr("Marked and in bold: values that differ from their default."), Font::Bold}},
+        true);
 }
 
 void ReportPdf::AddContents()
@@ -194,10 +195,10 @@ void ReportPdf::AddRow(const ReportContent::Row& row)
               {keyLeft, keyWidth, row.key, Font::Small}},
              row.isChanged);
     if (row.isChanged)
-        AddCells({{valueLeft, valueWidth,
-                   row.defaultText.isEmpty() ? tr("default: empty") : tr("default: %1").arg(row.defaultText),
-                   Font::Small}},
-                 true);
+        AddCells(
+            {{valueLeft, valueWidth,
+              row.defaultText.isEmpty() ? tr("default: empty") : tr("default: %1").arg(row.defaultText), Font::Small}},
+            true);
     if (m_painter)
     {
         m_painter->setPen(QPen(rule, 0.3 * point));

@@ -71,9 +71,9 @@ private:
     double m_height = 0.0;
     double m_top = 0.0; // of the next line
     int m_page = 0;
-    int m_pageCount = 0;           // known after the first run
-    bool m_inTable = false;        // a page that begins repeats the head of the table
-    std::vector<int> m_pages;      // of the sections
+    int m_pageCount = 0;      // known after the first run
+    bool m_inTable = false;   // a page that begins repeats the head of the table
+    std::vector<int> m_pages; // of the sections
 };
 
 } // namespace JOBEDIT

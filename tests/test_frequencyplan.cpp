@@ -1,7 +1,436 @@
+#include "jobedit/frequencyplan.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/nodepane.h"
+#include "jobedit/planactions.h"
+#include "jobedit/planexport.h"
+#include "jobedit/planpane.h"
+#include "jobedit/planview.h"
+
+#include <QSignalSpy>
 #include <QTest>
+#include <QXmlStreamReader>
+#include <QtWidgets>
+#include <algorithm>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString job = QStringLiteral("/Jobs/Demo/");
+const QString tunerPath = job + "TDS_HF1/CS_TUNER/TUNER/";
+
+const PlanLane* LaneOf(const FrequencyPlan& plan, const QString& path)
+{
+    const auto found = std::ranges::find(plan.GetLanes(), path, &PlanLane::path);
+    return found == plan.GetLanes().end() ? nullptr : &*found;
+}
+
+void Set(const QString& path, const QString& stored)
+{
+    ValueBase* value = Tree::Instance()->FindValue(path);
+    QVERIFY2(value && value->SetStoredText(stored), qPrintable(path));
+}
+
+/// Brings the mouse over `place` and turns the wheel there.
+void Turn(PlanView& view, const QPoint& place, int steps, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget* port = view.viewport();
+    QWheelEvent event(place, port->mapToGlobal(place), {}, {0, 120 * steps}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(port, &event);
+}
+
+} // namespace
+
 class TestFrequencyPlan : public QObject
 {
     Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MainWindow> m_window;
+
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+    FrequencyPlan Plan() const { return FrequencyPlan::Of(m_window->Document().GetNodes(), *Tree::Instance()); }
+    PlanPane& Pane() const { return m_window->findChild<PlanActions*>()->Pane(); }
+    PlanView& Hf() const { return *Pane().View(Band::Hf); }
+    void ShowPlan()
+    {
+        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QVERIFY(Hf().isVisible() && Hf().hasFocus());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("frequencyplan");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        QSettings().clear();
+        m_window = std::make_unique<MainWindow>(JobModel::Load());
+        m_window->resize(1300, 1000);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(m_window->NewFromSample());
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void aChainsLaneSaysWhatItDoes_data()
+    {
+        QTest::addColumn<QString>("node");
+        QTest::addColumn<QStringList>("marks");
+        QTest::newRow("tuner with a scan that is off")
+            << "TDS_HF1/CS_TUNER/TUNER/"
+            << QStringList{"Scan: 3 MHz to 3.5 MHz (switched off)", "Receive frequency: 10 MHz, bandwidth 2.7 kHz",
+                           "Scan list 1: 3.5 MHz (switched off)", "Scan list 2: 5.732 MHz (switched off)",
+                           "Scan list 3: 6.501 MHz (switched off)"};
+        QTest::newRow("down-converter in a wideband")
+            << "TDS_HFWB/CS_VOICE/VOICE/"
+            << QStringList{"Wideband reception: 8 MHz, bandwidth 2 MHz",
+                           "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
+                           "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
+                           "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"};
+        QTest::newRow("receiver scan") << "TDS_WBRX/CS_WBRX/RECEIVER/"
+                                       << QStringList{"Panorama: 100 MHz, bandwidth 10 MHz",
+                                                      "Receiver scan 1: 118 MHz to 137 MHz",
+                                                      "Receiver scan 2: 156 MHz to 162 MHz",
+                                                      "Receive frequency: 100 MHz, bandwidth 120 kHz"};
+        QTest::newRow("ranges of channel nodes")
+            << "TDS_EXC/CS_RASTER/DETECTOR/"
+            << QStringList{"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"};
+        QTest::newRow("emitters") << "TDS_EXC/CS_SIM/SIMULATION/"
+                                  << QStringList{"Simulated emitter 1: 10 MHz", "Simulated emitter 2: 10.01 MHz",
+                                                 "Simulated emitter 3: 10.02 MHz"};
+    }
+    void aChainsLaneSaysWhatItDoes()
+    {
+        QFETCH(QString, node);
+        QFETCH(QStringList, marks);
+        const FrequencyPlan plan = Plan();
+        const PlanLane* lane = LaneOf(plan, job + node);
+        QVERIFY(lane);
+        QStringList found;
+        for (const PlanMark& mark : lane->marks)
+            found << FrequencyPlan::MarkText(mark);
+        QCOMPARE(found, marks);
+        QCOMPARE(lane->group + '/' + lane->title + '/', node);
+    }
+
+    void noFrequencyOfTheJobIsForgotten()
+    {
+        // Every value that can be a frequency of a band is an edge or the middle of a mark of its chain.
+        int seen = 0;
+        const FrequencyPlan plan = Plan();
+        const std::function<void(const Node&, const PlanLane*)> look = [&](const Node& node, const PlanLane* lane)
+        {
+            if (const PlanLane* own = LaneOf(plan, node.GetBasePath()))
+                lane = own;
+            for (const auto& value : node.GetValues())
+            {
+                // Widths, steps and intermediate frequencies may be 0 or very low.
+                if (value->GetKind() != ValueKind::Frequency || value->GetDescriptor().minimum < 9e3)
+                    continue;
+                const qint64 hertz = static_cast<const FrequencyValue&>(*value).GetValue();
+                QVERIFY2(lane && std::ranges::any_of(lane->marks,
+                                                     [&](const PlanMark& mark) {
+                                                         return mark.frequency < 0
+                                                                    ? mark.from == hertz || mark.to == hertz
+                                                                    : mark.frequency == hertz;
+                                                     }),
+                         qPrintable(value->GetPathName()));
+                ++seen;
+            }
+            for (const auto& child : node.GetNodes())
+                look(*child, lane);
+        };
+        for (const Node* top : Tree::Instance()->GetTopNodes())
+            look(*top, nullptr);
+        QVERIFY(seen > 60);
+    }
+
+    void aMarkStandsOnTheAxisOfItsBand_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("content");
+        QTest::addColumn<bool>("onHf");
+        QTest::addColumn<bool>("onVuhf");
+        const QString external = "TDS_EXT/CS_EXT/TUNER/TUNER_EXT_FREQUENCY";
+        QTest::newRow("last of HF") << external << "30000000" << true << false;
+        QTest::newRow("external receiver above HF") << external << "100000000" << false << true;
+        QTest::newRow("V/UHF device below 30 MHz") << "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY"
+                                                   << "25000000" << false << true;
+        QTest::newRow("range over both") << "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE"
+                                         << "20000000;40000000" << true << true;
+    }
+    void aMarkStandsOnTheAxisOfItsBand()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, content);
+        QFETCH(bool, onHf);
+        QFETCH(bool, onVuhf);
+        Set(job + value, content);
+        const FrequencyPlan plan = Plan();
+        const PlanLane* lane = LaneOf(plan, job + value.left(value.lastIndexOf('/') + 1));
+        QVERIFY(lane);
+        const qint64 first = content.section(';', 0, 0).toLongLong();
+        const auto mark = std::ranges::find_if(
+            lane->marks, [&](const PlanMark& candidate)
+            { return candidate.frequency == first || (candidate.frequency < 0 && candidate.from == first); });
+        QVERIFY(mark != lane->marks.end());
+        QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Hf), onHf);
+        QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Vuhf), onVuhf);
+    }
+
+    void frequenciesReadExactly_data()
+    {
+        QTest::addColumn<qint64>("hertz");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("zero") << qint64(0) << "0 Hz";
+        QTest::newRow("below 1 kHz") << qint64(999) << "999 Hz";
+        QTest::newRow("kHz") << qint64(12500) << "12,5 kHz";
+        QTest::newRow("MHz") << qint64(433'920'001) << "433,920001 MHz";
+        QTest::newRow("GHz to the last Hz") << qint64(1'234'567'891) << "1,234567891 GHz";
+        QTest::newRow("round") << qint64(3'000'000'000) << "3 GHz";
+    }
+    void frequenciesReadExactly()
+    {
+        QFETCH(qint64, hertz);
+        QLocale::setDefault(QLocale(QLocale::German));
+        QTEST(FrequencyPlan::FrequencyText(hertz), "text");
+    }
+
+    void theAxisHasRoundFrequenciesThatDoNotTouch_data()
+    {
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        QTest::addColumn<QString>("text"); // one that is there
+        QTest::newRow("HF") << 0.0 << 30e6 << "15 MHz";
+        QTest::newRow("a channel") << 10.0e6 << 10.005e6 << "10001 kHz";
+        QTest::newRow("broadcast") << 87.5e6 << 108e6 << "90 MHz";
+        QTest::newRow("a V/UHF channel") << 145.0e6 << 145.05e6 << "145.02 MHz";
+        QTest::newRow("up to 3 GHz") << 20e6 << 3e9 << "1.0 GHz";
+    }
+    void theAxisHasRoundFrequenciesThatDoNotTouch()
+    {
+        QFETCH(double, from);
+        QFETCH(double, to);
+        const PlanScale scale{from, to, 100.0, 900.0};
+        QStringList texts;
+        double last = -1e9;
+        for (const PlanScale::Tick& tick : scale.Ticks(100.0))
+        {
+            QVERIFY(tick.hertz >= from - 1e-3 && tick.hertz <= to);
+            if (tick.text.isEmpty())
+                continue;
+            texts << tick.text;
+            QVERIFY(scale.XOf(tick.hertz) - last >= 100.0 - 1e-6);
+            last = scale.XOf(tick.hertz);
+        }
+        QVERIFY(texts.size() >= 2 && texts.size() <= 10);
+        QFETCH(QString, text);
+        QVERIFY2(texts.contains(text), qPrintable(texts.join(", ")));
+    }
+
+    void theWheelZoomsAroundTheCursor()
+    {
+        ShowPlan();
+        const QPoint place = Hf().PlaceOf(tunerPath, 10e6);
+        const auto before = Hf().GetRange();
+        Turn(Hf(), {place.x(), 60}, 3);
+        const auto after = Hf().GetRange();
+        QVERIFY(after.second - after.first < 0.6 * (before.second - before.first));
+        QVERIFY(std::abs(Hf().PlaceOf(tunerPath, 10e6).x() - place.x()) <= 1);
+        // Never out of the band, however far.
+        Turn(Hf(), {place.x(), 60}, -40);
+        QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
+        Turn(Hf(), {place.x(), 60}, 200);
+        QVERIFY(Hf().GetRange().second - Hf().GetRange().first >= 999.0);
+    }
+
+    void keysZoomAndMove()
+    {
+        ShowPlan();
+        QTest::keyClick(&Hf(), Qt::Key_Plus);
+        const auto zoomed = Hf().GetRange();
+        QCOMPARE(zoomed.second - zoomed.first, 20e6);
+        QTest::keyClick(&Hf(), Qt::Key_Right);
+        QCOMPARE(Hf().GetRange().first, zoomed.first + 2e6);
+        QTest::keyClick(&Hf(), Qt::Key_Left);
+        QCOMPARE(Hf().GetRange(), zoomed);
+        QTest::keyClick(&Hf(), Qt::Key_Minus);
+        QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
+        QTest::keyClick(&Hf(), Qt::Key_Plus);
+        QTest::keyClick(&Hf(), Qt::Key_Home);
+        QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
+        Hf().SelectPath(job + "TDS_MSCAN_HF/CS_MEMORY/MEMORYSCAN/");
+        QTest::keyClick(&Hf(), Qt::Key_Asterisk);
+        QVERIFY(Hf().GetRange().first > 3e6 && Hf().GetRange().first < 3.5e6);
+        QVERIFY(Hf().GetRange().second > 5.25e6 && Hf().GetRange().second < 5.6e6);
+    }
+
+    void draggingMovesWithTheMouseAndChoosesNothing()
+    {
+        ShowPlan();
+        Hf().SetRange(5e6, 15e6);
+        Hf().SelectPath(tunerPath);
+        const QSignalSpy chosen(&Hf(), &PlanView::NodeChosen);
+        const QPoint place = Hf().PlaceOf(tunerPath, 10e6);
+        QTest::mousePress(Hf().viewport(), Qt::LeftButton, {}, place);
+        QMouseEvent move(QEvent::MouseMove, place + QPoint(80, 0), Hf().viewport()->mapToGlobal(place + QPoint(80, 0)),
+                         Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(Hf().viewport(), &move);
+        QTest::mouseRelease(Hf().viewport(), Qt::LeftButton, {}, place + QPoint(80, 0));
+        QCOMPARE(Hf().PlaceOf(tunerPath, 10e6).x(), place.x() + 80);
+        QVERIFY(chosen.isEmpty());
+    }
+
+    void aClickOrReturnSelectsTheNode()
+    {
+        ShowPlan();
+        Hf().SelectPath(tunerPath); // scrolls to it
+        m_window->Nodes().SelectNode(job + "TDS_HFWB/CS_VOICE/VOICE/");
+        QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_VOICE/VOICE/");
+        Hf().SelectPath(tunerPath);
+        QTest::mouseClick(Hf().viewport(), Qt::LeftButton, {}, Hf().PlaceOf(tunerPath, 20e6));
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        // From the last chain of a section to the first of the next: the heading is passed over.
+        QTest::keyClick(&Hf(), Qt::Key_Down);
+        QTest::keyClick(&Hf(), Qt::Key_Down);
+        QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QTest::keyClick(&Hf(), Qt::Key_Return);
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
+        QTest::keyClick(&Hf(), Qt::Key_Up);
+        QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HF1/CS_VOICE/VOICE/");
+        QVERIFY(Hf().accessibleDescription().contains("Receive frequency: 10 MHz"));
+    }
+
+    void thePlanFollowsEdits()
+    {
+        ShowPlan();
+        m_window->Nodes().SelectNode(tunerPath);
+        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
+        Set(tunerPath + "SCAN_STATUS", "true");
+        QTRY_VERIFY(Hf().SelectedText().contains("Receive frequency: 7.0405 MHz"));
+        QVERIFY(Hf().SelectedText().contains("Scan: 3 MHz to 3.5 MHz\n"));
+        // The list applies to another type of scan.
+        QVERIFY(Hf().SelectedText().contains("Scan list 1: 3.5 MHz (switched off)"));
+        // A channel's own node belongs to the lane of its chain.
+        const QString emitters = job + "TDS_EXC/CS_SIM/SIMULATION/";
+        m_window->Nodes().SelectNode(emitters);
+        Set(emitters + "Emitter2/EmitterFrequency", "12345678");
+        QTRY_VERIFY(Hf().SelectedText().contains("Simulated emitter 2: 12.345678 MHz"));
+    }
+
+    void aPlanBehindAnotherTabComesToTheFront()
+    {
+        ShowPlan();
+        m_window->findChild<QDockWidget*>("messageDock")->raise();
+        QTRY_VERIFY(Hf().visibleRegion().isEmpty());
+        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTRY_VERIFY(!Hf().visibleRegion().isEmpty());
+    }
+
+    void theToolTipTellsWhatIsThere()
+    {
+        ShowPlan();
+        Hf().SelectPath(tunerPath);
+        const auto textAt = [&](const QPoint& place)
+        {
+            QHelpEvent event(QEvent::ToolTip, place, Hf().viewport()->mapToGlobal(place));
+            QApplication::sendEvent(Hf().viewport(), &event);
+            return QToolTip::text();
+        };
+        const QString text = textAt(Hf().PlaceOf(tunerPath, 10e6));
+        QVERIFY2(text.contains(tunerPath) && text.contains("Receive frequency: 10 MHz, bandwidth 2.7 kHz"),
+                 qPrintable(text));
+        QVERIFY(!text.contains("Scan"));
+        QVERIFY(textAt(Hf().PlaceOf(tunerPath, 3.2e6)).contains("Scan: 3 MHz to 3.5 MHz (switched off)"));
+    }
+
+    void aPlanThatWasHiddenIsUpToDateWhenShown()
+    {
+        ShowPlan();
+        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QVERIFY(!Hf().isVisible());
+        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
+        m_window->Nodes().SelectNode(tunerPath);
+        ShowPlan();
+        QVERIFY(Hf().SelectedText().contains("7.0405 MHz"));
+    }
+
+    void aLaneThatComesOrGoesAsksForANewPlan()
+    {
+        const QString path = job + "TDS_HF1/CS_TUNER/";
+        FrequencyPlan plan = Plan();
+        QVERIFY(plan.Update(path, *Tree::Instance())); // has none and gets none
+        QVERIFY(plan.Update(path + "Gone/", *Tree::Instance()));
+        Tree::Instance()->CreateValue<FrequencyValue>(path + "TUNER_EXT_FREQUENCY");
+        QVERIFY(!plan.Update(path, *Tree::Instance()));
+    }
+
+    void thePicturesHoldAllChains()
+    {
+        FileError error;
+        QVERIFY(m_window->Document().SaveAs(File("a <b> & \"c\".job.xml"), error));
+        QVERIFY2(ExportPlan(m_window->Document(), File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
+        QFile file(File("plan.svg"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QXmlStreamReader reader(&file);
+        QString texts;
+        while (!reader.atEnd())
+            if (reader.readNext() == QXmlStreamReader::Characters)
+                texts += reader.text().toString() + '\n';
+        QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+        QVERIFY(texts.contains("a <b> & \"c\".job.xml"));
+        const FrequencyPlan plan = Plan();
+        for (const PlanLane& lane : plan.GetLanes())
+            QVERIFY2(texts.contains(lane.title), qPrintable(lane.title));
+
+        QVERIFY2(ExportPlan(m_window->Document(), File("plan.png"), {1200, 2000}, error), qPrintable(error.reason));
+        const QImage picture(File("plan.png"));
+        QCOMPARE(picture.size(), QSize(1200, 2000));
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); y += 3)
+            for (int x = 0; x < picture.width(); x += 3)
+                colours.insert(picture.pixel(x, y));
+        QVERIFY(colours.size() > 20);
+        QVERIFY(!m_window->Document().IsModified());
+    }
+
+    void aPictureThatCannotBeWrittenLeavesTheFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("unknown form") << "plan.txt";
+        QTest::newRow("no directory") << "missing/plan.svg";
+    }
+    void aPictureThatCannotBeWrittenLeavesTheFile()
+    {
+        QFETCH(QString, name);
+        QFile there(File("plan.txt"));
+        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
+        there.close();
+        FileError error;
+        QVERIFY(!ExportPlan(m_window->Document(), File(name), {800, 0}, error));
+        QCOMPARE(error.file, File(name));
+        QVERIFY(!error.reason.isEmpty());
+        QVERIFY(there.open(QIODevice::ReadOnly));
+        QCOMPARE(there.readAll(), QByteArray("kept"));
+    }
 };
+
 QTEST_MAIN(TestFrequencyPlan)
 #include "test_frequencyplan.moc"

@@ -1,0 +1,347 @@
+#include "application/translationcenter.h"
+#include "jobedit/chains.h"
+#include "jobedit/chaintitles.h"
+#include "jobedit/mainwindow.h"
+#include "jobedit/report.h"
+#include "jobedit/reportactions.h"
+
+#include <QTest>
+#include <QXmlStreamReader>
+#include <QtWidgets>
+
+using namespace JOBEDIT;
+using namespace TKE;
+
+namespace
+{
+
+const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+
+/// What a reader sees of a report.
+struct Document
+{
+    QString fault{}; ///< why it is no XML; empty when it is
+    QString language{};
+    QString text{};
+    QSet<QString> ids{};
+    QSet<QString> links{};              ///< to places of the document
+    QHash<QString, QStringList> rows{}; ///< cells of each value by its key; the last of a key counts
+    QSet<QString> marked{};             ///< keys of the rows that are set off
+    bool reachesOutside = false;
+};
+
+Document Read(const QString& fileName)
+{
+    Document document;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {.fault = file.errorString()};
+    QXmlStreamReader reader(&file);
+    QStringList cells;
+    bool isMarked = false;
+    while (!reader.atEnd())
+    {
+        reader.readNext();
+        const auto attributes = reader.attributes();
+        if (reader.isStartElement())
+        {
+            if (reader.name() == u"html")
+                document.language = attributes.value("lang").toString();
+            if (attributes.hasAttribute("id"))
+                document.ids.insert('#' + attributes.value("id").toString());
+            if (attributes.hasAttribute("href"))
+                document.links.insert(attributes.value("href").toString());
+            document.reachesOutside |=
+                attributes.hasAttribute("src") || reader.name() == u"link" || reader.name() == u"script";
+            if (reader.name() == u"tr")
+            {
+                cells.clear();
+                isMarked = attributes.value("class") == u"c";
+            }
+            else if (reader.name() == u"td")
+                cells << QString();
+            else if (reader.name() == u"span" && !cells.isEmpty())
+                cells.last() += '|';
+        }
+        else if (reader.isCharacters())
+        {
+            document.text += reader.text().toString() + ' ';
+            if (!cells.isEmpty())
+                cells.last() += reader.text().toString();
+        }
+        else if (reader.isEndElement() && reader.name() == u"tr" && cells.size() == 5)
+        {
+            document.rows.insert(cells.last(), cells);
+            if (isMarked)
+                document.marked.insert(cells.last());
+            cells.clear();
+        }
+    }
+    if (reader.hasError())
+        document.fault = QString("%1: %2").arg(reader.lineNumber()).arg(reader.errorString());
+    return document;
+}
+
+} // namespace
+
+class TestReport : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<JobDocument> m_document;
+
+    QString File(const QString& name) const { return m_directory->filePath(name); }
+    void Set(const QString& path, const QString& stored)
+    {
+        ValueBase* value = Tree::Instance()->FindValue(path);
+        QVERIFY2(value && value->SetStoredText(stored), qPrintable(path));
+    }
+    Document Html(const ReportOptions& options = {})
+    {
+        FileError error;
+        if (!WriteReport(*m_document, File("report.html"), options, {}, error))
+            return {.fault = error.ToText()};
+        return Read(File("report.html"));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("report");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        m_document = std::make_unique<JobDocument>(JobModel::Load());
+        FileError error;
+        QVERIFY(m_document->NewFromSample(error));
+    }
+
+    void cleanup()
+    {
+        m_document.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void everyValueOfTheJobIsInTheHtml()
+    {
+        const Document html = Html();
+        QVERIFY2(html.fault.isEmpty(), qPrintable(html.fault));
+        QVERIFY(!html.reachesOutside);
+        QVERIFY(html.links.size() > 50 && (html.links - html.ids).isEmpty());
+        QFile file(File("report.html"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("<td class=\"k\">"), qsizetype(Tree::Instance()->ValueCount()));
+        QVERIFY(html.text.contains("Monitoring of HF and V/UHF channels"));
+        QVERIFY(!m_document->IsModified());
+    }
+
+    void contentsAreShownAsPeopleReadThem_data()
+    {
+        QTest::addColumn<QString>("value"); // below the job
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QStringList>("cells"); // without the key
+        const QString on = "\u25cf";
+        const QString tuner = "TDS_HF1/CS_TUNER/TUNER/";
+        QTest::newRow("frequency") << tuner + "TUNER_HF_NB_FREQUENCY"
+                                   << "7040500" << QStringList{on, "Frequency", "7.0405|default: 10 MHz", "MHz"};
+        QTest::newRow("selection") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
+                                   << "4" << QStringList{on, "Demodulation", "CW|default: USB", ""};
+        QTest::newRow("selection with a unit") << tuner + "TUNER_HF_NB_AGCDECAY"
+                                               << "50" << QStringList{on, "Decay", "50|default: 500 ms", "ms"};
+        QTest::newRow("unknown key") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
+                                     << "77" << QStringList{on, "Demodulation", "77|default: USB", ""};
+        QTest::newRow("several keys")
+            << "JOB_RESOURCES"
+            << "1;5"
+            << QStringList{on, "Resources of the job",
+                           "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""};
+        QTest::newRow("list of frequencies")
+            << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE"
+            << "3000000;3000100"
+            << QStringList{on, "Excluded ranges, pairs, 0 to 100 rows", "3 MHz; 3.0001 MHz|default: empty", ""};
+        QTest::newRow("switch") << tuner + "SCAN_STATUS"
+                                << "true" << QStringList{on, "Scan on", "on|default: off", ""};
+        QTest::newRow("emptied text") << "JOB_AUTHOR"
+                                      << "" << QStringList{on, "Author", "|default: Operator 1", ""};
+        QTest::newRow("as by default") << "JOB_AUTHOR"
+                                       << "Operator 1" << QStringList{"", "Author", "Operator 1", ""};
+        QTest::newRow("label with a colon and a unit of the panel")
+            << "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency"
+            << "10010000" << QStringList{"", "Emitter2, Frequency", "10.01", "MHz"};
+    }
+    void contentsAreShownAsPeopleReadThem()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, stored);
+        QFETCH(QStringList, cells);
+        Set("/Jobs/Demo/" + value, stored);
+        // Several chains have the same keys; only this one is different from its default.
+        const Document html = Html({.onlyChanges = !cells.first().isEmpty()});
+        QVERIFY2(html.fault.isEmpty(), qPrintable(html.fault));
+        const QString key = value.section('/', value.contains("Emitter") ? -2 : -1);
+        cells << key;
+        QCOMPARE(html.rows.value(key), cells);
+        QCOMPARE(html.marked.contains(key), !cells.first().isEmpty());
+    }
+
+    void onlyChangesLeavesOutTheRest()
+    {
+        QCOMPARE(Html({.onlyChanges = true}).rows.keys(), QStringList{"ExciterMode"}); // the sample's own
+        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
+        const Document html = Html({.onlyChanges = true});
+        QCOMPARE(html.rows.size(), 2);
+        QVERIFY(html.text.contains("TDS_HF1/CS_TUNER/TUNER"));
+        QVERIFY(!html.text.contains("CS_VOICE"));
+        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "10000000");
+        Set("/Jobs/Demo/TDS_EXC_SCAN/ExciterMode", "3");
+        const Document none = Html({.onlyChanges = true});
+        QVERIFY(none.fault.isEmpty() && none.rows.isEmpty());
+        QVERIFY(none.text.contains("No value differs"));
+    }
+
+    void hostileTextIsOnlyText()
+    {
+        const QString hostile = "</td><script>alert('x')</script>&amp;\"\u0001";
+        Set("/Jobs/Demo/JOB_AUTHOR", hostile);
+        FileError error;
+        QVERIFY(m_document->SaveAs(File("<i>&\".job.xml"), error));
+        const Document html = Html();
+        QVERIFY2(html.fault.isEmpty(), qPrintable(html.fault));
+        QVERIFY(!html.reachesOutside);
+        QVERIFY(html.rows.value("JOB_AUTHOR").value(2).startsWith(hostile.chopped(1)));
+        QVERIFY(html.text.contains("Job <i>&\".job.xml"));
+    }
+
+    void labelsAndLanguageFollowThePanels()
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        TranslationCenter::Instance()->Install(QLocale());
+        const Document html = Html();
+        QLocale::setDefault(QLocale::C);
+        TranslationCenter::Instance()->Install(QLocale());
+        QCOMPARE(html.language, QString("de"));
+        QCOMPARE(html.rows.value("TUNER_HF_NB_IFBANDWIDTH").value(1), QString("ZF-Bandbreite"));
+    }
+
+    void titlesAreThoseOfTheDialogs()
+    {
+        int seen = 0;
+        for (const JobNode& node : m_document->GetNodes())
+            if (FindChain(node))
+            {
+                const auto dialog = MakeDialog(node, Form::Job, nullptr);
+                QCOMPARE(ChainTitle(node), dialog->windowTitle());
+                ++seen;
+            }
+        QVERIFY(seen >= int(Chains().size()));
+    }
+
+    void thePdfHasNumberedPages()
+    {
+        FileError error;
+        QVERIFY2(WriteReport(*m_document, File("all.pdf"), {}, {}, error), qPrintable(error.reason));
+        QVERIFY(WriteReport(*m_document, File("changes.pdf"), {.onlyChanges = true}, {}, error));
+        const auto pages = [&](const QString& name)
+        {
+            QFile file(File(name));
+            const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            return bytes.startsWith("%PDF-") && bytes.trimmed().endsWith("%%EOF") ? bytes.count("/Type /Page\n") : -1;
+        };
+        QVERIFY2(pages("all.pdf") > 30, qPrintable(QString::number(pages("all.pdf"))));
+        QCOMPARE(pages("changes.pdf"), 2);
+    }
+
+    void aTextLongerThanAPageGoesOn()
+    {
+        FileError error;
+        Set("/Jobs/Demo/JOB_AUTHOR", QString("word ").repeated(10000));
+        QVERIFY(WriteReport(*m_document, File("long.pdf"), {.onlyChanges = true}, {}, error));
+        QFile file(File("long.pdf"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().count("/Type /Page\n") > 10);
+    }
+
+    void progressGrowsAndCancelLeavesTheFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("HTML") << "there.html";
+        QTest::newRow("PDF") << "there.pdf";
+    }
+    void progressGrowsAndCancelLeavesTheFile()
+    {
+        QFETCH(QString, name);
+        QFile there(File(name));
+        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
+        there.close();
+        FileError error;
+        int calls = 0;
+        const auto cancel = [&](qint64, qint64) { return ++calls < 2; };
+        QVERIFY(!WriteReport(*m_document, File(name), {}, cancel, error));
+        QCOMPARE(calls, 2);
+        QVERIFY(error.reason.isEmpty());
+        QVERIFY(there.open(QIODevice::ReadOnly));
+        QCOMPARE(there.readAll(), QByteArray("kept"));
+        there.close();
+
+        qint64 last = 0;
+        const auto follow = [&](qint64 done, qint64 all)
+        {
+            const bool grows = done >= last && done <= all;
+            last = done;
+            return grows;
+        };
+        QVERIFY(WriteReport(*m_document, File(name), {}, follow, error));
+        QCOMPARE(last, qint64(Tree::Instance()->ValueCount()));
+    }
+
+    void whatCannotBeWrittenIsSaid_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("unknown form") << "report.doc";
+        QTest::newRow("no directory") << "missing/report.html";
+    }
+    void whatCannotBeWrittenIsSaid()
+    {
+        QFETCH(QString, name);
+        FileError error;
+        QVERIFY(!WriteReport(*m_document, File(name), {}, {}, error));
+        QCOMPARE(error.file, File(name));
+        QVERIFY(!error.reason.isEmpty());
+        QVERIFY(!QFile::exists(File(name)));
+    }
+
+    void theMenuOffersTheReport()
+    {
+        m_document.reset();
+        Tree::Instance()->Clear();
+        {
+            MainWindow window(JobModel::Load());
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QVERIFY(window.NewFromSample());
+            bool asked = false;
+            QTimer::singleShot(0, &window,
+                               [&]
+                               {
+                                   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                                   asked = dialog && dialog->objectName() == "reportDialog";
+                                   if (dialog)
+                                       QTest::keyClick(dialog, Qt::Key_Escape);
+                               });
+            QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+            QVERIFY(asked);
+            QVERIFY(window.findChild<ReportActions*>()->WriteTo(File("window.pdf"), {.onlyChanges = true}));
+            QVERIFY(QFile::exists(File("window.pdf")));
+        }
+        Tree::Instance()->Clear();
+    }
+};
+
+QTEST_MAIN(TestReport)
+#include "test_report.moc"
