@@ -2,15 +2,14 @@
 
 #include "application/errorhandler.h"
 #include "application/translationcenter.h"
+#include "commands/command.h"
 #include "jobdocument.h"
 #include "mainwindow.h"
 #include "nightcolours.h"
-#include "render.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QLocale>
-#include <QTextStream>
+#include <algorithm>
 #include <cstring>
 
 // The catalogues stand in a static library. The macro wants to be outside of any namespace.
@@ -27,13 +26,6 @@ namespace JOBEDIT
 namespace
 {
 
-enum ExitStatus
-{
-    esGood = 0,
-    esFailed = 1,
-    esUsage = 2,
-};
-
 /// Context of the texts below.
 class CommandLine
 {
@@ -41,61 +33,123 @@ class CommandLine
 };
 
 /// The arguments, read once without an application (to know which kind of application is needed) and once with it.
-struct Arguments
+///
+/// The parser knows the options of all commands, so that they may stand anywhere; whether they belong to the command is
+/// asked afterwards.
+class Arguments
 {
-    QCommandLineParser parser;
-    QCommandLineOption help{{"h", "help"}, CommandLine::tr("Shows this help.")};
-    QCommandLineOption version{{"v", "version"}, CommandLine::tr("Shows the version.")};
-    QCommandLineOption out{"out", CommandLine::tr("render: directory that the pictures go into."), "DIR"};
-    QCommandLineOption entry{"entry", CommandLine::tr("render: only the dialogs of this entry point or panel."),
-                             "NAME"};
-    QCommandLineOption form{"form", CommandLine::tr("render: job (when absent) or standalone."), "FORM"};
-    QCommandLineOption language{
-        "language", CommandLine::tr("Language of the texts and form of numbers, for example de."), "LANGUAGE"};
-
-    Arguments()
+public:
+    explicit Arguments(const QStringList& texts) : m_commands(MakeCommands())
     {
-        parser.setApplicationDescription(
-            CommandLine::tr("Edits the parameters of the processing chains of jobs.\n\n"
-                            "  jobedit [FILE]              edits a job; without a file a new one from the sample\n"
-                            "  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]\n"
-                            "                              writes a picture of every tab of the dialogs\n"
-                            "  jobedit check FILE...       checks files; exit status 1 when one has an error"));
-        parser.addOptions({help, version, out, entry, form, language});
-        parser.addPositionalArgument("command", CommandLine::tr("render or check."), "[render|check]");
-        parser.addPositionalArgument("files", CommandLine::tr("Job files."), "[FILE...]");
+        for (const QCommandLineOption& option : GlobalOptions())
+            m_parser.addOption(option);
+        for (const Command& command : m_commands)
+            for (const QCommandLineOption& option : command.options)
+                if (!m_known.contains(option.names().constFirst()))
+                {
+                    m_known << option.names().constFirst();
+                    m_parser.addOption(option);
+                }
+        m_parsed = m_parser.parse(texts);
     }
 
-    QString Command() const
+    const QCommandLineParser& GetParser() const { return m_parser; }
+    bool Has(const char* option) const { return m_parser.isSet(QLatin1String(option)); }
+
+    /// Null when a window is wanted.
+    const Command* GetCommand() const
     {
-        const QString first = parser.positionalArguments().value(0);
-        return first == "render" || first == "check" ? first : QString();
+        const QString name = m_parser.positionalArguments().value(0);
+        const auto found = std::find_if(m_commands.begin(), m_commands.end(),
+                                        [&](const Command& command) { return command.name == name; });
+        return found != m_commands.end() ? &*found : nullptr;
     }
-    QStringList Files() const { return parser.positionalArguments().mid(Command().isEmpty() ? 0 : 1); }
+    /// Without the command.
+    QStringList GetRest() const { return m_parser.positionalArguments().mid(GetCommand() ? 1 : 0); }
 
     /// What is wrong with the arguments; empty when nothing is.
     QString Fault() const
     {
-        const QString command = Command();
-        const QStringList files = Files();
-        if (command == "check" && files.isEmpty())
-            return CommandLine::tr("check needs a file.");
-        if (command != "check" && files.size() > 1)
-            return CommandLine::tr("One job at a time: %1 files are given.").arg(files.size());
-        for (const QCommandLineOption* option : {&out, &entry, &form})
-            if (parser.isSet(*option) && command != "render")
-                return CommandLine::tr("--%1 belongs to render.").arg(option->names().constFirst());
-        if (command == "render" && parser.value(out).isEmpty())
-            return CommandLine::tr("render needs --out DIR.");
-        if (parser.isSet(entry) && !EntryNames().contains(parser.value(entry)))
-            return CommandLine::tr("There is no entry %1. There are: %2.")
-                .arg(parser.value(entry), EntryNames().join(", "));
-        if (parser.isSet(form) && parser.value(form) != "job" && parser.value(form) != "standalone")
-            return CommandLine::tr("--form is job or standalone.");
-        if (parser.isSet(language) && QLocale(parser.value(language)).language() == QLocale::C)
-            return CommandLine::tr("%1 is no language.").arg(parser.value(language));
+        if (!m_parsed)
+            return m_parser.errorText();
+        const Command* command = GetCommand();
+        const qsizetype count = GetRest().size();
+        if (!command && count > 1)
+            return CommandLine::tr("One job at a time: %1 files are given, and %2 is no command.")
+                .arg(count)
+                .arg(GetRest().constFirst());
+        for (const QString& option : m_known)
+            if (m_parser.isSet(option) && !(command && Knows(*command, option)))
+                return CommandLine::tr("--%1 belongs to %2.").arg(option, OwnersOf(option).join(QLatin1String(", ")));
+        if (Has("json") && !(command && command->json))
+            return CommandLine::tr("--json belongs to get, list, diff and check.");
+        if (command && count < command->fewest)
+            return CommandLine::tr("%1 needs: %2").arg(command->name, command->arguments);
+        if (command && command->most >= 0 && count > command->most)
+            return CommandLine::tr("%1 takes no more than: %2").arg(command->name, command->arguments);
+        if (Has("language") && QLocale(m_parser.value("language")).language() == QLocale::C)
+            return CommandLine::tr("%1 is no language.").arg(m_parser.value("language"));
         return {};
     }
+
+    QString Help() const
+    {
+        QCommandLineParser parser;
+        const Command* command = GetCommand();
+        QString text;
+        if (command)
+        {
+            text = command->summary + "\n\n" + command->help;
+            parser.addPositionalArgument(command->name, {}, command->name + ' ' + command->arguments);
+            parser.addOptions(command->options);
+        }
+        else
+        {
+            text = CommandLine::tr("Edits the parameters of the processing chains of jobs.") + "\n\n  " +
+                   QStringLiteral("%1 %2").arg("jobedit [FILE]", -36) +
+                   CommandLine::tr("edits a job; without a file a new one from the sample");
+            for (const Command& each : m_commands)
+                text += "\n  " + QStringLiteral("%1 %2").arg("jobedit " + each.name + ' ' + each.arguments, -36) +
+                        each.summary;
+            text += "\n\n" + CommandLine::tr("jobedit COMMAND --help tells more of a command.") + "\n\n" +
+                    CommandLine::tr("Exit status: 0 done; 1 a difference, an error in a job, something not found or "
+                                    "refused; 2 wrong arguments.");
+            parser.addPositionalArgument("files", {}, "[COMMAND] [FILE...]");
+        }
+        parser.setApplicationDescription(text);
+        for (const QCommandLineOption& option : GlobalOptions())
+            if (!command || command->json || option.names().constFirst() != QLatin1String("json"))
+                parser.addOption(option);
+        return parser.helpText();
+    }
+
+private:
+    static QList<QCommandLineOption> GlobalOptions()
+    {
+        return {
+            {{"h", "help"}, CommandLine::tr("Shows this help.")},
+            {{"v", "version"}, CommandLine::tr("Shows the version.")},
+            {"json", CommandLine::tr("Prints one JSON document (get, list, diff and check).")},
+            {"language", CommandLine::tr("Language of the texts and form of numbers, for example de."), "LANGUAGE"}};
+    }
+    static bool Knows(const Command& command, const QString& option)
+    {
+        return std::any_of(command.options.begin(), command.options.end(),
+                           [&](const QCommandLineOption& own) { return own.names().contains(option); });
+    }
+    QStringList OwnersOf(const QString& option) const
+    {
+        QStringList owners;
+        for (const Command& command : m_commands)
+            if (Knows(command, option))
+                owners << command.name;
+        return owners;
+    }
+
+    std::vector<Command> m_commands;
+    QStringList m_known; // options of commands
+    QCommandLineParser m_parser;
+    bool m_parsed = false;
 };
 
 bool HasDisplay(int argc, char* argv[])
@@ -115,50 +169,21 @@ bool HasDisplay(int argc, char* argv[])
 #endif
 }
 
-/// Checking, help and a window that has nowhere to open need no window system; rendering draws in memory where there is
-/// none.
+/// Only what draws needs a window system; rendering draws in memory where there is none.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char* argv[])
 {
     QStringList texts;
     for (int index = 0; index < argc; ++index)
         texts << QString::fromLocal8Bit(argv[index]);
-    Arguments arguments;
-    arguments.parser.parse(texts);
+    const Arguments arguments(texts);
     const bool display = HasDisplay(argc, argv);
-    const bool render = arguments.Command() == "render";
-    if (arguments.parser.isSet(arguments.help) || arguments.parser.isSet(arguments.version) ||
-        arguments.Command() == "check" || (!display && !render))
+    const Command* command = arguments.GetCommand();
+    const bool draws = command ? command->draws : display;
+    if (arguments.Has("help") || arguments.Has("version") || !draws)
         return std::make_unique<QCoreApplication>(argc, argv);
     if (!display)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QApplication>(argc, argv);
-}
-
-int CheckFiles(const QStringList& files, QTextStream& errors)
-{
-    const auto model = JobDocument::ConfiguredModel();
-    bool good = model->GetErrors().isEmpty();
-    for (const QString& file : files)
-        for (const TKE::FileError& error : TKE::JobFile::Check(file, model))
-        {
-            errors << error.ToText() << '\n';
-            good = good && !error.IsError();
-        }
-    return good ? esGood : esFailed;
-}
-
-int RenderFile(const QString& file, const RenderRequest& request, QTextStream& out, QTextStream& errors)
-{
-    JobDocument document(JobDocument::ConfiguredModel());
-    TKE::FileError error;
-    const bool loaded =
-        file.isEmpty() ? document.NewFromSample(error) : document.Open(file, JobDocument::Access::ReadOnly, error);
-    if (!loaded)
-    {
-        errors << error.ToText() << '\n';
-        return esFailed;
-    }
-    return Render(document.GetNodes(), request, out, errors) ? esGood : esFailed;
 }
 
 int Edit(const QString& file)
@@ -184,44 +209,43 @@ int RunCommandLine(int argc, char* argv[])
     QTextStream out(stdout);
     QTextStream errors(stderr);
 
-    Arguments first;
-    const bool parsed = first.parser.parse(QCoreApplication::arguments());
-    if (first.parser.isSet(first.language))
-        QLocale::setDefault(QLocale(first.parser.value(first.language)));
+    const Arguments first(QCoreApplication::arguments());
+    if (first.Has("language"))
+        QLocale::setDefault(QLocale(first.GetParser().value("language")));
     TKE::TranslationCenter::Instance()->Install(QLocale());
 
-    Arguments arguments; // once more, with the descriptions translated
-    arguments.parser.parse(QCoreApplication::arguments());
-    const QCommandLineParser& parser = arguments.parser;
-    if (parser.isSet(arguments.help))
-        return out << parser.helpText(), esGood;
-    if (parser.isSet(arguments.version))
+    const Arguments arguments(QCoreApplication::arguments()); // once more, with the texts translated
+    if (arguments.Has("help"))
+        return out << arguments.Help(), esGood;
+    if (arguments.Has("version"))
         return out << "jobedit " << QCoreApplication::applicationVersion() << '\n', esGood;
-    if (const QString fault = parsed ? arguments.Fault() : parser.errorText(); !fault.isEmpty())
+    const Command* command = arguments.GetCommand();
+    if (const QString fault = arguments.Fault(); !fault.isEmpty())
     {
-        errors << "jobedit: " << fault << '\n' << CommandLine::tr("jobedit --help tells more.") << '\n';
+        errors << "jobedit: " << fault << '\n'
+               << CommandLine::tr("jobedit %1--help tells more.").arg(command ? command->name + ' ' : QString())
+               << '\n';
         return esUsage;
     }
-
-    const QStringList files = arguments.Files();
-    const bool window = arguments.Command().isEmpty();
-    if (window && qobject_cast<QApplication*>(application.get()))
-        return Edit(files.value(0));
+    if (!command && qobject_cast<QApplication*>(application.get()))
+        return Edit(arguments.GetRest().value(0));
 
     const auto reports = TKE::ErrorHandler::Interface().Subscribe(
         [&](const TKE::ErrorReport& report)
         { errors << report.text << (report.details.isEmpty() ? "" : ": ") << report.details << '\n'; });
-    if (window)
+    if (!command)
     {
         errors << CommandLine::tr(
                       "There is no display to open a window on. jobedit render writes the dialogs as pictures.")
                << '\n';
-        return esFailed;
+        return esFinding;
     }
-    if (arguments.Command() == "check")
-        return CheckFiles(files, errors);
-    const Form form = parser.value(arguments.form) == "standalone" ? Form::StandAlone : Form::Job;
-    return RenderFile(files.value(0), {parser.value(arguments.out), parser.value(arguments.entry), form}, out, errors);
+    Call call(*command, arguments.GetParser(), arguments.GetRest(), out, errors);
+    const int status = command->run(call);
+    out.flush();
+    if (out.status() != QTextStream::Ok)
+        return call.Refuse(CommandLine::tr("Standard output could not be written."));
+    return status;
 }
 
 } // namespace JOBEDIT
