@@ -94,27 +94,27 @@ public:
 
     QString Help() const
     {
+        constexpr int width = 36;
         QCommandLineParser parser;
         const Command* command = GetCommand();
         QString text;
         if (command)
         {
-            text = command->summary + "\n\n" + command->help;
-            parser.addPositionalArgument(command->name, {}, command->name + ' ' + command->arguments);
+            text = command->help;
+            parser.addPositionalArgument(command->name, command->summary, command->name + ' ' + command->arguments);
             parser.addOptions(command->options);
         }
         else
         {
             text = CommandLine::tr("Edits the parameters of the processing chains of jobs.") + "\n\n  " +
-                   QStringLiteral("%1 %2").arg("jobedit [FILE]", -36) +
+                   QStringLiteral("jobedit [FILE]").leftJustified(width) +
                    CommandLine::tr("edits a job; without a file a new one from the sample");
             for (const Command& each : m_commands)
-                text += "\n  " + QStringLiteral("%1 %2").arg("jobedit " + each.name + ' ' + each.arguments, -36) +
-                        each.summary;
+                text += "\n  " + ("jobedit " + each.name + ' ' + each.arguments).leftJustified(width) + each.summary;
             text += "\n\n" + CommandLine::tr("jobedit COMMAND --help tells more of a command.") + "\n\n" +
                     CommandLine::tr("Exit status: 0 done; 1 a difference, an error in a job, something not found or "
                                     "refused; 2 wrong arguments.");
-            parser.addPositionalArgument("files", {}, "[COMMAND] [FILE...]");
+            parser.addPositionalArgument("FILE", CommandLine::tr("Job files."), "[COMMAND] [FILE...]");
         }
         parser.setApplicationDescription(text);
         for (const QCommandLineOption& option : GlobalOptions())

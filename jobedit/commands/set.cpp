@@ -13,11 +13,11 @@ struct Change
     QString before;
 };
 
-/// Sets all that is asked for in the tree. Returns how many were refused.
-int SetAll(CommandJob& job, Call& call, std::vector<Change>& changes)
+/// Sets all that is asked for in the tree. False when something was refused; all refusals are told.
+bool SetAll(CommandJob& job, Call& call, std::vector<Change>& changes)
 {
     const bool stored = call.Has("stored");
-    int refused = 0;
+    bool good = true;
     for (const QString& assignment : call.GetArguments().mid(1))
     {
         const QString path = assignment.section(u'=', 0, 0);
@@ -29,17 +29,17 @@ int SetAll(CommandJob& job, Call& call, std::vector<Change>& changes)
         else
         {
             const QString before = CommandText::Of(*value, stored);
-            const bool good = stored ? value->SetStoredText(text, nullptr, &reason)
-                                     : TypedValue::Set(*value, text, QLocale(), reason);
-            if (good && before != CommandText::Of(*value, stored))
+            const bool accepted = stored ? value->SetStoredText(text, nullptr, &reason)
+                                         : TypedValue::Set(*value, text, QLocale(), reason);
+            if (accepted && before != CommandText::Of(*value, stored))
                 changes.push_back({value, before});
-            if (good)
+            if (accepted)
                 continue;
         }
-        call.Errors() << (value ? value->GetPathName() : path) << ": " << reason << '\n';
-        ++refused;
+        call.Refuse((value ? value->GetPathName() : path) + QLatin1String(": ") + reason);
+        good = false;
     }
-    return refused;
+    return good;
 }
 
 int Set(Call& call)
@@ -62,8 +62,8 @@ int Set(Call& call)
         return esFinding;
 
     std::vector<Change> changes;
-    if (const int refused = SetAll(job, call, changes))
-        return call.Refuse(Commands::tr("%n values were refused. Nothing was written.", nullptr, refused));
+    if (!SetAll(job, call, changes))
+        return call.Refuse(Commands::tr("%1 was not changed.").arg(target));
     if (!dryRun && (!changes.empty() || call.Has("out")) && !job.SaveAs(target, call))
         return esFinding;
     for (const Change& change : changes)
