@@ -1,4 +1,5 @@
 #include "jobedit/chains.h"
+#include "jobedit/commands/command.h"
 #include "jobedit/jobdocument.h"
 #include "jobedit/largejob.h"
 
@@ -125,6 +126,20 @@ private Q_SLOTS:
         QVERIFY2(outcome.status == status, qPrintable(outcome.out + outcome.errors));
         QVERIFY2((status == 0 ? outcome.out : outcome.errors).contains(says), qPrintable(outcome.out + outcome.errors));
         QVERIFY(status == 0 || outcome.out.isEmpty());
+    }
+
+    void theManPageNamesEveryCommandAndOption()
+    {
+        QFile page(SOURCE_DIRECTORY "/docs/jobedit.1");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = page.readAll();
+        for (const Command& command : MakeCommands())
+        {
+            QVERIFY2(text.contains(".It Cm " + command.name + '\n'), qPrintable(command.name));
+            for (const QCommandLineOption& option : command.options)
+                QVERIFY2(text.contains(QRegularExpression("\n\\.It .*Fl \\\\-" + option.names().first() + "\\b")),
+                         qPrintable(option.names().first()));
+        }
     }
 
     void renderWritesAPicturePerTab_data()
