@@ -1,6 +1,12 @@
 #include "jobedit/chains.h"
+#include "jobedit/commands/command.h"
 #include "jobedit/jobdocument.h"
+#include "jobedit/largejob.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLockFile>
 #include <QProcess>
 #include <QTest>
 #include <QtWidgets>
@@ -50,6 +56,11 @@ class TestJobEditCommands : public QObject
         QFile file(File(name));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
+    QByteArray ReadAll(const QString& name) const
+    {
+        QFile file(File(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+    }
     void WriteSample(const QString& name)
     {
         JobDocument document(JobModel::Load());
@@ -84,6 +95,23 @@ private Q_SLOTS:
         QTest::newRow("two jobs at once") << QStringList{"a", "b"} << 2 << "2";
         QTest::newRow("render a bad file")
             << QStringList{"render", "bad.job.xml", "--out", "d"} << 1 << "bad.job.xml:3:";
+        QTest::newRow("help of a command") << QStringList{"set", "--help"} << 0 << "--dry-run";
+        QTest::newRow("help names the arguments") << QStringList{"get", "--help"} << 0 << "get FILE PATH...";
+        QTest::newRow("unknown command") << QStringList{"frobnicate", "good.job.xml"} << 2 << "frobnicate";
+        QTest::newRow("too few arguments") << QStringList{"get", "good.job.xml"} << 2 << "FILE PATH...";
+        QTest::newRow("too many arguments") << QStringList{"diff", "a", "b", "c"} << 2 << "FILE1 FILE2";
+        QTest::newRow("no JSON of this") << QStringList{"new", "--json", "a"} << 2 << "--json";
+        QTest::newRow("no assignment") << QStringList{"set", "good.job.xml", "TDS_HF1"} << 2 << "PATH=VALUE";
+        QTest::newRow("no number of chains") << QStringList{"new", "a.xml", "--chains", "many"} << 2 << "--chains";
+        QTest::newRow("half an option") << QStringList{"diff", "a", "b", "--with", "c"} << 2 << "--node";
+        QTest::newRow("get of a bad file") << QStringList{"get", "bad.job.xml", "x"} << 1 << "bad.job.xml:3:";
+        QTest::newRow("get of no value") << QStringList{"get", "good.job.xml", "TDS_HF1/X"} << 1 << "TDS_HF1/X";
+        QTest::newRow("list of nothing") << QStringList{"list", "good.job.xml", "*nowhere*"} << 1 << "*nowhere*";
+        QTest::newRow("diff of no node") << QStringList{"diff", "good.job.xml", "good.job.xml", "--node", "N"} << 1 << "N";
+        QTest::newRow("new over a file") << QStringList{"new", "good.job.xml"} << 1 << "--force";
+        QTest::newRow("new where nothing can be") << QStringList{"new", "no/such/directory.xml"} << 1 << "directory.xml";
+        QTest::newRow("too few chains") << QStringList{"new", "few.xml", "--chains", "1"} << 1 << "chains";
+        QTest::newRow("diff of equals") << QStringList{"diff", "good.job.xml", "good.job.xml"} << 0 << "";
         QTest::newRow("a window without a display") << QStringList{"good.job.xml"} << 1 << "display";
     }
     void theCommandLineTellsByItsExitStatus()
@@ -102,6 +130,20 @@ private Q_SLOTS:
         QVERIFY2(outcome.status == status, qPrintable(outcome.out + outcome.errors));
         QVERIFY2((status == 0 ? outcome.out : outcome.errors).contains(says), qPrintable(outcome.out + outcome.errors));
         QVERIFY(status == 0 || outcome.out.isEmpty());
+    }
+
+    void theManPageNamesEveryCommandAndOption()
+    {
+        QFile page(SOURCE_DIRECTORY "/docs/jobedit.1");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = page.readAll();
+        for (const Command& command : MakeCommands())
+        {
+            QVERIFY2(text.contains(".It Cm " + command.name + '\n'), qPrintable(command.name));
+            for (const QCommandLineOption& option : command.options)
+                QVERIFY2(text.contains(QRegularExpression("\n\\.It .*Fl \\\\-" + option.names().first() + "\\b")),
+                         qPrintable(option.names().first()));
+        }
     }
 
     void renderWritesAPicturePerTab_data()
@@ -145,6 +187,226 @@ private Q_SLOTS:
             const QImage picture(File("d/") + name);
             QVERIFY(picture.width() >= 775 && picture.height() >= 480);
         }
+    }
+
+    void getPrintsWhatSetWrote_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("stored");
+        const QString tuner = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_";
+        QTest::newRow("frequency with a unit") << tuner + "FREQUENCY" << "7.1 MHz" << "7100000" << "7100000";
+        QTest::newRow("decimal comma") << tuner + "FREQUENCY" << "7040,5 k" << "7040500" << "7040500";
+        QTest::newRow("whole path") << "/Jobs/Demo/" + tuner + "FREQUENCY" << "5e6" << "5000000" << "5000000";
+        QTest::newRow("item by name") << tuner + "SQUELCHMODE" << "Level and syllabic" << "Level and syllabic" << "3";
+        QTest::newRow("item in small letters") << tuner + "SQUELCHMODE" << "syllabic" << "Syllabic" << "2";
+        QTest::newRow("item by key") << tuner + "SQUELCHMODE" << "1" << "Level" << "1";
+        QTest::newRow("number with its unit") << tuner + "MGCVALUE" << "33 dB" << "33" << "33";
+        QTest::newRow("switch") << tuner + "NF1_STATUS" << "on" << "true" << "true";
+        QTest::newRow("text with an umlaut and =") << "Resources/HF1/RESOURCE_NAME" << "Gerät=1 <ä>" << "Gerät=1 <ä>"
+                                                   << "Gerät=1 <ä>";
+    }
+    void getPrintsWhatSetWrote()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, typed);
+        const QString file = File("Müller's job 1.xml");
+        WriteSample("Müller's job 1.xml");
+        const Outcome set = RunProgram({"set", file, path + '=' + typed});
+        QVERIFY2(set.status == 0, qPrintable(set.errors));
+        QCOMPARE(set.out.count('\n'), qsizetype(1));
+        QVERIFY(QFile::exists(file + '~'));
+        QTEST(RunProgram({"get", file, path}).out.chopped(1), "text");
+        QTEST(RunProgram({"get", "--stored", "--", file, path}).out.chopped(1), "stored");
+    }
+
+    void setWritesAllOrNothing_data()
+    {
+        QTest::addColumn<QString>("refused");
+        QTest::newRow("unknown value") << "NOWHERE=1";
+        QTest::newRow("no number") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=loud";
+        QTest::newRow("out of range") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=100000";
+        QTest::newRow("no item") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_SQUELCHMODE=Silence";
+        QTest::newRow("neither on nor off") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_NF1_STATUS=2";
+    }
+    void setWritesAllOrNothing()
+    {
+        QFETCH(QString, refused);
+        WriteSample("a.xml");
+        const QByteArray before = ReadAll("a.xml");
+        const Outcome outcome = RunProgram(
+            {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", refused, "ALSO/NOWHERE=2"});
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out, QString());
+        // Each refusal is told, and no more.
+        QVERIFY2(outcome.errors.contains(refused.section('=', 0, 0) + ": "), qPrintable(outcome.errors));
+        QVERIFY(outcome.errors.contains("ALSO/NOWHERE: ") && !outcome.errors.contains("FREQUENCY"));
+        QCOMPARE(ReadAll("a.xml"), before);
+        QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList{"a.xml"});
+    }
+
+    void setLeavesAFileAloneWhenTold()
+    {
+        WriteSample("a.xml");
+        const QByteArray before = ReadAll("a.xml");
+        const QString assignment = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M";
+        const Outcome dry = RunProgram({"set", File("a.xml"), assignment, "--dry-run"});
+        QCOMPARE(dry.out, QString("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY\t10000000\t7000000\n"));
+        QCOMPARE(RunProgram({"set", File("a.xml"), assignment, "--out", File("b.xml")}).status, 0);
+        QCOMPARE(ReadAll("a.xml"), before);
+        const Outcome difference = RunProgram({"diff", File("a.xml"), File("b.xml")});
+        QCOMPARE(difference.status, 1);
+        QCOMPARE(difference.out, dry.out);
+        QCOMPARE(difference.errors, QString());
+    }
+
+    void anotherEditorsFileIsNotWritten()
+    {
+        WriteSample("a.xml");
+        const QByteArray before = ReadAll("a.xml");
+        QLockFile lock(File("a.xml") + ".lock");
+        QVERIFY(lock.tryLock(0));
+        const QStringList arguments{"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M"};
+        const Outcome refused = RunProgram(arguments);
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.errors.contains(QString::number(QCoreApplication::applicationPid())),
+                 qPrintable(refused.errors));
+        QCOMPARE(RunProgram({"new", File("a.xml"), "--force"}).status, 0); // told to
+        QCOMPARE(ReadAll("a.xml"), before);
+        QCOMPARE(RunProgram(arguments + QStringList{"--force"}).status, 0);
+        QVERIFY(ReadAll("a.xml") != before);
+        QVERIFY(QFile::exists(File("a.xml.lock"))); // still the other's
+    }
+
+    void whatCannotBeWrittenIsSaid()
+    {
+        WriteSample("a.xml");
+        const QStringList assignment{"TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M"};
+        const Outcome outcome = RunProgram(QStringList{"set", File("a.xml"), "--out", "/proc/a.xml"} + assignment);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.startsWith("/proc/a.xml: "), qPrintable(outcome.errors));
+        QCOMPARE(outcome.out, QString());
+        if (QFile readOnly(m_directory->path()); readOnly.setPermissions(QFile::ReadOwner | QFile::ExeOwner))
+        {
+            const bool canWrite = QFileInfo(m_directory->path()).isWritable(); // who may write anything
+            const Outcome set = RunProgram(QStringList{"set", File("a.xml")} + assignment);
+            readOnly.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            QCOMPARE(set.status, canWrite ? 0 : 1);
+            QCOMPARE(set.errors.isEmpty(), canWrite);
+        }
+    }
+
+    void garbageIsRefusedByEveryCommand_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("no XML") << QByteArray("PK\x03\x04\x00\xff garbage");
+        QTest::newRow("another XML") << QByteArray("<html><body/></html>");
+        QTest::newRow("half a job") << QByteArray("<Job version=\"1\"><Node name=\"A\" type=\"T\">");
+    }
+    void garbageIsRefusedByEveryCommand()
+    {
+        QFETCH(QByteArray, bytes);
+        WriteAll("g.xml", bytes);
+        WriteSample("a.xml");
+        const QString file = File("g.xml");
+        for (const QStringList& arguments :
+             {QStringList{"get", file, "x"}, QStringList{"set", file, "x=1"}, QStringList{"list", file},
+              QStringList{"diff", File("a.xml"), file}, QStringList{"check", file},
+              QStringList{"new", File("n.xml"), "--from", file}})
+        {
+            const Outcome outcome = RunProgram(arguments);
+            QCOMPARE(outcome.status, 1);
+            QCOMPARE(outcome.out, QString());
+            QVERIFY2(outcome.errors.startsWith(file + ':'), qPrintable(outcome.errors));
+        }
+        QCOMPARE(ReadAll("g.xml"), bytes);
+        QVERIFY(!QFile::exists(File("n.xml")));
+    }
+
+    void resultsAreOneJsonDocument_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QStringList>("keys");
+        const QStringList value{"changed", "default", "enabled", "kind",   "label", "maximum",
+                                "minimum", "path",    "stored",  "unit",   "value"};
+        const QString frequency = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY";
+        QTest::newRow("get") << QStringList{"get", "a.xml", frequency} << 0 << "values" << 1 << value;
+        QTest::newRow("get nothing") << QStringList{"get", "a.xml", "X"} << 1 << "values" << 0 << QStringList();
+        QTest::newRow("list") << QStringList{"list", "a.xml", "*HF1/CS_TUNER/*/TUNER_HF_NB_FREQUENC?"} << 0 << "values"
+                              << 1 << value;
+        QTest::newRow("list nodes") << QStringList{"list", "a.xml", "--nodes", "TDS_HF1/CS_TUNER"} << 0 << "nodes" << 2
+                                    << QStringList{"band", "count", "groups", "path", "type"};
+        QTest::newRow("diff") << QStringList{"diff", "a.xml", "b.xml"} << 1 << "differences" << 1
+                              << QStringList{"left", "path", "right", "what"};
+        QTest::newRow("check") << QStringList{"check", "bad.xml"} << 1 << "findings" << 2
+                               << QStringList{"column", "file", "line", "path", "reason", "severity"};
+    }
+    void resultsAreOneJsonDocument()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, list);
+        WriteSample("a.xml");
+        WriteAll("bad.xml", "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
+        QCOMPARE(RunProgram({"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", "--out",
+                             File("b.xml")})
+                     .status,
+                 0);
+        for (QString& argument : arguments)
+            if (argument.endsWith(".xml"))
+                argument = File(argument);
+        const Outcome outcome = RunProgram(arguments + QStringList{"--json"});
+        QTEST(outcome.status, "status");
+        QJsonParseError fault;
+        const QJsonArray items = QJsonDocument::fromJson(outcome.out.toUtf8(), &fault).object()[list].toArray();
+        QVERIFY2(fault.error == QJsonParseError::NoError, qPrintable(outcome.out));
+        QTEST(int(items.size()), "count");
+        if (!items.isEmpty())
+            QTEST(items.first().toObject().keys(), "keys");
+    }
+
+    void diffComparesTwoNodes()
+    {
+        WriteSample("a.xml");
+        QCOMPARE(RunProgram({"new", File("b.xml"), "--from", File("a.xml"), "--chains", "60"}).status, 0);
+        const Outcome whole = RunProgram({"diff", File("a.xml"), File("b.xml")});
+        QVERIFY2(whole.out.contains("/Jobs/Demo/TDS_HF1_2\t(no node)\t(node)\n"), qPrintable(whole.out));
+        const QStringList nodes{"diff", File("a.xml"), File("b.xml"), "--node", "TDS_HF1", "--with"};
+        QCOMPARE(RunProgram(nodes + QStringList{"TDS_HF1_2"}).status, 0);
+        QCOMPARE(RunProgram(nodes + QStringList{"TDS_HFWB"}).status, 1);
+    }
+
+    void aLargeJobHasWhatWasPlanned()
+    {
+        const auto grow = [](quint32 seed)
+        {
+            Tree tree;
+            JobFile job(tree);
+            QString reason;
+            LargeJobPlan plan;
+            plan.chains = 77;
+            plan.channels = 20;
+            plan.seed = seed;
+            plan.allValues = true;
+            LargeJob large(job, tree);
+            const bool grown = job.LoadSample() && large.Grow(plan, reason) && large.CountChains() == 77;
+            return grown ? job.ToUtf8() : QByteArray();
+        };
+        const QByteArray first = grow(1);
+        QVERIFY(!first.isEmpty());
+        QVERIFY(first == grow(1));
+        QVERIFY(first != grow(2));
+        WriteAll("large.xml", first);
+        const Outcome check = RunProgram({"check", File("large.xml")});
+        QVERIFY2(check.status == 0 && check.errors.isEmpty(), qPrintable(check.errors));
+        Tree tree;
+        JobFile job(tree);
+        QVERIFY(job.Load(File("large.xml")));
+        QCOMPARE(qsizetype(tree.ValueCount()), first.count("<Value "));
     }
 };
 
