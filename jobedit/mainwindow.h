@@ -15,8 +15,10 @@ namespace JOBEDIT
 {
 
 class DialogPane;
+class HintBar;
 class MessageList;
 class NodePane;
+class ViewActions;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -43,6 +45,8 @@ public:
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& fileName);
+    /// Tells a new user where to begin, unless that is not wanted any more.
+    void OfferHint();
 
     JobDocument& Document() { return *m_document; }
     /// The menus, for the actions that stand in files of their own.
@@ -54,6 +58,7 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    QDockWidget* MessageDock() const { return m_messageDock; }
     Place GetPlace() const;
     /// What of the place the job has.
     void GoTo(const Place& place);
@@ -69,16 +74,14 @@ private:
     void MakePanes();
     void FillFileMenu();
     void FillNodeMenu();
-    void FillViewMenu();
 
     void Slot_OnOpen();
     void Slot_OnReplaced();
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
-    int CurrentPane() const;
-    void FocusPane(int pane);
-    void MovePane(int step);
+    /// For the next time that this file is opened.
+    void KeepPlace() const;
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.
     bool MayGo();
@@ -95,6 +98,7 @@ private:
     NodePane* m_nodes;
     DialogPane* m_dialog;
     MessageList* m_messages;
+    HintBar* m_hint;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
     QMenu* m_fileMenu;
@@ -104,6 +108,7 @@ private:
     QMenu* m_toolsMenu;
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
+    ViewActions* m_viewActions = nullptr;
     TKE::ErrorHandler::Subscription m_reports;
 };
 
