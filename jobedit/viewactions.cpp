@@ -20,7 +20,9 @@ ViewActions::ViewActions(MainWindow& window) : QObject(&window), m_window(window
     QMenu* menu = window.ViewMenu();
     AddForms();
     menu->addSeparator();
-    menu->addAction(window.MessageDock()->toggleViewAction());
+    QAction* messages = window.MessageDock()->toggleViewAction();
+    messages->setText(MainWindow::tr("&Messages"));
+    menu->addAction(messages);
     QAction* night = menu->addAction(MainWindow::tr("Night &Colours"));
     night->setCheckable(true);
     night->setChecked(NightColours::AreOn());

@@ -239,6 +239,7 @@ private Q_SLOTS:
         QFETCH(bool, night);
         const auto restore = qScopeGuard([] { NightColours::Switch(false); });
         NightColours::Switch(night);
+        QCoreApplication::processEvents();
         const auto* model = m_window->Nodes().View()->model();
         const QBrush dimmed = model->index(0, 0).data(Qt::ForegroundRole).value<QBrush>();
         const QPalette palette = m_window->Nodes().View()->palette();
