@@ -388,6 +388,8 @@ void MainWindow::ReportRefusals()
 bool MainWindow::Run(const QString& title, const QString& failure,
                      const std::function<bool(TKE::FileError&)>& operation)
 {
+    if (LongWork::IsUnderWay())
+        return false; // one after the other: this came while the window only painted itself
     TKE::FileError error;
     auto work = std::make_unique<LongWork>(title, this);
     m_document->SetProgress([&work](qint64 done, qint64 all) { return work->Progress(done, all); });
