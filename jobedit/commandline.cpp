@@ -73,8 +73,8 @@ int Edit(const QString& file)
     Editor editor(JobDocument::ConfiguredModel());
     MainWindow& window = editor.Window();
     // A file that cannot be opened is reported in the window, which then starts with the sample.
-    if (file.isEmpty() || !window.OpenFile(file))
-        window.NewFromSample();
+    if ((file.isEmpty() || !window.OpenFile(file)) && window.NewFromSample())
+        window.OfferHint();
     window.show();
     window.Recovery().OfferAll();
     return QApplication::exec();

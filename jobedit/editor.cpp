@@ -2,6 +2,9 @@
 
 #include "dialogpane.h"
 #include "languages.h"
+#include "longwork.h"
+
+#include <QTimer>
 
 namespace JOBEDIT
 {
@@ -15,6 +18,8 @@ Editor::~Editor() = default;
 
 void Editor::SetLanguage(const QString& language)
 {
+    if (LongWork::IsUnderWay()) // which goes on in the window that there is
+        return QTimer::singleShot(50, this, [this, language] { SetLanguage(language); });
     CommitPendingEdit();
     Languages::Keep(language);
     Languages::Apply(language);

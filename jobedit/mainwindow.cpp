@@ -5,6 +5,10 @@
 #include "dialogpane.h"
 #include "editactions.h"
 #include "languages.h"
+#include "filedrop.h"
+#include "guidewindow.h"
+#include "hintbar.h"
+#include "lastplaces.h"
 #include "longwork.h"
 #include "findbar.h"
 #include "fieldmarks.h"
@@ -21,8 +25,8 @@
 #include "recoveryoffer.h"
 #include "valuesdock.h"
 #include "valuewidgets/textentry.h"
+#include "viewactions.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -37,6 +41,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeView>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace JOBEDIT
@@ -53,6 +58,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     , m_nodes(new NodePane(this))
     , m_dialog(new DialogPane(this))
     , m_messages(new MessageList(this))
+    , m_hint(new HintBar(this))
     , m_splitter(new QSplitter(this))
     , m_messageDock(new QDockWidget(tr("Messages"), this))
     , m_fileMenu(menuBar()->addMenu(tr("&File")))
@@ -66,7 +72,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     MakePanes();
     FillFileMenu();
     FillNodeMenu();
-    FillViewMenu();
+    m_viewActions = new ViewActions(*this);
     new EditActions(*this);
     m_compare = new CompareActions(*this);
     new ReuseActions(*this);
@@ -75,6 +81,8 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     new FieldMenu(*this);
     m_recovery = new RecoveryOffer(*this);
     m_values = new ValuesDock(*this);
+    connect(new FileDrop(*this), &FileDrop::Dropped, this, &MainWindow::OpenFile);
+    m_helpMenu->addAction(tr("&Guide"), QKeySequence::HelpContents, this, [this] { GuideWindow::Open(this); });
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
@@ -113,12 +121,19 @@ void MainWindow::TakeView(MainWindow& other)
     restoreGeometry(other.saveGeometry());
     restoreState(other.saveState());
     m_splitter->restoreState(other.m_splitter->saveState());
+    m_hint->setVisible(other.m_hint->isVisible());
     m_messages->TakeFrom(*other.m_messages);
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
     GoTo(other.GetPlace());
     for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
         panel->MakeAgain(this);
-    FocusPane(other.CurrentPane());
+    m_viewActions->FocusPane(other.m_viewActions->CurrentPane());
+}
+
+void MainWindow::KeepPlace() const
+{
+    if (!m_document->GetFileName().isEmpty())
+        LastPlaces::Keep(m_document->GetFileName(), GetPlace());
 }
 
 Place MainWindow::GetPlace() const
@@ -130,17 +145,23 @@ Place MainWindow::GetPlace() const
 
 void MainWindow::GoTo(const Place& place)
 {
-    m_dialog->SetForm(place.form);
     if (!m_nodes->SelectNode(place.node))
         return;
+    m_dialog->SetForm(place.form);
     if (QTabWidget* dialog = m_dialog->GetDialog(); dialog && dialog->isTabEnabled(place.tab))
         dialog->setCurrentIndex(place.tab);
+}
+
+void MainWindow::OfferHint()
+{
+    m_hint->Offer();
 }
 
 bool MainWindow::NewFromSample()
 {
     if (!MayGo())
         return false;
+    KeepPlace();
     return Run(
         tr("Making a new job"), [this](TKE::FileError& error) { return m_document->NewFromSample(error); },
         [this](const TKE::FileError& error) { return Fail(tr("The sample job could not be made."), error); });
@@ -164,6 +185,7 @@ bool MainWindow::OpenFile(const QString& fileName)
             return false;
         access = JobDocument::Access::ReadOnly;
     }
+    KeepPlace();
     const QString name = QFileInfo(fileName).fileName();
     if (!Run(
             tr("Opening %1").arg(name),
@@ -177,6 +199,8 @@ bool MainWindow::OpenFile(const QString& fileName)
     for (const TKE::FileError& warning : m_document->GetWarnings())
         m_messages->Add(TKE::Severity::Warning, warning.ToText());
     RecentFiles::Add(fileName);
+    GoTo(LastPlaces::Find(fileName));
+    m_hint->hide();
     statusBar()->showMessage(tr("%1 opened").arg(m_document->GetFileName()), 5000);
     m_recovery->OfferForOpenJob();
     return true;
@@ -231,6 +255,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (!MayGo())
         return event->ignore();
+    KeepPlace();
     QSettings settings;
     settings.setValue("window/geometry", saveGeometry());
     settings.setValue("window/state", saveState());
@@ -246,7 +271,13 @@ void MainWindow::MakePanes()
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setContentsMargins(6, 6, 6, 0);
-    setCentralWidget(m_splitter);
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_splitter, 1);
+    setCentralWidget(centre);
 
     m_messageDock->setObjectName("messageDock");
     m_messageDock->setWidget(m_messages);
@@ -266,7 +297,7 @@ void MainWindow::FillFileMenu()
     menu->addAction(tr("Re&cover Edits..."), this, [this] { m_recovery->OfferAgain(); });
     menu->addSeparator();
     menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
-    menu->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &MainWindow::SaveAs);
+    menu->addAction(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this, &MainWindow::SaveAs);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
@@ -284,36 +315,6 @@ void MainWindow::FillNodeMenu()
                         filter->setFocus(Qt::ShortcutFocusReason);
                         filter->selectAll();
                     });
-}
-
-void MainWindow::FillViewMenu()
-{
-    QMenu* menu = m_viewMenu;
-    auto* forms = new QActionGroup(menu);
-    const auto addForm = [&](const QString& text, Qt::Key key, Form form)
-    {
-        QAction* action =
-            menu->addAction(text, QKeySequence(Qt::CTRL | key), m_dialog, [this, form] { m_dialog->SetForm(form); });
-        action->setCheckable(true);
-        action->setChecked(m_dialog->GetForm() == form);
-        forms->addAction(action);
-        connect(m_dialog, &DialogPane::FormChanged, action,
-                [this, action, form] { action->setChecked(m_dialog->GetForm() == form); });
-    };
-    addForm(tr("&Job Form"), Qt::Key_1, Form::Job);
-    addForm(tr("&Stand-Alone Form"), Qt::Key_2, Form::StandAlone);
-    menu->addSeparator();
-    menu->addAction(m_messageDock->toggleViewAction());
-    QAction* night = menu->addAction(tr("Night &Colours"));
-    night->setCheckable(true);
-    night->setChecked(NightColours::AreOn());
-    connect(night, &QAction::toggled, this, &NightColours::Switch);
-    auto* languages = new Languages(menu);
-    connect(languages, &Languages::Chosen, this, &MainWindow::LanguageChosen);
-    menu->addMenu(languages);
-    menu->addSeparator();
-    menu->addAction(tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
-    menu->addAction(tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this, [this] { MovePane(-1); });
 }
 
 void MainWindow::Slot_OnOpen()
@@ -376,45 +377,6 @@ void MainWindow::FillPanelMenu()
             m_panelMenu->addAction(QCoreApplication::translate("JOBEDIT::DirectPanels", panel->title), this,
                                    [this, node = *node, panel] { (new PanelWindow(node, *panel, this))->show(); });
     m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
-}
-
-int MainWindow::CurrentPane() const
-{
-    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
-    const QWidget* focus = focusWidget();
-    int pane = 0;
-    // The dialog stands within the pane of the switch: the innermost counts.
-    for (int index = 0; index < int(std::size(panes)); ++index)
-        if (panes[index] && focus && (panes[index] == focus || panes[index]->isAncestorOf(focus)))
-            pane = index;
-    return pane;
-}
-
-void MainWindow::MovePane(int step)
-{
-    const QWidget* const panes[] = {m_nodes, m_dialog, m_dialog->GetDialog(), m_messageDock};
-    int pane = CurrentPane();
-    do
-        pane = (pane + step + int(std::size(panes))) % int(std::size(panes));
-    while (!panes[pane] || !panes[pane]->isVisible());
-    FocusPane(pane);
-}
-
-void MainWindow::FocusPane(int pane)
-{
-    switch (pane)
-    {
-    case 0:
-        return m_nodes->View()->setFocus(Qt::TabFocusReason);
-    case 1:
-        return m_dialog->FocusSwitch();
-    case 2:
-        return m_dialog->FocusDialog();
-    case 3:
-        return m_messages->setFocus(Qt::TabFocusReason);
-    default:
-        return m_values->Filter()->setFocus(Qt::TabFocusReason);
-    }
 }
 
 bool MainWindow::MayGo()
@@ -512,6 +474,8 @@ void MainWindow::ReportRefusals()
 bool MainWindow::Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
                      const std::function<bool(const TKE::FileError&)>& failed)
 {
+    if (LongWork::IsUnderWay())
+        return false; // one after the other: this came while the window only painted itself
     TKE::FileError error;
     auto work = std::make_unique<LongWork>(title, this);
     m_document->SetProgress([&work](qint64 done, qint64 all) { return work->Progress(done, all); });

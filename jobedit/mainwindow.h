@@ -16,10 +16,12 @@ namespace JOBEDIT
 
 class CompareActions;
 class DialogPane;
+class HintBar;
 class MessageList;
 class NodePane;
 class RecoveryOffer;
 class ValuesDock;
+class ViewActions;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -46,6 +48,8 @@ public:
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& fileName);
+    /// Tells a new user where to begin, unless that is not wanted any more.
+    void OfferHint();
 
     JobDocument& Document() { return *m_document; }
     /// The menus, for the actions that stand in files of their own.
@@ -59,6 +63,7 @@ public:
     MessageList& Messages() { return *m_messages; }
     RecoveryOffer& Recovery() { return *m_recovery; }
     CompareActions& Comparing() { return *m_compare; }
+    QDockWidget* MessageDock() const { return m_messageDock; }
     Place GetPlace() const;
     /// What of the place the job has.
     void GoTo(const Place& place);
@@ -74,7 +79,6 @@ private:
     void MakePanes();
     void FillFileMenu();
     void FillNodeMenu();
-    void FillViewMenu();
 
     void Slot_OnOpen();
     void Slot_OnReplaced();
@@ -83,9 +87,8 @@ private:
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
-    int CurrentPane() const;
-    void FocusPane(int pane);
-    void MovePane(int step);
+    /// For the next time that this file is opened.
+    void KeepPlace() const;
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.
     bool MayGo();
@@ -109,6 +112,7 @@ private:
     NodePane* m_nodes;
     DialogPane* m_dialog;
     MessageList* m_messages;
+    HintBar* m_hint;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
     ValuesDock* m_values = nullptr;
@@ -122,6 +126,7 @@ private:
     CompareActions* m_compare = nullptr;
     RecoveryOffer* m_recovery = nullptr;
     QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
+    ViewActions* m_viewActions = nullptr;
     TKE::ErrorHandler::Subscription m_reports;
 };
 

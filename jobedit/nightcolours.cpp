@@ -18,8 +18,8 @@ QPalette NightPalette()
     const QColor text(0xc8, 0xcc, 0xd0);
     const QColor faint(0x8c, 0x92, 0x98);
     QPalette palette(QColor(0x33, 0x37, 0x3c), QColor(0x26, 0x29, 0x2d)); // buttons, windows; shades follow
-    palette.setColor(QPalette::Base, QColor(0x1d, 0x20, 0x23));
-    palette.setColor(QPalette::AlternateBase, QColor(0x22, 0x25, 0x29));
+    palette.setColor(QPalette::Base, QColor(0x16, 0x18, 0x1b));
+    palette.setColor(QPalette::AlternateBase, QColor(0x1b, 0x1e, 0x21));
     palette.setColor(QPalette::ToolTipBase, QColor(0x33, 0x37, 0x3c));
     palette.setColor(QPalette::Highlight, QColor(0x2f, 0x5d, 0x8a));
     palette.setColor(QPalette::Link, QColor(0x6f, 0xa8, 0xdc));

@@ -62,6 +62,7 @@ void NodePane::SetNodes(std::vector<JobNode> nodes)
         for (const JobNode& node : m_model->GetNodes())
             if (HasDialog(node) && SelectNode(node.path))
                 break;
+        m_view->scrollToTop();
     }
     emit CurrentChanged();
 }

@@ -51,6 +51,8 @@ void RecentFiles::Fill()
         const QString& file = files[number];
         // An ampersand in a file name is no mnemonic.
         QString text = QDir::toNativeSeparators(file).replace('&', "&&");
+        if (!QFileInfo::exists(file))
+            text = tr("%1 (not there)").arg(text);
         text = number < 9 ? QString("&%1  %2").arg(number + 1).arg(text) : "    " + text;
         QAction* action = addAction(text, this, [this, file] { emit Chosen(file); });
         action->setToolTip(file);

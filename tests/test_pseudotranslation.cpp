@@ -193,6 +193,7 @@ private Q_SLOTS:
             emit menu->aboutToShow();
         for (QDockWidget* dock : m_window->findChildren<QDockWidget*>())
             dock->show();
+        m_window->OfferHint();
         LongWork work("‹Long work›", m_window.get());
         QTest::qWait(LongWork::ShownAfterMs + 20);
         QVERIFY(work.Progress(1, 2));
@@ -200,6 +201,47 @@ private Q_SLOTS:
         CheckAll("window", *m_window);
         CheckFit("window", *m_window);
         Check("window", "title", m_window->windowTitle());
+        Verdict();
+    }
+
+    void everyQuestionIsTranslatedAndFits()
+    {
+        const QString file = m_directory.filePath("a.job.xml");
+        for (const QString& name : {file, QString("nowhere.xml"), QString("/nowhere/a.xml")})
+            m_exceptions.insert(QFileInfo(name).absoluteFilePath() + ":"); // where a reason follows
+        int asked = 0;
+        QTimer user;
+        user.callOnTimeout(
+            [&]
+            {
+                auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                if (!dialog)
+                    return;
+                ++asked;
+                const QString where = "question " + QString::number(asked);
+                CheckAll(where, *dialog);
+                CheckFit(where, *dialog);
+                dialog->reject();
+            });
+        user.start(10);
+        const auto change = []
+        {
+            ValueBase* value = Tree::Instance()->FindValue(u"/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY");
+            QVERIFY(value->SetStoredText("7100000"));
+        };
+        QVERIFY(m_window->SaveTo(file));
+        QVERIFY(!m_window->OpenFile("nowhere.xml")); // not to be read
+        change();
+        QVERIFY(!m_window->NewFromSample()); // not saved
+        QFile other(file);
+        QVERIFY(other.open(QIODevice::Append) && other.write(" ") == 1);
+        other.close();
+        QVERIFY(!m_window->Save()); // changed by somebody else
+        QVERIFY(!m_window->SaveTo("/nowhere/a.xml")); // not to be written
+        for (QAction* action : m_window->findChildren<QAction*>())
+            if (action->text().contains("About"))
+                action->trigger();
+        QCOMPARE(asked, 5);
         Verdict();
     }
 

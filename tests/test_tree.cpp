@@ -1,3 +1,4 @@
+#include "value/idledisposal.h"
 #include "value/tree.h"
 
 #include <QtTest>
@@ -50,6 +51,30 @@ class test_tree : public QObject
 
 private slots:
     void cleanup() { m_tree.Clear(); }
+
+    void WhatIsClearedLaterIsGoneAtOnceForAllWhoHoldIt()
+    {
+        constexpr int count = 5000; // more than goes in one step
+        std::vector<ValueBase*> values;
+        for (int i = 0; i < count; ++i)
+            values.push_back(m_tree.CreateValue<TextValue>(QString("/A/%1/B/K%2").arg(i % 3).arg(i), text));
+        int told = 0;
+        Hearer hearer([&](Observable*, TChangeCode code) { told += code == ccState && m_tree.ValueCount() == 0; });
+        for (ValueBase* value : values)
+            value->Attach(&hearer);
+        m_tree.ClearLater();
+        QCOMPARE(told, count);
+        QVERIFY(m_tree.GetTopNodes().empty());
+        QVERIFY(!m_tree.FindNode(u"/A/0"));
+        QVERIFY(IdleDisposal::IsUnderWay());
+        QCOMPARE(values.back()->GetPathName(), QString("/A/%1/B/K%2").arg((count - 1) % 3).arg(count - 1));
+        // The place is free for others meanwhile.
+        QVERIFY(m_tree.CreateValue<TextValue>(u"/A/0/B/K0", text));
+        QTRY_VERIFY(!IdleDisposal::IsUnderWay());
+        QCOMPARE(m_tree.ValueCount(), size_t(1));
+        m_tree.Clear(); // the hearer holds nothing of what is gone
+        QCOMPARE(told, count);
+    }
 
     void AValueIsFoundByItsPathAndByNoOther_data()
     {

@@ -198,7 +198,7 @@ void JobFile::ReleaseLock()
     m_lock.reset();
 }
 
-FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobModel> model)
+FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobModel> model, const Progress& progress)
 {
     if (!model)
         model = JobModel::Load();
@@ -212,11 +212,21 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         return {error};
 
     Tree tree;
-    const JournalPause pause(tree);
-    JobLayout layout;
-    JobReader reader(tree, tree, layout, *model, fileName, JobReader::Purpose::Check);
-    reader.Read(file);
-    return reader.GetErrors();
+    auto layout = std::make_unique<JobLayout>();
+    FileErrors errors;
+    {
+        const JournalPause pause(tree);
+        JobReader reader(tree, tree, *layout, *model, fileName, JobReader::Purpose::Check);
+        reader.SetProgress(progress);
+        reader.Read(file);
+        errors = reader.GetErrors();
+    }
+    if (progress) // somebody looks on
+    {
+        JobLayout::DisposeLater(std::move(layout));
+        tree.ClearLater();
+    }
+    return errors;
 }
 
 const NodeSpec* JobFile::FindNodeSpec(QStringView path) const

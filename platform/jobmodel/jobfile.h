@@ -84,7 +84,8 @@ public:
     void ReleaseLock();
 
     /// All errors and warnings of a file, at most 1000, without touching any tree that is in use.
-    static FileErrors Check(const QString& fileName, std::shared_ptr<const JobModel> model = {});
+    static FileErrors Check(const QString& fileName, std::shared_ptr<const JobModel> model = {},
+                            const Progress& progress = {});
 
     /// What the job says about the node at `path`; null when it says nothing (a channel's node, for example).
     const NodeSpec* FindNodeSpec(QStringView path) const;
