@@ -320,6 +320,32 @@ private slots:
         QCOMPARE(StepsForth(), 1);
     }
 
+    void whatAnObserverWritesMeanwhileIsSetRight()
+    {
+        struct Meddler final : IObserver
+        {
+            void Update(Observable*, TChangeCode code) override
+            {
+                if (code == ccContent)
+                    Editor::Value(volume)->SetStoredText("5");
+            }
+            QString volume = tunerPath + Keys::TUNER_HF_NB_AUDIOVOLUME;
+        } meddler;
+        Editor::Value(frequencyPath)->Attach(&meddler);
+        const auto write = [](const QString& path, const QString& text)
+        {
+            Editor::Value(path)->SetStoredText(text);
+            QCoreApplication::processEvents();
+        };
+        write(frequencyPath, "7000000");
+        write(meddler.volume, "7");
+        write(frequencyPath, "7000001");
+        History().Undo();
+        QCOMPARE(Editor::Stored(meddler.volume), "7");
+        History().Redo();
+        CompareSteps(3);
+    }
+
     void stepsOfOneNameHoldAllAndNothingIsNoStep()
     {
         {
