@@ -237,6 +237,9 @@ private Q_SLOTS:
         QCOMPARE(MarkBeside(field), "both");
         bar->setValue(0);
         QCOMPARE(MarkBeside(field), "both");
+        bar->setValue(field->mapTo(area->widget(), QPoint(0, field->height() + 2)).y());
+        QVERIFY(field->visibleRegion().isEmpty());
+        QVERIFY(MarkBeside(field) != "both" && MarkBeside(field) != "filled");
     }
 
     void theMarksOfAPanelWindowGoWithTheValuesThatTheyStandFor()
