@@ -86,8 +86,12 @@ void ValueDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     // Between the label and the value, as in the dialogs.
     const QRect bar(option.rect.right() - ChangeMark::width, option.rect.top() + 1, ChangeMark::width,
                     option.rect.height() - 2);
+    QPalette palette = option.palette;
+    if (option.state & QStyle::State_Selected)
+        for (const auto role : {QPalette::Link, QPalette::PlaceholderText})
+            palette.setColor(role, palette.color(QPalette::HighlightedText));
     painter->save();
-    static_cast<const ValuesModel*>(index.model())->MarkAt(index).Paint(*painter, bar, option.palette);
+    static_cast<const ValuesModel*>(index.model())->MarkAt(index).Paint(*painter, bar, palette);
     painter->restore();
 }
 

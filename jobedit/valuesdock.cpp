@@ -29,6 +29,23 @@ constexpr int typingPause = 150;   // ms
 constexpr int changePause = 300;   // ms
 constexpr int openedAtOnce = 2000; // a tree of so many values opens by itself when it is filtered
 constexpr int openedHeight = 280;  // pixels
+const char* const columnsKey = "values/columns";
+
+// What is typed into the list goes into the filter: Qt's search would look at a million rows one by one.
+class FilteringView final : public QTreeView
+{
+public:
+    FilteringView(QLineEdit* filter, QWidget* parent) : QTreeView(parent), m_filter(filter) {}
+
+    void keyboardSearch(const QString& text) override
+    {
+        m_filter->setFocus();
+        m_filter->insert(text);
+    }
+
+private:
+    QLineEdit* m_filter;
+};
 
 } // namespace
 
@@ -38,7 +55,7 @@ ValuesDock::ValuesDock(MainWindow& window)
     , m_model(new ValuesModel(window.Document(), this))
     , m_scan(new ValueScan(window.Document(), this))
     , m_filter(new QLineEdit(this))
-    , m_view(new QTreeView(this))
+    , m_view(new FilteringView(m_filter, this))
     , m_count(new QLabel(this))
 {
     setObjectName("valuesDock");
@@ -66,6 +83,11 @@ ValuesDock::ValuesDock(MainWindow& window)
             });
     connect(this, &ValuesDock::Activated, this, &ValuesDock::GoTo);
     Slot_OnShapeChanged();
+}
+
+ValuesDock::~ValuesDock()
+{
+    QSettings().setValue(columnsKey, m_view->header()->saveState());
 }
 
 void ValuesDock::Fill()
@@ -96,12 +118,11 @@ void ValuesDock::Fill()
     layout->addWidget(m_view);
     setWidget(content);
 
-    m_asTree = AddSwitch("asTree", tr("&Tree"), tr("By node, in the order of the job"));
-    m_onlyFromSaved = AddSwitch("onlyFromSaved", tr("&Changed"), tr("Only values that differ from the saved file"));
-    m_onlyFromDefault =
-        AddSwitch("onlyFromDefault", tr("Not de&fault"), tr("Only values that differ from the default"));
+    m_asTree = AddSwitch("asTree", tr("Tree"), tr("By node, in the order of the job"));
+    m_onlyFromSaved = AddSwitch("onlyFromSaved", tr("Changed"), tr("Only values that differ from the saved file"));
+    m_onlyFromDefault = AddSwitch("onlyFromDefault", tr("Not default"), tr("Only values that differ from the default"));
     m_onlyThisNode =
-        AddSwitch("onlyThisNode", tr("This no&de"), tr("Only values of the selected node and those below it"));
+        AddSwitch("onlyThisNode", tr("This node"), tr("Only values of the selected node and those below it"));
     m_asTree->setChecked(QSettings().value(treeKey, true).toBool());
     row->addWidget(m_filter, 1);
     for (QCheckBox* box : {m_asTree, m_onlyFromSaved, m_onlyFromDefault, m_onlyThisNode})
@@ -157,8 +178,9 @@ void ValuesDock::AddActions()
                     emit Activated(path);
             });
     connect(m_view, &QWidget::customContextMenuRequested, this, &ValuesDock::Slot_OnMenuRequested);
-    connect(m_view->header(), &QHeaderView::sortIndicatorChanged, this, &ValuesDock::Refresh);
     m_view->header()->setSortIndicator(ValueListing::Path, Qt::AscendingOrder);
+    m_view->header()->restoreState(QSettings().value(columnsKey).toByteArray());
+    connect(m_view->header(), &QHeaderView::sortIndicatorChanged, this, &ValuesDock::Refresh);
 }
 
 void ValuesDock::showEvent(QShowEvent* event)

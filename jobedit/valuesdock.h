@@ -23,6 +23,7 @@ class ValuesDock : public QDockWidget
 
 public:
     explicit ValuesDock(MainWindow& window);
+    ~ValuesDock() override;
 
     QTreeView* View() const { return m_view; }
     QLineEdit* Filter() const { return m_filter; }

@@ -7,6 +7,7 @@
 #include "jobedit/nodepane.h"
 #include "jobedit/panelwindow.h"
 #include "keys/keys.h"
+#include "valuewidgets/vclineedit.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vctimeperiod.h"
 
@@ -236,6 +237,9 @@ private Q_SLOTS:
         QCOMPARE(MarkBeside(field), "both");
         bar->setValue(0);
         QCOMPARE(MarkBeside(field), "both");
+        bar->setValue(field->mapTo(area->widget(), QPoint(0, field->height() + 2)).y());
+        QVERIFY(field->visibleRegion().isEmpty());
+        QVERIFY(MarkBeside(field) != "both" && MarkBeside(field) != "filled");
     }
 
     void theMarksOfAPanelWindowGoWithTheValuesThatTheyStandFor()
@@ -321,6 +325,10 @@ private Q_SLOTS:
         QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Find("/T/Start"));
         QCOMPARE(Fields::Of(&box).value, Find("/T/On"));
         QVERIFY(!Fields::Of(other).value);
+        VCLineEdit locked;
+        QVERIFY(locked.Bind(Find("/T/Start")) && Fields::IsEditable(Fields::Of(&locked)));
+        locked.Lock();
+        QVERIFY(Fields::Of(&locked).value && !Fields::IsEditable(Fields::Of(&locked)));
         Tree::Instance()->RemoveBranch(u"/T");
         QVERIFY(!Fields::Of(&box).value && !Fields::Of(period).value);
     }

@@ -274,6 +274,17 @@ private Q_SLOTS:
         QVERIFY(!m_window->Document().DiffersFromSaved(*Find(list)));
     }
 
+    void whatIsTypedIntoTheListFilters()
+    {
+        View()->setCurrentIndex(Model().IndexOf(frequencyPath));
+        View()->setFocus();
+        QTest::keyClick(View(), Qt::Key_T);
+        QTest::keyClicks(QApplication::focusWidget(), "uner_hf");
+        QCOMPARE(m_dock->Filter()->text(), "tuner_hf");
+        Settle();
+        QCOMPARE(Model().PathAt(View()->currentIndex()), frequencyPath);
+    }
+
     void aDisabledValueIsNotEdited()
     {
         Find(frequencyPath)->SetState(stDisabled);
