@@ -161,6 +161,34 @@ private slots:
 #endif
     }
 
+    void ValuesKeepTheirMemoryToThemselvesWithoutAskingTheHeapForEach()
+    {
+        constexpr int count = 1000;
+        const auto path = [](int i) { return QStringLiteral("/Jobs/V%1").arg(i); };
+        const auto make = [&](int i) { m_tree.CreateValue<IntValue>(path(i))->SetValue(i); };
+        for (int i = 0; i < count; ++i)
+            make(i);
+        for (int i = 0; i < count; i += 2) // what is made next takes the place of these
+            m_tree.RemoveValue(path(i));
+        for (int i = count; i < count + count / 2; ++i)
+            make(i);
+        for (int i = 1; i < count; i += 2)
+            QCOMPARE(m_tree.FindValue(path(i))->GetText().toInt(), i);
+        for (int i = count; i < count + count / 2; ++i)
+            QCOMPARE(m_tree.FindValue(path(i))->GetText().toInt(), i);
+#ifdef COUNTS_ALLOCATIONS
+        std::vector<const QString*> names; // known already
+        for (int i = 0; i < count; ++i)
+            names.push_back(&Tree::Intern(QStringLiteral("V%1").arg(i)));
+        m_tree.Clear();
+        Node* node = m_tree.CreateNode(u"/Jobs");
+        const size_t before = allocations;
+        for (const QString* name : names)
+            m_tree.CreateValue(*node, *name, ValueDescriptor::Plain(ValueKind::Int), "7");
+        QVERIFY2(allocations - before < count / 10, qPrintable(QString::number(allocations - before)));
+#endif
+    }
+
     void NodesAndValuesStandInTheOrderOfCreation()
     {
         for (const char* path : {"/b/x", "/a/y", "c/z", "/b/w"})

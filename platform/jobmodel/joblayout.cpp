@@ -31,6 +31,8 @@ TKE::Node* JobNode::Create(Tree& tree, std::vector<ValueBase*>& found)
     for (size_t i = 0; i < entries.size(); ++i)
     {
         const NodeTemplate::Entry& entry = entries[i];
+        if (const size_t later = i + 8; later < entries.size())
+            tree.Expect(*homes[entries[later].home], *entries[later].name);
         ValueBase* value = tree.CreateValue(*homes[entry.home], *entry.name, *entry.descriptor, entry.defaultText);
         if (!value)
         {

@@ -277,16 +277,34 @@ void JobReader::EndValue()
     Release(m_taken);
 }
 
+// Whether `element` is what the writer would put.
+bool JobReader::IsAsWritten(std::string_view element, const NodeTemplate::Entry& entry, const ValueBase& value)
+{
+    m_element.clear();
+    constexpr std::string_view begin = "<Value name=\"", tagEnd = "\">", end = "</Value>";
+    const size_t tagSize = size_t(m_tagEnd - m_valueBegin);
+    // The element has this name. Where its tag is no longer than this, the name stands in it without escapes, as a plain
+    // one does in the writer's.
+    if (value.GetKind() == ValueKind::Text || !entry.isPlain ||
+        tagSize != begin.size() + entry.fileName.size() + tagEnd.size())
+    {
+        JobWriter::AppendElement(m_element, entry, value);
+        return element == m_element;
+    }
+    value.AppendStored(m_element);
+    return !m_element.empty() && element.size() == tagSize + m_element.size() + end.size() &&
+           element.starts_with(begin) && element.substr(0, tagSize).ends_with(tagEnd) && element.ends_with(end) &&
+           element.substr(tagSize, m_element.size()) == m_element;
+}
+
 void JobReader::AddValuePiece(JobNode& node, ValueBase& value)
 {
     const NodeTemplate::Entry& entry = node.values->GetEntries()[m_entry];
     const std::string_view lead = TakeGap(m_valueBegin);
     const std::string_view element = Source(m_valueBegin, PieceEnd());
-    m_element.clear();
-    JobWriter::AppendElement(m_element, entry, value);
     if (!std::exchange(node.hasValues, true))
         node.valueLead = lead;
-    if (element == m_element && lead == node.valueLead)
+    if (lead == node.valueLead && IsAsWritten(element, entry, value))
     {
         node.Add(JobNode::Piece::Value, m_entry);
         return;

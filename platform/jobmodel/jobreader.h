@@ -46,6 +46,7 @@ private:
     void EndNode();
     void StartValue(Attributes attributes);
     void EndValue();
+    bool IsAsWritten(std::string_view element, const NodeTemplate::Entry& entry, const ValueBase& value);
     void AddValuePiece(JobNode& node, ValueBase& value);
     void StartUnknown(std::string_view name);
 
@@ -69,7 +70,7 @@ private:
     qint64 m_additionBegin = 0;
     std::string m_text;
     std::string m_additions;
-    std::string m_element; // as the writer would put it
+    std::string m_element; // as the writer would put it, or its content
 };
 
 } // namespace TKE

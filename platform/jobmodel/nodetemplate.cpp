@@ -3,6 +3,9 @@
 #include "keys/keymanager.h"
 #include "value/tree.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace TKE
 {
 
@@ -107,6 +110,8 @@ void NodeTemplate::AddParameter(const Parameter& parameter, int channel, const N
     entry.home = HomeOf(QStringView(paths.tree).first(slash + 1), paths.absolute);
     entry.slot = quint32(m_homes[entry.home].size++);
     entry.startsDisabled = parameter.StartsDisabled();
+    entry.isPlain = std::all_of(entry.fileName.begin(), entry.fileName.end(),
+                                [](unsigned char byte) { return std::isalnum(byte) || byte == '_' || byte == '/'; });
     m_entries.push_back(std::move(entry));
     m_byFileName.insert(quint32(m_entries.size() - 1));
 }
@@ -126,7 +131,8 @@ void NodeTemplate::AddRule(const ParameterRule& rule, const ParameterGroup& grou
 
 quint32 NodeTemplate::HomeOf(QStringView path, bool absolute)
 {
-    for (size_t i = 0; i < m_homes.size(); ++i)
+    // Usually the latest: a channel's values follow one another.
+    for (size_t i = m_homes.size(); i-- > 0;)
     {
         if (m_homes[i].path == path && m_homes[i].absolute == absolute)
             return quint32(i);

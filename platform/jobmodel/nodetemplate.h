@@ -34,6 +34,7 @@ public:
         quint32 home; ///< index of its Home
         quint32 slot; ///< how many values of the template its home has before
         bool startsDisabled;
+        bool isPlain; ///< the file name stands in files as it is, without escapes
     };
     /// Target and source are indices of entries.
     struct Rule

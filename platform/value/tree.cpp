@@ -221,6 +221,11 @@ ValueBase* Tree::CreateValue(Node& node, const QString& name, const ValueDescrip
     return value;
 }
 
+void Tree::Expect(const Node& node, const QString& name) const
+{
+    m_index->values.Prefetch(HashOfValue(node.m_hash, name));
+}
+
 ValueBase* Tree::Make(Node& node, const QString& name, const ValueDescriptor& descriptor)
 {
     const auto make = [&]<class V>(std::type_identity<V>) -> ValueBase*

@@ -57,6 +57,8 @@ public:
     /// The same for who makes many: `name` is one segment that Intern gave, `content` the stored form of the content.
     ValueBase* CreateValue(Node& node, const QString& name, const ValueDescriptor& descriptor,
                            std::string_view content);
+    /// Fetches from memory what making that value will need, while other work goes on.
+    void Expect(const Node& node, const QString& name) const;
     /// The name, kept until the program ends and once only.
     static const QString& Intern(QStringView name);
 
