@@ -62,7 +62,6 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     connect(new FileDrop(*this), &FileDrop::Dropped, this, &MainWindow::OpenFile);
     m_helpMenu->addAction(tr("&Guide"), QKeySequence::HelpContents, this, [this] { GuideWindow::Open(this); });
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
-    RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
     connect(m_document, &JobDocument::FileNameChanged, this, &MainWindow::Slot_OnFileNameChanged);
@@ -74,6 +73,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     Slot_OnFileNameChanged();
     Slot_OnReplaced();
     m_nodes->View()->setFocus();
+    RestoreLayout(); // at last, when all docks are there
 }
 
 MainWindow::~MainWindow()
@@ -94,6 +94,7 @@ void MainWindow::TakeView(MainWindow& other)
     restoreState(other.saveState());
     m_splitter->restoreState(other.m_splitter->saveState());
     m_hint->setVisible(other.m_hint->isVisible());
+    other.ReportRefusals();
     m_messages->TakeFrom(*other.m_messages);
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
     GoTo(other.GetPlace());
