@@ -1,13 +1,13 @@
-#include "jobedit/longwork.h"
 #include "jobedit/dialogpane.h"
+#include "jobedit/longwork.h"
 #include "jobedit/mainwindow.h"
 #include "jobedit/messagelist.h"
 #include "jobedit/nodepane.h"
 #include "value/idledisposal.h"
 
 #include <QtTest>
-#include <ctime>
 #include <QtWidgets>
+#include <ctime>
 
 using namespace JOBEDIT;
 using namespace TKE;
@@ -17,8 +17,8 @@ namespace
 
 constexpr int copies = 300; // of the sample: a million values in a file of some 60 MB
 
-/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let: in processor time, since
-/// other programs run on this machine, too.
+/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let: in processor time,
+/// since other programs run on this machine, too.
 class Heart
 {
 public:
@@ -260,7 +260,8 @@ private Q_SLOTS:
     void inputWhileWorkIsUnderWayChangesNothing()
     {
         QVERIFY(m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/"));
-        auto* field = m_window->Dialog().GetDialog()->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
+        auto* field =
+            m_window->Dialog().GetDialog()->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
         field->setFocus();
         const QString text = field->text();
         int rounds = 0;
