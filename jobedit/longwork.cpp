@@ -79,7 +79,7 @@ bool LongWork::Progress(qint64 done, qint64 all)
         return m_outer->Progress(done, all);
     if (!m_window || !m_sinceEvents.hasExpired(eventsEveryMs))
         return !m_cancelled;
-    if (!m_panel && m_sinceStart.hasExpired(ShownAfterMs) && m_window->isVisible())
+    if (!m_panel && m_sinceStart.hasExpired(ShownAfterMs))
         Show();
     if (m_bar)
         m_bar->setValue(all > 0 ? int(double(std::min(done, all)) / double(all) * barSteps) : 0);
@@ -102,8 +102,11 @@ void LongWork::Cancel()
 
 void LongWork::Show()
 {
-    m_panel = new QFrame(m_window);
+    // When the program starts, there is no window on the screen yet.
+    const bool within = m_window->isVisible();
+    m_panel = new QFrame(within ? m_window.data() : nullptr);
     m_panel->setObjectName("longWork");
+    m_panel->setWindowTitle(m_window->windowTitle().remove("[*]"));
     m_panel->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Raised));
     m_panel->setAutoFillBackground(true);
     auto* title = new QLabel(m_title, m_panel);
@@ -122,7 +125,8 @@ void LongWork::Show()
     layout->addLayout(row);
     const QSize size = m_panel->sizeHint().expandedTo({360, 0}).boundedTo(m_window->size());
     m_panel->resize(size);
-    m_panel->move(QRect(QPoint(), m_window->size()).center() - QRect(QPoint(), size).center());
+    if (within)
+        m_panel->move(QRect(QPoint(), m_window->size()).center() - QRect(QPoint(), size).center());
     m_panel->show();
     m_panel->raise();
 }
@@ -142,7 +146,7 @@ bool LongWork::IsOnPanel(const QEvent& press) const
 bool LongWork::eventFilter(QObject* watched, QEvent* event)
 {
     // A question that the work itself asks has to be answered.
-    if (!m_inEvents || !IsInput(event->type()) || IsOwn(watched) || QApplication::activeModalWidget() != m_modal)
+    if (!m_inEvents || !IsInput(event->type()) || QApplication::activeModalWidget() != m_modal)
         return false;
     // What comes to a window of the window system goes on to the widgets, and is met again there. A click would have
     // moved the focus by then.
@@ -152,6 +156,8 @@ bool LongWork::eventFilter(QObject* watched, QEvent* event)
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (isEscape || event->type() == QEvent::Close || event->type() == QEvent::Quit)
         Cancel();
+    else if (IsOwn(watched))
+        return false;
     event->ignore();
     return true;
 }

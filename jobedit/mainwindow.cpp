@@ -88,7 +88,6 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     new CheckDock(*this);
     new PlanActions(*this);
     new ReportActions(*this);
-    RestoreLayout();
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
     connect(m_document, &JobDocument::NodesChanged, this, &MainWindow::Slot_OnNodesChanged);
@@ -102,6 +101,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     Slot_OnFileNameChanged();
     Slot_OnReplaced();
     m_nodes->View()->setFocus();
+    RestoreLayout(); // at last, when all docks are there
 }
 
 MainWindow::~MainWindow()
@@ -122,6 +122,7 @@ void MainWindow::TakeView(MainWindow& other)
     restoreState(other.saveState());
     m_splitter->restoreState(other.m_splitter->saveState());
     m_hint->setVisible(other.m_hint->isVisible());
+    other.ReportRefusals();
     m_messages->TakeFrom(*other.m_messages);
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
     GoTo(other.GetPlace());

@@ -138,8 +138,17 @@ bool NodePane::SelectNode(const QString& path)
 void NodePane::Expand()
 {
     // Nobody looks through thousands of rows, and to lay them out takes its time.
-    constexpr size_t mostExpanded = 3000;
-    if (m_model->GetNodes().size() <= mostExpanded)
+    constexpr int mostExpanded = 3000;
+    int rows = 0;
+    for (QModelIndexList left{QModelIndex()}; !left.isEmpty() && rows <= mostExpanded;)
+    {
+        const QModelIndex above = left.takeLast();
+        const int below = m_filtered->rowCount(above);
+        rows += below;
+        for (int row = 0; row < below && rows <= mostExpanded; ++row)
+            left << m_filtered->index(row, 0, above);
+    }
+    if (rows <= mostExpanded)
         m_view->expandAll();
     else
         m_view->expandToDepth(0);

@@ -1,13 +1,13 @@
-#include "jobedit/longwork.h"
 #include "jobedit/dialogpane.h"
+#include "jobedit/longwork.h"
 #include "jobedit/mainwindow.h"
 #include "jobedit/messagelist.h"
 #include "jobedit/nodepane.h"
 #include "value/idledisposal.h"
 
 #include <QtTest>
-#include <ctime>
 #include <QtWidgets>
+#include <ctime>
 
 using namespace JOBEDIT;
 using namespace TKE;
@@ -17,8 +17,8 @@ namespace
 
 constexpr int copies = 300; // of the sample: a million values in a file of some 60 MB
 
-/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let: in processor time, since
-/// other programs run on this machine, too.
+/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let: in processor time,
+/// since other programs run on this machine, too.
 class Heart
 {
 public:
@@ -216,10 +216,52 @@ private Q_SLOTS:
         QVERIFY(!value || (value->SetStoredText("7100000") && m_window->isWindowModified()));
     }
 
+    void progressIsShownBeforeThereIsAWindow()
+    {
+        m_window->hide();
+        QPointer<QWidget> panel;
+        QTimer user;
+        user.callOnTimeout(
+            [&]
+            {
+                for (QWidget* window : QApplication::topLevelWidgets())
+                    if (window->objectName() == "longWork" && window->isVisible())
+                        panel = window;
+                if (panel)
+                    QTest::keyClick(panel, Qt::Key_Escape);
+            });
+        user.start(5);
+        QVERIFY(!m_window->OpenFile(File("full.job.xml")));
+        QVERIFY(!panel);
+        QVERIFY(m_window->Document().GetFileName().isEmpty());
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void theFilterOfALargeJobAnswersAndShowsWhatMatches()
+    {
+        QVERIFY(m_window->OpenFile(File("sparse.job.xml")));
+        qint64 longest = 0;
+        for (const char key : {'_', 'v', 'u', 'h', 'f'})
+        {
+            const auto begin = std::clock();
+            QTest::keyClick(m_window->Nodes().Filter(), key);
+            longest = std::max<qint64>(longest, qint64(std::clock() - begin) * 1000 / CLOCKS_PER_SEC);
+        }
+#ifdef NDEBUG
+        QVERIFY2(longest < 150, qPrintable(QString::number(longest)));
+#endif
+        m_window->Nodes().Filter()->setText("J7");
+        const QTreeView* view = m_window->Nodes().View();
+        const QModelIndex job = view->model()->index(0, 0);
+        QCOMPARE(view->model()->rowCount(), 11); // J7 and J70 to J79
+        QVERIFY(view->isExpanded(job) && view->isExpanded(view->model()->index(0, 0, job)));
+    }
+
     void inputWhileWorkIsUnderWayChangesNothing()
     {
         QVERIFY(m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/"));
-        auto* field = m_window->Dialog().GetDialog()->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
+        auto* field =
+            m_window->Dialog().GetDialog()->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
         field->setFocus();
         const QString text = field->text();
         int rounds = 0;

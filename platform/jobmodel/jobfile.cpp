@@ -144,7 +144,8 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Fail(error, fileName, file.errorString());
-    JobWriter writer(m_tree, file, [this](qint64 done) { return !m_progress || m_progress(done, m_layout->byPath.size()); });
+    JobWriter writer(m_tree, file,
+                     [this](qint64 done) { return !m_progress || m_progress(done, m_layout->byPath.size()); });
     if (!writer.Write(*m_layout))
         return Fail(error, fileName, writer.WasCancelled() ? tr("Cancelled") : file.errorString());
     QString reason;
