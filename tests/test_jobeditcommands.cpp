@@ -167,7 +167,7 @@ private Q_SLOTS:
             if (FindChain(node))
                 tabs += MakeDialog(node, form == "job" ? Form::Job : Form::StandAlone, nullptr)->count();
         QVERIFY(tabs > 0);
-        QCOMPARE(QDir(File("d")).entryList({"*_" + form + "_*.png"}).size(), qsizetype(tabs));
+        QCOMPARE(QDir(File("d")).entryList({"*_" + form + "_*.png"}, QDir::Files | QDir::CaseSensitive).size(), qsizetype(tabs));
         QCOMPARE(outcome.out.count(".png\n"), QDir(File("d")).entryList(QDir::Files).size());
     }
 
