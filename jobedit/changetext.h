@@ -6,7 +6,7 @@ namespace TKE
 {
 class ValueBase;
 struct ValueDescriptor;
-}
+} // namespace TKE
 
 namespace JOBEDIT
 {

@@ -99,7 +99,7 @@ private:
     quint64 m_act = 0;                  // 0: no act of the user is going on
     quint64 m_lastAct = 0;
     quint64 m_lastNumber = 0;
-    bool m_nodesChanged = false; // which is told once, at the end of a step, of undo and of redo
+    bool m_nodesChanged = false;  // which is told once, at the end of a step, of undo and of redo
     Contents* m_wanted = nullptr; // while undo or redo writes: what each value they touch must end with
 };
 

@@ -61,6 +61,12 @@ public:
     NodePane& Nodes() { return *m_nodes; }
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
+    /// Brings the messages into view.
+    void ShowMessages();
+    /// Runs an operation of the document that may take long, with its progress shown. What `failed` makes of a failure
+    /// counts; a cancelled operation is told in the status bar.
+    bool Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
+             const std::function<bool(const TKE::FileError&)>& failed);
     RecoveryOffer& Recovery() { return *m_recovery; }
     CompareActions& Comparing() { return *m_compare; }
     QDockWidget* MessageDock() const { return m_messageDock; }
@@ -92,18 +98,6 @@ private:
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.
     bool MayGo();
-    /// False: the user does not want to overwrite what somebody else wrote.
-    bool MayOverwrite();
-    /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
-    bool MayReplace(const QString& fileName);
-    /// Shows why the job could not be saved, and saves it in another place if the user wants.
-    bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
-    /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
-    void ReportRefusals();
-    /// Runs an operation of the document that may take long, with its progress shown. What `failed` makes of a failure
-    /// counts; a cancelled operation is told in the status bar.
-    bool Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
-             const std::function<bool(const TKE::FileError&)>& failed);
     /// False, for the caller to return.
     bool Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
