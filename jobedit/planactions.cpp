@@ -38,8 +38,13 @@ PlanActions::PlanActions(MainWindow& window)
     m_dock->setObjectName("planDock");
     m_dock->setWidget(m_pane);
     window.addDockWidget(Qt::BottomDockWidgetArea, m_dock);
+    QAction* next = nullptr; // of the menu, below the messages
     if (auto* messages = window.findChild<QDockWidget*>("messageDock"))
+    {
         window.tabifyDockWidget(messages, m_dock);
+        const auto actions = window.ViewMenu()->actions();
+        next = actions.value(actions.indexOf(messages->toggleViewAction()) + 1);
+    }
     m_dock->hide();
 
     // Not the action of the dock: behind another tab it counts as shown there, and would be closed instead of brought
@@ -47,7 +52,7 @@ PlanActions::PlanActions(MainWindow& window)
     auto* show = new QAction(tr("&Frequency Plan"), this);
     show->setCheckable(true);
     show->setShortcut(QKeySequence(Qt::Key_F8));
-    window.ViewMenu()->addAction(show);
+    window.ViewMenu()->insertAction(next, show);
     connect(show, &QAction::triggered, this, &PlanActions::Show);
     connect(m_dock, &QDockWidget::visibilityChanged, show, &QAction::setChecked);
     connect(m_dock, &QDockWidget::visibilityChanged, this,

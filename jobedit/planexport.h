@@ -46,7 +46,7 @@ private:
     std::vector<Section> m_sections; ///< bands that have lanes
 };
 
-/// The frequency plan of the job with the whole of each band.
+/// The frequency plan of the job with the whole of each band. Needs a QGuiApplication for its fonts, but no window.
 bool ExportPlan(const JobDocument& document, const QString& fileName, const QSize& size, TKE::FileError& error);
 
 } // namespace JOBEDIT

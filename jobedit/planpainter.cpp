@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 
@@ -110,9 +111,15 @@ void PlanPainter::MeasureTitles()
 {
     const QFontMetricsF metrics(m_font);
     double width = 60.0;
+    QSet<QString> measured; // chains of one kind have the same title, and measuring is dear
     for (const Row& row : m_rows)
-        if (!row.isHeading)
-            width = std::max(width, metrics.horizontalAdvance(m_plan.GetLanes()[size_t(row.lane)].title) + 3 * gap);
+    {
+        const QString& title = m_plan.GetLanes()[size_t(row.lane)].title;
+        if (row.isHeading || measured.contains(title))
+            continue;
+        measured.insert(title);
+        width = std::max(width, metrics.horizontalAdvance(title) + 3 * gap);
+    }
     m_titleWidth = int(width) + 1;
 }
 

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -233,6 +235,14 @@ void PlanView::paintEvent(QPaintEvent*)
         m_painter.PaintRow(painter, area, m_scale, row, row == selected);
     }
     m_painter.PaintAxis(painter, QRectF(0, 0, viewport()->width(), m_painter.AxisHeight()), m_scale);
+    if (hasFocus())
+    {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.rect = selected < 0 ? viewport()->rect() : RectOf(selected);
+        option.rect.setRight(qRound(m_scale.left) - 1);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
     if (!IsEmpty())
         return;
     painter.setPen(palette().color(QPalette::Text));
@@ -336,6 +346,18 @@ void PlanView::keyPressEvent(QKeyEvent* event)
     default:
         return QAbstractScrollArea::keyPressEvent(event);
     }
+}
+
+void PlanView::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void PlanView::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 void PlanView::changeEvent(QEvent* event)

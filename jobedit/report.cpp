@@ -1,7 +1,7 @@
 #include "report.h"
 
 #include "reporthtml.h"
-#include "reportpdf.h"
+#include "reportpages.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -26,9 +26,16 @@ bool WriteReport(const JobDocument& document, const QString& fileName, const Rep
         return fail(file.errorString());
     ReportContent content(document, options);
     const ReportProgress tell = progress ? progress : [](qint64, qint64) { return true; };
-    if (!(isPdf ? ReportPdf(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
+    if (!(isPdf ? ReportPages(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
         return fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
     return file.commit() || fail(file.errorString());
+}
+
+bool PrintReport(const JobDocument& document, QPagedPaintDevice& device, const ReportOptions& options,
+                 const ReportProgress& progress)
+{
+    ReportContent content(document, options);
+    return ReportPages(content, progress).Print(device);
 }
 
 } // namespace JOBEDIT

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+class QPagedPaintDevice;
+
 namespace JOBEDIT
 {
 
@@ -16,5 +18,9 @@ using ReportProgress = std::function<bool(qint64 done, qint64 all)>;
 /// name stays as it was.
 bool WriteReport(const JobDocument& document, const QString& fileName, const ReportOptions& options,
                  const ReportProgress& progress, TKE::FileError& error);
+
+/// The same document on the pages of a printer. False when it was cancelled or could not be begun.
+bool PrintReport(const JobDocument& document, QPagedPaintDevice& device, const ReportOptions& options,
+                 const ReportProgress& progress);
 
 } // namespace JOBEDIT

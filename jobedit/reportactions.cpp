@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
@@ -25,7 +27,8 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr qint64 manyRows = 50'000; // of a PDF, about 800 pages
+constexpr qint64 rowsPerPage = 47;
+constexpr qint64 manyRows = 1000 * rowsPerPage; // on pages, without being asked
 
 } // namespace
 
@@ -53,41 +56,44 @@ void ReportActions::Slot_OnReport()
     auto* changes = new QCheckBox(tr("&Only values that differ from their default"), &dialog);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, &dialog);
     buttons->addButton(tr("&Save As..."), QDialogButtonBox::AcceptRole)->setDefault(true);
+    constexpr int print = QDialog::Accepted + 1;
+    connect(buttons->addButton(tr("P&rint..."), QDialogButtonBox::ActionRole), &QPushButton::clicked, &dialog,
+            [&dialog] { dialog.done(print); });
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     auto* layout = new QVBoxLayout(&dialog);
     for (QWidget* widget : std::initializer_list<QWidget*>{text, pdf, html, changes, buttons})
         layout->addWidget(widget);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-
-    const QString suffix = pdf->isChecked() ? ".pdf" : ".html";
-    const QString job = m_window.Document().GetFileName();
-    const QString start =
-        job.isEmpty() ? tr("report") + suffix
-                      : QDir(QFileInfo(job).absolutePath()).filePath(QFileInfo(job).completeBaseName() + suffix);
-    QString fileName = QFileDialog::getSaveFileName(&m_window, tr("Save Report"), start,
-                                                    pdf->isChecked() ? tr("PDF documents (*.pdf)")
-                                                                     : tr("HTML documents (*.html *.htm)"));
-    if (fileName.isEmpty())
-        return;
-    if (QFileInfo(fileName).suffix().isEmpty())
-        fileName += suffix;
+    const int chosen = dialog.exec();
     ReportOptions options{changes->isChecked()};
-    if (MayBeLong(fileName, options))
+    if (chosen == print && MayBeLong(options))
+        Print(options);
+    if (chosen != QDialog::Accepted)
+        return;
+    const QString fileName = AskFileName(pdf->isChecked());
+    if (!fileName.isEmpty() && (!pdf->isChecked() || MayBeLong(options)))
         WriteTo(fileName, options);
 }
 
-bool ReportActions::MayBeLong(const QString& fileName, ReportOptions& options)
+QString ReportActions::AskFileName(bool isPdf)
 {
-    if (QFileInfo(fileName).suffix().toLower() != "pdf" || options.onlyChanges)
-        return true;
+    const QString suffix = isPdf ? ".pdf" : ".html";
+    const QFileInfo job(m_window.Document().GetFileName());
+    const QString start = job.fileName().isEmpty() ? tr("report") + suffix
+                                                   : QDir(job.absolutePath()).filePath(job.completeBaseName() + suffix);
+    const QString fileName = QFileDialog::getSaveFileName(
+        &m_window, tr("Save Report"), start, isPdf ? tr("PDF documents (*.pdf)") : tr("HTML documents (*.html *.htm)"));
+    return fileName.isEmpty() || !QFileInfo(fileName).suffix().isEmpty() ? fileName : fileName + suffix;
+}
+
+bool ReportActions::MayBeLong(ReportOptions& options)
+{
     const qint64 rows = qint64(TKE::Tree::Instance()->ValueCount());
-    if (rows <= manyRows)
+    if (options.onlyChanges || rows <= manyRows)
         return true;
     QMessageBox question(QMessageBox::Question, tr("Report"),
-                         tr("The job has %1 values: a PDF of some %2 pages.")
-                             .arg(QLocale().toString(rows), QLocale().toString(rows / 55)),
+                         tr("The job has %1 values: some %2 pages.")
+                             .arg(QLocale().toString(rows), QLocale().toString(rows / rowsPerPage)),
                          QMessageBox::Cancel, &m_window);
     question.setInformativeText(tr("With only the values that differ from their default it is shorter. HTML is written "
                                    "within seconds at any size."));
@@ -96,38 +102,58 @@ bool ReportActions::MayBeLong(const QString& fileName, ReportOptions& options)
     question.setDefaultButton(changes);
     question.exec();
     options.onlyChanges = question.clickedButton() == changes;
-    return question.clickedButton() && question.clickedButton() != question.button(QMessageBox::Cancel);
+    return question.clickedButton() != question.button(QMessageBox::Cancel);
 }
 
-bool ReportActions::WriteTo(const QString& fileName, ReportOptions options)
+bool ReportActions::WithProgress(const QString& text, const std::function<bool(const ReportProgress&)>& work)
 {
-    QProgressDialog progress(tr("Writing %1").arg(QFileInfo(fileName).fileName()), tr("Cancel"), 0, 1000, &m_window);
+    QProgressDialog progress(text, tr("Cancel"), 0, 1000, &m_window);
     progress.setWindowTitle(tr("Report"));
     progress.setWindowModality(Qt::WindowModal); // nobody edits meanwhile
     progress.setMinimumDuration(500);
-    const ReportProgress tell = [&](qint64 done, qint64 all)
-    {
-        progress.setValue(all > 0 ? int(done * 1000 / all) : 1000);
-        return !progress.wasCanceled();
-    };
+    return work(
+        [&](qint64 done, qint64 all)
+        {
+            progress.setValue(all > 0 ? int(done * 1000 / all) : 1000);
+            return !progress.wasCanceled();
+        });
+}
+
+bool ReportActions::WriteTo(const QString& fileName, const ReportOptions& options)
+{
     TKE::FileError error;
-    if (WriteReport(m_window.Document(), fileName, options, tell, error))
-    {
+    const bool written =
+        WithProgress(tr("Writing %1").arg(QFileInfo(fileName).fileName()), [&](const ReportProgress& progress)
+                     { return WriteReport(m_window.Document(), fileName, options, progress, error); });
+    if (written)
         m_window.statusBar()->showMessage(tr("%1 written").arg(fileName), 5000);
-        return true;
-    }
-    progress.reset();
-    if (error.reason.isEmpty())
-    {
+    else if (error.reason.isEmpty())
         m_window.statusBar()->showMessage(tr("The report was cancelled."), 5000);
-        return false;
-    }
-    const QString text = tr("The report could not be written.");
-    m_window.Messages().Add(TKE::Severity::Error, text, error.ToText());
+    else
+        Fail(tr("The report could not be written."), error.ToText());
+    return written;
+}
+
+void ReportActions::Print(const ReportOptions& options)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(tr("Job %1").arg(QFileInfo(m_window.Document().GetFileName()).fileName()));
+    if (QPrintDialog(&printer, &m_window).exec() != QDialog::Accepted)
+        return;
+    const bool printed = WithProgress(tr("Printing"), [&](const ReportProgress& progress)
+                                      { return PrintReport(m_window.Document(), printer, options, progress); });
+    if (printed)
+        return m_window.statusBar()->showMessage(tr("The report was given to the printer."), 5000);
+    if (printer.printerState() != QPrinter::Error)
+        return m_window.statusBar()->showMessage(tr("The report was cancelled."), 5000);
+    Fail(tr("The report could not be printed."), printer.printerName());
+}
+
+void ReportActions::Fail(const QString& text, const QString& details)
+{
+    m_window.Messages().Add(TKE::Severity::Error, text, details);
     if (m_window.isVisible())
-        QMessageBox(QMessageBox::Critical, tr("Report"), text + "\n\n" + error.ToText(), QMessageBox::Ok, &m_window)
-            .exec();
-    return false;
+        QMessageBox(QMessageBox::Critical, tr("Report"), text + "\n\n" + details, QMessageBox::Ok, &m_window).exec();
 }
 
 } // namespace JOBEDIT

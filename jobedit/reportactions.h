@@ -18,12 +18,16 @@ public:
     explicit ReportActions(MainWindow& window);
 
     /// False when it failed or was cancelled; the user has been told.
-    bool WriteTo(const QString& fileName, ReportOptions options);
+    bool WriteTo(const QString& fileName, const ReportOptions& options);
 
 private:
     void Slot_OnReport();
-    /// Asks before a PDF of thousands of pages. False: rather none.
-    bool MayBeLong(const QString& fileName, ReportOptions& options);
+    QString AskFileName(bool isPdf);
+    /// Asks before thousands of pages, and whether only changes will do. False: rather nothing.
+    bool MayBeLong(ReportOptions& options);
+    bool WithProgress(const QString& text, const std::function<bool(const ReportProgress&)>& work);
+    void Print(const ReportOptions& options);
+    void Fail(const QString& text, const QString& details);
 
     MainWindow& m_window;
 };

@@ -257,6 +257,24 @@ private Q_SLOTS:
         QCOMPARE(pages("changes.pdf"), 2);
     }
 
+    void anyPagesWillDo()
+    {
+        // As a printer gives them: of another size, and begun by somebody else.
+        const auto pages = [&](QPageSize::PageSizeId size)
+        {
+            QBuffer buffer;
+            buffer.open(QIODevice::WriteOnly);
+            QPdfWriter writer(&buffer);
+            writer.setPageSize(QPageSize(size));
+            return PrintReport(*m_document, writer, {}, [](qint64, qint64) { return true; })
+                       ? buffer.data().count("/Type /Page\n")
+                       : -1;
+        };
+        const qsizetype small = pages(QPageSize::A5);
+        const qsizetype large = pages(QPageSize::A3);
+        QVERIFY2(large > 10 && small > 2 * large, qPrintable(QString("%1 %2").arg(small).arg(large)));
+    }
+
     void aTextLongerThanAPageGoesOn()
     {
         FileError error;

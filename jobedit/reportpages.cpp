@@ -1,4 +1,4 @@
-#include "reportpdf.h"
+#include "reportpages.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -17,7 +17,6 @@ namespace
 
 constexpr int resolution = 300;
 constexpr double margin = 15.0; // mm
-constexpr double point = resolution / 72.0;
 
 // Columns, of the width of the page.
 constexpr double labelLeft = 0.012;
@@ -34,7 +33,7 @@ const QColor rule(0xb0, 0xb0, 0xb0);
 
 } // namespace
 
-struct ReportPdf::Fonts
+struct ReportPages::Fonts
 {
     struct Entry
     {
@@ -43,18 +42,18 @@ struct ReportPdf::Fonts
         double widest; // of a common character: a text is surely no wider than that times its length
     };
 
-    explicit Fonts(QPdfWriter* writer)
-        : entries{Make(writer, 18, true), Make(writer, 11.5, true), Make(writer, 8, false), Make(writer, 8, true),
-                  Make(writer, 6.5, false)}
+    explicit Fonts(QPaintDevice* device)
+        : entries{Make(device, 18, true), Make(device, 11.5, true), Make(device, 8, false), Make(device, 8, true),
+                  Make(device, 6.5, false)}
     {
     }
 
-    static Entry Make(QPdfWriter* writer, double size, bool isBold)
+    static Entry Make(QPaintDevice* device, double size, bool isBold)
     {
         QFont font = QGuiApplication::font();
         font.setPointSizeF(size);
         font.setBold(isBold);
-        const QFontMetricsF metrics(font, writer);
+        const QFontMetricsF metrics(font, device);
         return {font, metrics, metrics.horizontalAdvance('W')};
     }
 
@@ -63,13 +62,14 @@ struct ReportPdf::Fonts
     std::array<Entry, 5> entries;
 };
 
-ReportPdf::ReportPdf(ReportContent& content, const ReportProgress& progress) : m_content(content), m_progress(progress)
+ReportPages::ReportPages(ReportContent& content, const ReportProgress& progress)
+    : m_content(content), m_progress(progress)
 {
 }
 
-ReportPdf::~ReportPdf() = default;
+ReportPages::~ReportPages() = default;
 
-bool ReportPdf::Write(QIODevice& device)
+bool ReportPages::Write(QIODevice& device)
 {
     QPdfWriter writer(&device);
     writer.setResolution(resolution);
@@ -77,19 +77,25 @@ bool ReportPdf::Write(QIODevice& device)
     writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
     writer.setTitle(m_content.GetTitle());
     writer.setCreator(QCoreApplication::applicationName());
-    m_writer = &writer;
-    m_fonts = std::make_unique<Fonts>(&writer);
-    m_width = writer.width();
-    m_height = writer.height();
+    return Print(writer);
+}
+
+bool ReportPages::Print(QPagedPaintDevice& device)
+{
+    m_device = &device;
+    m_point = device.logicalDpiX() / 72.0;
+    m_fonts = std::make_unique<Fonts>(&device);
+    m_width = device.width();
+    m_height = device.height();
     m_pages.assign(m_content.GetSections().size(), 0);
     if (!Run(nullptr))
         return false;
     m_pageCount = m_page;
     QPainter painter;
-    return painter.begin(&writer) && Run(&painter) && painter.end();
+    return painter.begin(&device) && Run(&painter) && painter.end();
 }
 
-bool ReportPdf::Run(QPainter* painter)
+bool ReportPages::Run(QPainter* painter)
 {
     m_painter = painter;
     m_page = 0;
@@ -110,24 +116,24 @@ bool ReportPdf::Run(QPainter* painter)
     return true;
 }
 
-void ReportPdf::AddTitle()
+void ReportPages::AddTitle()
 {
     AddCells({{0.0, 1.0, m_content.GetTitle(), Font::Title}}, false);
-    m_top += 6 * point;
+    m_top += 6 * m_point;
     for (const ReportContent::Fact& fact : m_content.GetFacts())
         AddCells({{0.0, 0.32, fact.name, Font::Body}, {0.33, 0.67, fact.text, Font::Body}}, false);
-    m_top += 6 * point;
+    m_top += 6 * m_point;
     AddCells(
         {{labelLeft, 1.0 - labelLeft, tr("Marked and in bold: values that differ from their default."), Font::Bold}},
         true);
 }
 
-void ReportPdf::AddContents()
+void ReportPages::AddContents()
 {
-    m_top += 12 * point;
+    m_top += 12 * m_point;
     Need(LineHeight(Font::Heading) + 3 * LineHeight(Font::Body));
     AddCells({{0.0, 1.0, tr("Contents"), Font::Heading}}, false);
-    m_top += 3 * point;
+    m_top += 3 * m_point;
     const auto& sections = m_content.GetSections();
     for (size_t index = 0; index < sections.size(); ++index)
     {
@@ -151,19 +157,19 @@ void ReportPdf::AddContents()
         NewPage();
 }
 
-void ReportPdf::AddSection(size_t index)
+void ReportPages::AddSection(size_t index)
 {
     const ReportContent::Section& section = m_content.GetSections()[index];
     const QString title = section.title.isEmpty() ? section.name : tr("%1: %2").arg(section.name, section.title);
     // A heading does not stand alone at the end of a page.
-    m_top += m_top > 0.0 ? 12 * point : 0.0;
+    m_top += m_top > 0.0 ? 12 * m_point : 0.0;
     Need(2 * LineHeight(Font::Heading) + 6 * LineHeight(Font::Body));
     m_pages[index] = m_page;
     AddCells({{0.0, 1.0, title, Font::Heading}}, false);
     AddCells({{0.0, 1.0, section.type.isEmpty() ? section.path : tr("%1  \u00b7  %2").arg(section.path, section.type),
                Font::Small}},
              false);
-    m_top += 2 * point;
+    m_top += 2 * m_point;
     AddTableHead();
     m_inTable = true;
     for (const ReportContent::Row& row : m_content.RowsOf(section))
@@ -171,7 +177,7 @@ void ReportPdf::AddSection(size_t index)
     m_inTable = false;
 }
 
-void ReportPdf::AddTableHead()
+void ReportPages::AddTableHead()
 {
     AddCells({{labelLeft, labelWidth, tr("Parameter"), Font::Bold},
               {valueLeft, valueWidth, tr("Value"), Font::Bold},
@@ -180,13 +186,13 @@ void ReportPdf::AddTableHead()
              false);
     if (m_painter)
     {
-        m_painter->setPen(QPen(Qt::black, 0.8 * point));
+        m_painter->setPen(QPen(Qt::black, 0.8 * m_point));
         m_painter->drawLine(QPointF(0.0, m_top), QPointF(m_width, m_top));
     }
-    m_top += point;
+    m_top += m_point;
 }
 
-void ReportPdf::AddRow(const ReportContent::Row& row)
+void ReportPages::AddRow(const ReportContent::Row& row)
 {
     const Font font = row.isChanged ? Font::Bold : Font::Body;
     AddCells({{labelLeft, labelWidth, row.label.isEmpty() ? row.key : row.label, font},
@@ -201,12 +207,12 @@ void ReportPdf::AddRow(const ReportContent::Row& row)
             true);
     if (m_painter)
     {
-        m_painter->setPen(QPen(rule, 0.3 * point));
+        m_painter->setPen(QPen(rule, 0.3 * m_point));
         m_painter->drawLine(QPointF(0.0, m_top), QPointF(m_width, m_top));
     }
 }
 
-void ReportPdf::AddCells(const std::vector<Cell>& cells, bool isMarked)
+void ReportPages::AddCells(const std::vector<Cell>& cells, bool isMarked)
 {
     std::vector<QStringList> lines;
     qsizetype most = 0;
@@ -235,16 +241,16 @@ void ReportPdf::AddCells(const std::vector<Cell>& cells, bool isMarked)
     }
 }
 
-void ReportPdf::Need(double height)
+void ReportPages::Need(double height)
 {
     if (m_top + height > m_height - 2 * LineHeight(Font::Small))
         NewPage();
 }
 
-void ReportPdf::NewPage()
+void ReportPages::NewPage()
 {
     if (m_painter && m_page > 0)
-        m_writer->newPage();
+        m_device->newPage();
     ++m_page;
     m_top = 0.0;
     const double foot = m_height - LineHeight(Font::Small);
@@ -256,7 +262,7 @@ void ReportPdf::NewPage()
         AddTableHead();
 }
 
-QStringList ReportPdf::LinesOf(const Cell& cell) const
+QStringList ReportPages::LinesOf(const Cell& cell) const
 {
     const Fonts::Entry& entry = (*m_fonts)[cell.font];
     const double width = cell.width * m_width;
@@ -268,7 +274,7 @@ QStringList ReportPdf::LinesOf(const Cell& cell) const
             lines << paragraph;
             continue;
         }
-        QTextLayout layout(paragraph, entry.font, m_writer);
+        QTextLayout layout(paragraph, entry.font, m_device);
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
@@ -283,12 +289,12 @@ QStringList ReportPdf::LinesOf(const Cell& cell) const
     return lines;
 }
 
-double ReportPdf::LineHeight(Font font) const
+double ReportPages::LineHeight(Font font) const
 {
     return (*m_fonts)[font].metrics.height() * 1.15;
 }
 
-void ReportPdf::Draw(double left, double top, double width, Font font, Qt::Alignment alignment, const QString& text)
+void ReportPages::Draw(double left, double top, double width, Font font, Qt::Alignment alignment, const QString& text)
 {
     if (!m_painter || text.isEmpty())
         return;

@@ -8,26 +8,28 @@
 
 class QIODevice;
 class QPainter;
-class QPdfWriter;
+class QPagedPaintDevice;
 
 namespace JOBEDIT
 {
 
-/// A report as PDF on A4: title, contents with page numbers, a table per section.
+/// A report on pages: title, contents with page numbers, a table per section.
 ///
 /// Painted line by line and not as one text document, which would hold the whole job at once. A first run without a
 /// painter finds the page of each section.
-class ReportPdf
+class ReportPages
 {
-    Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ReportPdf)
+    Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ReportPages)
 
 public:
     /// Both outlive this.
-    ReportPdf(ReportContent& content, const ReportProgress& progress);
-    ~ReportPdf();
+    ReportPages(ReportContent& content, const ReportProgress& progress);
+    ~ReportPages();
 
-    /// False when it was cancelled or the device takes no more.
+    /// As PDF on A4. False when it was cancelled or the device takes no more.
     bool Write(QIODevice& device);
+    /// On the pages of a printer, for example.
+    bool Print(QPagedPaintDevice& device);
 
 private:
     enum class Font
@@ -65,7 +67,8 @@ private:
     const ReportProgress& m_progress;
     struct Fonts;
     std::unique_ptr<Fonts> m_fonts;
-    QPdfWriter* m_writer = nullptr;
+    QPagedPaintDevice* m_device = nullptr;
+    double m_point = 1.0;          // device units of 1/72 inch
     QPainter* m_painter = nullptr; // null in the first run
     double m_width = 0.0;          // of what is printed on a page
     double m_height = 0.0;
