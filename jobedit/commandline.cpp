@@ -5,6 +5,7 @@
 #include "jobdocument.h"
 #include "mainwindow.h"
 #include "nightcolours.h"
+#include "recoveryoffer.h"
 #include "render.h"
 
 #include <QApplication>
@@ -169,6 +170,7 @@ int Edit(const QString& file)
     if (file.isEmpty() || !window.OpenFile(file))
         window.NewFromSample();
     window.show();
+    window.Recovery().OfferAll();
     return QApplication::exec();
 }
 

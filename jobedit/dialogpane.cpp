@@ -70,8 +70,12 @@ DialogPane::DialogPane(QWidget* parent)
 
 void DialogPane::ShowNode(const JobNode* node)
 {
+    const bool isSame = m_node && node && m_node->path == node->path;
     m_node = node ? std::optional(*node) : std::nullopt;
-    Rebuild();
+    if (isSame)
+        RebuildOnTab();
+    else
+        Rebuild();
 }
 
 void DialogPane::SetForm(Form form)
@@ -80,16 +84,21 @@ void DialogPane::SetForm(Form form)
         return;
     m_form = form;
     (form == Form::Job ? m_job : m_standAlone)->setChecked(true);
+    RebuildOnTab();
+    emit FormChanged();
+}
+
+// Shows the tab that was shown, where the new dialog has it too.
+void DialogPane::RebuildOnTab()
+{
     const QString tab = m_dialog ? m_dialog->tabText(m_dialog->currentIndex()) : QString();
     Rebuild();
-    // The tab of the other form, where this one has it too.
     for (int index = 0; m_dialog && index < m_dialog->count(); ++index)
         if (m_dialog->tabText(index) == tab && m_dialog->isTabEnabled(index))
         {
             m_dialog->setCurrentIndex(index);
             break;
         }
-    emit FormChanged();
 }
 
 void DialogPane::FocusSwitch()

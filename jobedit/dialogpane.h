@@ -40,6 +40,7 @@ signals:
 
 private:
     void Rebuild();
+    void RebuildOnTab();
     void ShowHint(const QString& text);
 
     std::optional<JobNode> m_node;

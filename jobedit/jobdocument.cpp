@@ -2,8 +2,8 @@
 
 #include "application/cfgcenter.h"
 #include "application/errorhandler.h"
+#include "dialogpane.h"
 #include "keys/keys.h"
-#include "nodecopy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -12,7 +12,19 @@
 namespace JOBEDIT
 {
 
-JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* parent) : QObject(parent)
+namespace
+{
+
+// Where a node goes that gets another name; such a name may be the whole path of a top node.
+QString PathBeside(const QString& path, const QString& name)
+{
+    const QString own = StructureEdit::WithoutSlash(path);
+    return name.contains('/') ? name : own.left(own.lastIndexOf('/') + 1) + name;
+}
+
+} // namespace
+
+JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* parent) : QObject(parent), m_history(new EditHistory(m_file, this))
 {
     m_file.SetModel(std::move(model));
     m_otherJournal = TKE::Tree::Instance()->SetJournal(
@@ -20,8 +32,11 @@ JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* pa
         {
             if (m_otherJournal)
                 m_otherJournal(entry);
-            SetModified(true);
+            Record(entry);
         });
+    connect(m_history, &EditHistory::Changed, this, [this] { SetModified(m_history->IsModified()); });
+    connect(m_history, &EditHistory::NodesChanged, this, &JobDocument::NodesChanged);
+    connect(m_history, &EditHistory::NodeMoved, this, &JobDocument::Slot_OnNodeMoved);
 }
 
 JobDocument::~JobDocument()
@@ -72,7 +87,7 @@ bool JobDocument::Save(TKE::FileError& error)
 {
     if (!m_file.Save(&error))
         return false;
-    SetModified(false);
+    NowSaved();
     return true;
 }
 
@@ -82,8 +97,8 @@ bool JobDocument::SaveAs(const QString& fileName, TKE::FileError& error)
         return false;
     Lock();
     m_readOnly = false;
-    SetModified(false);
     emit FileNameChanged();
+    NowSaved();
     return true;
 }
 
@@ -104,59 +119,120 @@ QString JobDocument::LockedBy(const QString& fileName) const
 
 std::vector<JobNode> JobDocument::GetNodes() const
 {
+    // Nodes between the root and the job, and those of channels, are not the job's own; what stands below them moves
+    // up.
     std::vector<JobNode> nodes;
-    for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
-        Collect(*top, -1, nodes);
+    QHash<QString, int> numbers;
+    m_file.VisitNodes(
+        [&](const QString& path, const TKE::NodeSpec& spec, const QString& parentPath)
+        {
+            const TKE::Node* node = TKE::Tree::Instance()->FindNode(path);
+            if (!node)
+                return;
+            const QString name = node->GetName().isEmpty() ? spec.name : node->GetName().toString();
+            numbers.insert(path, int(nodes.size()));
+            nodes.push_back(
+                {path, name, node->GetTypeText(), spec.band, spec.dataForm, numbers.value(parentPath, -1)});
+        });
     return nodes;
 }
 
 TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason)
 {
+    CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
     TKE::Node* node = m_file.AddNode(parentPath, spec, reason);
     if (!node)
         return nullptr;
-    SetModified(true);
-    emit NodesChanged();
-    return node;
+    const QString path = node->GetBasePath();
+    auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Add, path);
+    edit->other = StructureEdit::WithoutSlash(parentPath);
+    edit->spec = spec;
+    m_history->Record(std::move(edit));
+    return TKE::Tree::Instance()->FindNode(path); // who heard of it may have removed it again
 }
 
 bool JobDocument::RemoveNode(const QString& path, QString* reason)
 {
-    if (!m_file.FindNodeSpec(path))
+    CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
+    auto taken = m_file.TakeNode(path);
+    if (!taken)
     {
         if (reason)
-            *reason = tr("The job holds no node \"%1\".").arg(path);
+            *reason = tr("The job has no node %1.").arg(path);
         return false;
     }
-    m_file.RemoveNode(path);
-    SetModified(true);
-    emit NodesChanged();
+    auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Remove, path);
+    edit->taken = std::move(taken);
+    m_history->Record(std::move(edit));
     return true;
 }
 
 bool JobDocument::RenameNode(const QString& path, const QString& name, QString* reason)
 {
-    return DuplicateNode(path, name, reason) && RemoveNode(path, reason);
+    CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
+    auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Rename, path);
+    if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(path))
+        edit->oldName = spec->name;
+    edit->other = PathBeside(path, name);
+    edit->name = name;
+    if (name == edit->oldName || edit->other == edit->path)
+        return true;
+    if (!m_file.RenameNode(path, name, reason))
+        return false;
+    m_history->Record(std::move(edit));
+    return true;
 }
 
 bool JobDocument::DuplicateNode(const QString& path, const QString& name, QString* reason)
 {
-    return CopyNode({*TKE::Tree::Instance(), [this](const QString& node) { return m_file.FindNodeSpec(node); }}, path,
-                    *this, m_file.FindNodeSpec(ParentPath(path)) ? ParentPath(path) : QString(), name, reason);
+    CommitPendingEdit();
+    const EditHistory::Step step(*m_history, {});
+    const TKE::Node* copy = m_file.DuplicateNode(path, name, reason);
+    if (!copy)
+        return false;
+    auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Duplicate, copy->GetBasePath());
+    edit->other = StructureEdit::WithoutSlash(path);
+    edit->name = name;
+    m_history->Record(std::move(edit));
+    return true;
 }
 
-void JobDocument::Collect(const TKE::Node& node, int parent, std::vector<JobNode>& nodes) const
+QString JobDocument::SavedText(const TKE::ValueBase& value) const
 {
-    // Nodes between the root and the job, and those of channels, are not the job's own; what stands below them moves
-    // up.
-    if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(node.GetPathName()))
-    {
-        const QString name = node.GetName().isEmpty() ? spec->name : node.GetName().toString();
-        nodes.push_back({node.GetBasePath(), name, node.GetTypeText(), spec->band, spec->dataForm, parent});
-        parent = int(nodes.size()) - 1;
-    }
-    for (const auto& child : node.GetNodes())
-        Collect(*child, parent, nodes);
+    const auto found = m_savedTexts.constFind(value.GetPathName());
+    return found != m_savedTexts.constEnd() ? *found : value.GetStoredText();
+}
+
+bool JobDocument::DiffersFromSaved(const TKE::ValueBase& value) const
+{
+    const auto found = m_savedTexts.constFind(value.GetPathName());
+    return found != m_savedTexts.constEnd() && *found != value.GetStoredText();
+}
+
+void JobDocument::Record(const TKE::JournalEntry& entry)
+{
+    if (const QString path = entry.value.GetPathName(); !m_savedTexts.contains(path))
+        m_savedTexts.insert(path, entry.before);
+    m_history->Record(entry);
+    emit ContentChanged(entry.value);
+}
+
+void JobDocument::Slot_OnNodeMoved(const QString& from, const QString& to)
+{
+    QHash<QString, QString> moved;
+    for (auto each = m_savedTexts.begin(); each != m_savedTexts.end(); ++each)
+        moved.insert(each.key().startsWith(from) ? to + each.key().mid(from.size()) : each.key(), each.value());
+    m_savedTexts = std::move(moved);
+}
+
+void JobDocument::NowSaved()
+{
+    m_savedTexts.clear();
+    m_history->SetSaved();
+    emit Saved();
 }
 
 void JobDocument::SetModified(bool modified)
@@ -170,7 +246,8 @@ void JobDocument::SetModified(bool modified)
 void JobDocument::Loaded(bool readOnly)
 {
     m_readOnly = readOnly;
-    SetModified(false);
+    m_savedTexts.clear();
+    m_history->Clear();
     emit FileNameChanged();
     emit Replaced();
 }

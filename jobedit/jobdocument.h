@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jobmodel/jobfile.h"
+#include "edithistory.h"
 #include "jobnode.h"
 
 #include <QObject>
@@ -10,8 +10,8 @@ namespace JOBEDIT
 
 /// The job that the editor has open, in the value tree of the application, and whether it differs from its file.
 ///
-/// A job is modified from the first change of a value's content until it is saved, even when the change is taken back.
-/// Enable states are no content. One at a time: it listens to the journal of all values.
+/// A job is modified while undo and redo would have to be used to come back to what is saved. Enable states are no
+/// content. One at a time: it listens to the journal of all values.
 class JobDocument : public QObject
 {
     Q_OBJECT
@@ -40,6 +40,20 @@ public:
     /// Who else has the file open in an editor; empty when nobody has.
     QString LockedBy(const QString& fileName) const;
 
+    EditHistory& History() { return *m_history; }
+
+    // One step of undo each. An edit that is being typed is committed first. Null or false with the reason when it is
+    // not possible.
+    TKE::Node* AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason);
+    bool RemoveNode(const QString& path, QString* reason);
+    /// A name without a "/" takes the place of the last segment of a top node's name.
+    bool RenameNode(const QString& path, const QString& name, QString* reason);
+    bool DuplicateNode(const QString& path, const QString& name, QString* reason);
+
+    /// Stored text of the value in the saved file (of a new job: as it was made), and whether the content differs.
+    QString SavedText(const TKE::ValueBase& value) const;
+    bool DiffersFromSaved(const TKE::ValueBase& value) const;
+
     const QString& GetFileName() const { return m_file.GetFileName(); }
     bool IsModified() const { return m_modified; }
     bool IsReadOnly() const { return m_readOnly; }
@@ -49,29 +63,30 @@ public:
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
 
-    // Null or false, with the reason when asked for, when that is not possible; nothing has changed then.
-    TKE::Node* AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason);
-    bool RemoveNode(const QString& path, QString* reason);
-    bool RenameNode(const QString& path, const QString& name, QString* reason);
-    bool DuplicateNode(const QString& path, const QString& name, QString* reason);
-
 signals:
-    /// Nodes were added, removed or renamed.
-    void NodesChanged();
     /// Another job has taken the place of the one so far; all its nodes and values are gone.
     void Replaced();
     void ModifiedChanged(bool modified);
     void FileNameChanged();
+    void Saved();
+    /// The content of the value has changed, by whomever.
+    void ContentChanged(const TKE::ValueBase& value);
+    /// Nodes have come, gone or changed their names, and their values with them.
+    void NodesChanged();
 
 private:
     void SetModified(bool modified);
     void Loaded(bool readOnly);
     void Lock();
     bool IsOwnFile(const QString& fileName) const;
-    void Collect(const TKE::Node& node, int parent, std::vector<JobNode>& nodes) const;
+    void Slot_OnNodeMoved(const QString& from, const QString& to);
+    void Record(const TKE::JournalEntry& entry);
+    void NowSaved();
 
     TKE::JobFile m_file;
     TKE::JournalHook m_otherJournal;
+    EditHistory* m_history;
+    QHash<QString, QString> m_savedTexts; // by path, of the values that have changed since
     bool m_modified = false;
     bool m_readOnly = false;
 };

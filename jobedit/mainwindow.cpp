@@ -2,6 +2,7 @@
 
 #include "compareactions.h"
 #include "dialogpane.h"
+#include "editactions.h"
 #include "messagelist.h"
 #include "nightcolours.h"
 #include "nodeactions.h"
@@ -9,6 +10,7 @@
 #include "panelwindow.h"
 #include "recentfiles.h"
 #include "reuseactions.h"
+#include "recoveryoffer.h"
 #include "valuewidgets/textentry.h"
 
 #include <QActionGroup>
@@ -50,6 +52,8 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
     FillFileMenu();
     FillNodeMenu();
     FillViewMenu();
+    new EditActions(*this);
+    m_recovery = new RecoveryOffer(*this);
     m_compare = new CompareActions(*this);
     new ReuseActions(*this);
     new NodeActions(*this);
@@ -58,6 +62,7 @@ MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* pare
 
     connect(m_document, &JobDocument::Replaced, this, &MainWindow::Slot_OnReplaced);
     connect(m_document, &JobDocument::NodesChanged, this, &MainWindow::Slot_OnNodesChanged);
+    connect(&m_document->History(), &EditHistory::NodeMoved, this, &MainWindow::Slot_OnNodeMoved);
     connect(m_document, &JobDocument::FileNameChanged, this, &MainWindow::Slot_OnFileNameChanged);
     connect(m_document, &JobDocument::ModifiedChanged, this, &QWidget::setWindowModified);
     connect(m_nodes, &NodePane::CurrentChanged, m_dialog, [this] { m_dialog->ShowNode(m_nodes->GetCurrentNode()); });
@@ -115,6 +120,7 @@ bool MainWindow::OpenFile(const QString& fileName)
         m_messages->Add(TKE::Severity::Warning, warning.ToText());
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 opened").arg(m_document->GetFileName()), 5000);
+    m_recovery->OfferForOpenJob();
     return true;
 }
 
@@ -128,10 +134,7 @@ bool MainWindow::Save()
     ReportRefusals();
     TKE::FileError error;
     if (!m_document->Save(error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(m_document->GetFileName()).fileName()), error);
-        return false;
-    }
+        return SaveElsewhere(m_document->GetFileName(), error);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
 }
@@ -149,18 +152,14 @@ bool MainWindow::SaveTo(const QString& fileName)
 {
     CommitPendingEdit();
     if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()),
-             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+        return SaveElsewhere(fileName,
+                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+    if (!MayReplace(fileName))
         return false;
-    }
     ReportRefusals();
     TKE::FileError error;
     if (!m_document->SaveAs(fileName, error))
-    {
-        Fail(tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName()), error);
-        return false;
-    }
+        return SaveElsewhere(fileName, error);
     RecentFiles::Add(fileName);
     statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
     return true;
@@ -202,6 +201,7 @@ void MainWindow::FillFileMenu()
     auto* recent = new RecentFiles(menu);
     connect(recent, &RecentFiles::Chosen, this, &MainWindow::OpenFile);
     menu->addMenu(recent);
+    menu->addAction(tr("Re&cover Edits..."), this, [this] { m_recovery->OfferAgain(); });
     menu->addSeparator();
     menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
     menu->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &MainWindow::SaveAs);
@@ -269,8 +269,20 @@ void MainWindow::Slot_OnReplaced()
 
 void MainWindow::Slot_OnNodesChanged()
 {
+    for (PanelWindow* panel : findChildren<PanelWindow*>())
+        if (!TKE::Tree::Instance()->FindNode(panel->GetPath()))
+            panel->close();
     const JobNode* current = m_nodes->GetCurrentNode();
-    m_nodes->UpdateNodes(m_document->GetNodes(), current ? current->path : QString());
+    const QString path = !m_movedPath.isEmpty() ? std::exchange(m_movedPath, {}) : current ? current->path : QString();
+    m_nodes->UpdateNodes(m_document->GetNodes(), path);
+}
+
+void MainWindow::Slot_OnNodeMoved(const QString& from, const QString& to)
+{
+    const JobNode* current = m_nodes->GetCurrentNode();
+    const QString path = !m_movedPath.isEmpty() ? m_movedPath : current ? current->path : QString();
+    if (path.startsWith(from))
+        m_movedPath = to + path.mid(from.size());
 }
 
 void MainWindow::Slot_OnFileNameChanged()
@@ -363,6 +375,42 @@ bool MainWindow::MayOverwrite()
     if (question.clickedButton() == compare)
         m_compare->CompareWithDisk();
     return question.clickedButton() == overwrite;
+}
+
+bool MainWindow::MayReplace(const QString& fileName)
+{
+    if (!QFileInfo(fileName).isFile())
+        return true;
+    if (QFileInfo(fileName) == QFileInfo(m_document->GetFileName()))
+        return MayOverwrite();
+    const TKE::FileErrors errors = TKE::JobFile::Check(fileName);
+    const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
+    if (fault == errors.end())
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Save Job"),
+                         tr("%1 is no job that can be read.").arg(QFileInfo(fileName).fileName()), QMessageBox::Cancel,
+                         this);
+    question.setInformativeText(fault->ToText());
+    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.exec();
+    return question.clickedButton() == overwrite;
+}
+
+bool MainWindow::SaveElsewhere(const QString& fileName, const TKE::FileError& error)
+{
+    const QString text = tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName());
+    m_messages->Add(TKE::Severity::Error, text, error.ToText());
+    m_messageDock->show();
+    if (!isVisible())
+        return false;
+    QMessageBox box(QMessageBox::Critical, tr("Save Job"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this);
+    box.setInformativeText(tr("Your changes are still there. They can be saved in another place."));
+    QPushButton* elsewhere = box.addButton(tr("Save &As..."), QMessageBox::ActionRole);
+    box.setDefaultButton(elsewhere);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    return box.clickedButton() == elsewhere && SaveAs();
 }
 
 void MainWindow::ReportRefusals()

@@ -17,6 +17,7 @@ class CompareActions;
 class DialogPane;
 class MessageList;
 class NodePane;
+class RecoveryOffer;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
 ///
@@ -48,6 +49,7 @@ public:
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
     CompareActions& Comparing() { return *m_compare; }
+    RecoveryOffer& Recovery() { return *m_recovery; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,6 +63,7 @@ private:
     void Slot_OnOpen();
     void Slot_OnReplaced();
     void Slot_OnNodesChanged();
+    void Slot_OnNodeMoved(const QString& from, const QString& to);
     void Slot_OnFileNameChanged();
     void Slot_OnAbout();
     void FillPanelMenu();
@@ -70,6 +73,10 @@ private:
     bool MayGo();
     /// False: the user does not want to overwrite what somebody else wrote.
     bool MayOverwrite();
+    /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
+    bool MayReplace(const QString& fileName);
+    /// Shows why the job could not be saved, and saves it in another place if the user wants.
+    bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
     void Fail(const QString& text, const TKE::FileError& error);
@@ -89,6 +96,8 @@ private:
     QMenu* m_helpMenu;
     QMenu* m_panelMenu = nullptr;
     CompareActions* m_compare = nullptr;
+    RecoveryOffer* m_recovery = nullptr;
+    QString m_movedPath; // of the current node, from its renaming until the nodes are shown anew
     TKE::ErrorHandler::Subscription m_reports;
 };
 

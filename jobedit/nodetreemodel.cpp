@@ -4,7 +4,6 @@
 
 #include <QGuiApplication>
 #include <QPalette>
-#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -23,6 +22,7 @@ void NodeTreeModel::SetNodes(std::vector<JobNode> nodes)
     clear();
     setHorizontalHeaderLabels({tr("Node"), tr("Type")});
     m_nodes = std::move(nodes);
+    m_numbers.clear();
     m_items.clear();
     m_items.reserve(m_nodes.size());
     for (const JobNode& node : m_nodes)
@@ -35,6 +35,7 @@ void NodeTreeModel::SetNodes(std::vector<JobNode> nodes)
             item->setData(int(m_items.size()), numberRole);
         }
         QStandardItem* above = node.parent < 0 ? invisibleRootItem() : m_items[size_t(node.parent)];
+        m_numbers.insert(node.path, m_items.size());
         m_items.push_back(row.first());
         above->appendRow(row);
     }
@@ -47,9 +48,8 @@ const JobNode* NodeTreeModel::NodeOf(const QModelIndex& index) const
 
 QModelIndex NodeTreeModel::IndexOf(const QString& path) const
 {
-    const QString base = path.endsWith('/') ? path : path + '/';
-    const auto found = std::ranges::find(m_nodes, base, &JobNode::path);
-    return found == m_nodes.end() ? QModelIndex() : m_items[size_t(found - m_nodes.begin())]->index();
+    const auto found = m_numbers.constFind(path.endsWith('/') ? path : path + '/');
+    return found == m_numbers.constEnd() ? QModelIndex() : m_items[*found]->index();
 }
 
 QVariant NodeTreeModel::data(const QModelIndex& index, int role) const

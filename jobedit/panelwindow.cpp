@@ -10,7 +10,8 @@
 namespace JOBEDIT
 {
 
-PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent) : QDialog(parent)
+PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent)
+    : QDialog(parent), m_path(node.path)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("%1 - %2").arg(node.path, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));

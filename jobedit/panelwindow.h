@@ -14,6 +14,12 @@ class PanelWindow : public QDialog
 
 public:
     PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent);
+
+    /// Of the node.
+    const QString& GetPath() const { return m_path; }
+
+private:
+    QString m_path;
 };
 
 } // namespace JOBEDIT

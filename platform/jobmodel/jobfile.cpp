@@ -1,9 +1,9 @@
 #include "jobmodel/jobfile.h"
 
 #include "jobmodel/jobreader.h"
+#include "jobmodel/jobstructure.h"
 #include "jobmodel/jobwriter.h"
 #include "jobmodel/journalpause.h"
-#include "jobmodel/xmltext.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -51,31 +51,6 @@ bool BackUp(const QString& fileName, QString& reason)
     reason = QString::fromStdString(code.message());
     fs::remove(fresh, code);
     return false;
-}
-
-void AppendAttribute(std::string& out, const char* name, const QString& text)
-{
-    out += ' ';
-    out += name;
-    out += "=\"";
-    XmlText::AppendAttribute(out, text.toStdString());
-    out += '"';
-}
-
-std::string StartTagOf(const NodeSpec& spec)
-{
-    std::string tag = "<Node";
-    AppendAttribute(tag, "name", spec.name);
-    AppendAttribute(tag, "type", spec.type);
-    if (!spec.groups.isEmpty())
-        AppendAttribute(tag, "groups", spec.groups.join(QLatin1Char(' ')));
-    if (spec.count > 0)
-        AppendAttribute(tag, "count", QString::number(spec.count));
-    if (spec.dataForm)
-        AppendAttribute(tag, "form", QStringLiteral("data"));
-    if (spec.band == Band::Vuhf)
-        AppendAttribute(tag, "band", QStringLiteral("VUHF"));
-    return tag + "/>";
 }
 
 } // namespace
@@ -246,78 +221,60 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
     return reader.GetErrors();
 }
 
-namespace
-{
-
-QString NodePath(QStringView path)
-{
-    return path.isEmpty() || path.endsWith(u'/') ? path.toString() : path.toString() + QLatin1Char('/');
-}
-
-} // namespace
-
 const NodeSpec* JobFile::FindNodeSpec(QStringView path) const
 {
-    const JobNode* node = m_layout->byPath.value(NodePath(path));
+    const JobNode* node = JobStructure(m_tree, *m_layout).Find(path);
     return node ? &node->spec : nullptr;
+}
+
+void JobFile::VisitNodes(const NodeVisitor& visit) const
+{
+    const std::function<void(const JobNode&)> descend = [&](const JobNode& above)
+    {
+        // The pieces stand in the order of the file.
+        for (const JobNode::Piece& piece : above.content)
+        {
+            if (piece.kind != JobNode::Piece::Node || !above.nodes[piece.index])
+                continue;
+            const JobNode& node = *above.nodes[piece.index];
+            visit(node.path, node.spec, above.path);
+            descend(node);
+        }
+    };
+    descend(m_layout->root);
 }
 
 Node* JobFile::AddNode(QStringView parentPath, const NodeSpec& spec, QString* reason)
 {
-    const auto refuse = [&](const QString& why) -> Node*
-    {
-        if (reason)
-            *reason = why;
-        return nullptr;
-    };
-    JobNode* parent = parentPath.isEmpty() ? &m_layout->root : m_layout->byPath.value(NodePath(parentPath));
-    if (!parent)
-        return refuse(tr("The job holds no node \"%1\"").arg(parentPath));
-    if (const QString fault = spec.NameFault(parent == &m_layout->root); !fault.isEmpty())
-        return refuse(fault);
-    auto node = std::make_unique<JobNode>();
-    node->spec = spec;
-    node->path = parent->path + spec.name + QLatin1Char('/');
-    if (m_layout->byPath.contains(node->path))
-        return refuse(tr("The node occurs twice"));
-    if (spec.count < 0 || spec.count > NodeSpec::maximumCount)
-        return refuse(tr("\"%1\" is no count of channels (1 to %2)").arg(spec.count).arg(NodeSpec::maximumCount));
-    node->values = m_layout->TemplateFor(*GetModel(), spec);
-    if (!node->values->GetUnknownGroups().isEmpty())
-        return refuse(tr("The group \"%1\" is unknown").arg(node->values->GetUnknownGroups().first()));
-
+    GetModel();
     JobModel::KeepForValues(m_model);
-    const JournalPause pause(m_tree);
-    node->parent = parent;
-    node->lead = parent->NewLead();
-    node->startTag = StartTagOf(spec);
-    std::vector<ValueBase*> values;
-    Node* made = node->Create(m_tree, values);
-    node->rules = std::make_unique<NodeRules>(m_tree, node->path, node->values);
-    node->rules->Begin(m_tree);
-    m_layout->byPath.insert(node->path, node.get());
-    parent->Add(JobNode::Piece::Node, parent->nodes.size());
-    parent->nodes.push_back(std::move(node));
-    return made;
+    return JobStructure(m_tree, *m_layout).Add(parentPath, spec, *m_model, reason);
 }
 
 void JobFile::RemoveNode(QStringView path)
 {
-    const QString nodePath = NodePath(path);
-    if (JobNode* node = m_layout->byPath.value(nodePath))
-    {
-        m_layout->Forget(*node);
-        // Its rules end with it, before the values do.
-        for (auto& sibling : node->parent->nodes)
-        {
-            if (sibling.get() == node)
-            {
-                sibling.reset();
-                break;
-            }
-        }
-    }
-    m_tree.RemoveBranch(nodePath);
+    if (!TakeNode(path))
+        m_tree.RemoveBranch(path);
+}
+
+std::shared_ptr<TakenNode> JobFile::TakeNode(QStringView path)
+{
+    return JobStructure(m_tree, *m_layout).Take(path);
+}
+
+bool JobFile::PutBackNode(TakenNode& taken, QString* reason)
+{
+    return JobStructure(m_tree, *m_layout).PutBack(taken, reason);
+}
+
+bool JobFile::RenameNode(QStringView path, const QString& name, QString* reason)
+{
+    return JobStructure(m_tree, *m_layout).Rename(path, name, reason);
+}
+
+Node* JobFile::DuplicateNode(QStringView path, const QString& name, QString* reason)
+{
+    return JobStructure(m_tree, *m_layout).Duplicate(path, name, reason);
 }
 
 } // namespace TKE

@@ -1,0 +1,178 @@
+#include "recoveryfile.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <algorithm>
+#include <array>
+
+namespace JOBEDIT
+{
+
+namespace
+{
+
+using Kind = RecoveryChange::Kind;
+
+constexpr std::array<std::pair<Kind, const char*>, 7> names{{{Kind::Value, "value"},
+                                                             {Kind::Add, "add"},
+                                                             {Kind::Remove, "remove"},
+                                                             {Kind::Rename, "rename"},
+                                                             {Kind::Duplicate, "duplicate"},
+                                                             {Kind::Undo, "undo"},
+                                                             {Kind::Redo, "redo"}}};
+constexpr qsizetype checksumSize = 4;
+constexpr qint64 hashedBytes = 64 * 1024;
+constexpr qint64 longestFile = qint64(1) << 30;
+
+QByteArray ChecksumOf(QByteArrayView json)
+{
+    return QByteArray::number(qChecksum(json), 16).rightJustified(checksumSize, '0');
+}
+
+QByteArray LineOfObject(const QJsonObject& object)
+{
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return ChecksumOf(json) + ' ' + json + '\n';
+}
+
+std::optional<QJsonObject> ObjectOfLine(QByteArrayView line)
+{
+    if (line.size() < checksumSize + 2 || line[checksumSize] != ' ')
+        return {};
+    const QByteArrayView json = line.sliced(checksumSize + 1);
+    if (ChecksumOf(json) != line.first(checksumSize))
+        return {};
+    const QJsonDocument document = QJsonDocument::fromJson(json.toByteArray());
+    return document.isObject() ? std::optional(document.object()) : std::nullopt;
+}
+
+QJsonObject ObjectOf(const TKE::NodeSpec& spec)
+{
+    return {{"name", spec.name},
+            {"type", spec.type},
+            {"groups", QJsonArray::fromStringList(spec.groups)},
+            {"count", spec.count},
+            {"data", spec.dataForm},
+            {"vuhf", spec.band == TKE::Band::Vuhf}};
+}
+
+TKE::NodeSpec SpecOf(const QJsonObject& object)
+{
+    TKE::NodeSpec spec;
+    spec.name = object["name"].toString();
+    spec.type = object["type"].toString();
+    for (const QJsonValue& group : object["groups"].toArray())
+        spec.groups << group.toString();
+    spec.count = object["count"].toInt();
+    spec.dataForm = object["data"].toBool();
+    spec.band = object["vuhf"].toBool() ? TKE::Band::Vuhf : TKE::Band::Hf;
+    return spec;
+}
+
+std::optional<RecoveryBase> BaseOf(const QJsonObject& object)
+{
+    if (object["recovery"].toInt() != 1)
+        return {};
+    return RecoveryBase{object["file"].toString(), object["size"].toInteger(), object["changed"].toString(),
+                        object["hash"].toString(), object["begun"].toString()};
+}
+
+std::optional<RecoveryChange> ChangeOf(const QJsonObject& object)
+{
+    const QString name = object["kind"].toString();
+    const auto found =
+        std::ranges::find_if(names, [&](const auto& each) { return name == QLatin1String(each.second); });
+    if (found == names.end())
+        return {};
+    return RecoveryChange{found->first, object["step"].toInteger(), object["path"].toString(),
+                          object["text"].toString(), SpecOf(object["spec"].toObject())};
+}
+
+} // namespace
+
+RecoveryBase RecoveryBase::Of(const QString& fileName)
+{
+    RecoveryBase base{.file = fileName};
+    QFile file(fileName);
+    if (fileName.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return base;
+    base.size = file.size();
+    base.changed = QFileInfo(fileName).lastModified().toString(Qt::ISODateWithMs);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(file.read(hashedBytes));
+    file.seek(std::max<qint64>(file.pos(), base.size - hashedBytes));
+    hash.addData(file.read(hashedBytes));
+    base.hash = QString::fromLatin1(hash.result().toHex());
+    return base;
+}
+
+bool RecoveryBase::HasChanged() const
+{
+    // A copy that was put back in its place is the same file.
+    const RecoveryBase now = Of(file);
+    return now.size != size || now.hash != hash || (now.changed != changed && size > 2 * hashedBytes);
+}
+
+RecoveryFile RecoveryFile::Read(const QString& fileName)
+{
+    RecoveryFile read;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile)
+    {
+        ++read.damaged;
+        return read;
+    }
+    QSet<qint64> undone;
+    while (!file.atEnd())
+    {
+        const QByteArray line = file.readLine();
+        const auto object = line.endsWith('\n') ? ObjectOfLine(QByteArrayView(line).chopped(1)) : std::nullopt;
+        if (const auto base = object ? BaseOf(*object) : std::nullopt)
+        {
+            read.base = base;
+            continue;
+        }
+        const auto change = object ? ChangeOf(*object) : std::nullopt;
+        if (!change)
+            ++read.damaged;
+        else if (change->kind == Kind::Undo)
+            undone.insert(change->step);
+        else if (change->kind == Kind::Redo)
+            undone.remove(change->step);
+        else
+            read.changes.push_back(*change);
+    }
+    std::erase_if(read.changes, [&](const RecoveryChange& change) { return undone.contains(change.step); });
+    return read;
+}
+
+QByteArray RecoveryFile::LineOf(const RecoveryBase& base)
+{
+    return LineOfObject({{"recovery", 1},
+                         {"file", base.file},
+                         {"size", base.size},
+                         {"changed", base.changed},
+                         {"hash", base.hash},
+                         {"begun", base.begun}});
+}
+
+QByteArray RecoveryFile::LineOf(const RecoveryChange& change)
+{
+    const auto name = std::ranges::find(names, change.kind, &std::pair<Kind, const char*>::first);
+    QJsonObject object{{"kind", name->second}, {"step", change.step}};
+    if (!change.path.isNull())
+        object["path"] = change.path;
+    if (!change.text.isNull())
+        object["text"] = change.text;
+    if (change.kind == Kind::Add)
+        object["spec"] = ObjectOf(change.spec);
+    return LineOfObject(object);
+}
+
+} // namespace JOBEDIT

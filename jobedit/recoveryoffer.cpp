@@ -1,0 +1,211 @@
+#include "recoveryoffer.h"
+
+#include "edithistory.h"
+#include "mainwindow.h"
+#include "messagelist.h"
+#include "recoveryjournal.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QSet>
+
+namespace JOBEDIT
+{
+
+namespace
+{
+
+constexpr int roundsOfCorrection = 3;
+
+} // namespace
+
+RecoveryOffer::RecoveryOffer(MainWindow& window)
+    : QObject(&window), m_window(window), m_journal(new RecoveryJournal(window.Document(), this))
+{
+}
+
+void RecoveryOffer::OfferAgain()
+{
+    m_later.clear();
+    if (RecoveryJournal::FindAbandoned().isEmpty())
+        QMessageBox::information(&m_window, tr("Recover Edits"), tr("No edits were left behind."));
+    else
+        OfferAll();
+}
+
+bool RecoveryOffer::OfferAll()
+{
+    if (OfferForOpenJob())
+        return true;
+    for (const QString& kept : RecoveryJournal::FindAbandoned())
+        if (!m_later.contains(kept) && Offer(kept, RecoveryFile::Read(kept)) == Choice::Restored)
+            return true;
+    return false;
+}
+
+bool RecoveryOffer::OfferForOpenJob()
+{
+    const QString& fileName = m_window.Document().GetFileName();
+    if (m_offering || fileName.isEmpty() || !m_window.isVisible())
+        return false;
+    for (const QString& kept : RecoveryJournal::FindAbandoned())
+    {
+        if (m_later.contains(kept))
+            continue;
+        const RecoveryFile edits = RecoveryFile::Read(kept);
+        if (edits.base && !edits.base->file.isEmpty() && QFileInfo(edits.base->file) == QFileInfo(fileName) &&
+            Offer(kept, edits) == Choice::Restored)
+            return true;
+    }
+    return false;
+}
+
+RecoveryOffer::Choice RecoveryOffer::Offer(const QString& kept, const RecoveryFile& edits)
+{
+    const QScopedValueRollback offering(m_offering, true);
+    const auto lock = RecoveryJournal::Lock(kept);
+    if (!lock)
+        return Choice::Later; // another editor has been faster
+    if (edits.changes.empty() && edits.damaged == 0)
+    {
+        QFile::remove(kept);
+        return Choice::Discarded;
+    }
+    QMessageBox question(QMessageBox::Question, tr("Recover Edits"), TextOf(edits), QMessageBox::NoButton, &m_window);
+    QPushButton* restore = nullptr;
+    if (edits.base && !edits.changes.empty())
+    {
+        question.setInformativeText(tr("Restored, they can be taken back by Undo, and are saved when you save the job."));
+        restore = question.addButton(tr("&Restore"), QMessageBox::AcceptRole);
+    }
+    else
+        question.setInformativeText(tr("Nothing can be brought back. The file is %1.").arg(kept));
+    const QPushButton* discard = question.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* later = question.addButton(tr("&Later"), QMessageBox::RejectRole);
+    question.setDefaultButton(restore ? restore : later);
+    question.setEscapeButton(later);
+    question.exec();
+    if (question.clickedButton() == discard)
+    {
+        QFile::remove(kept);
+        return Choice::Discarded;
+    }
+    if (!restore || question.clickedButton() != restore || !Restore(edits))
+    {
+        m_later << kept;
+        return Choice::Later;
+    }
+    // They are with the job again, and kept anew, before they go here.
+    m_journal->Flush();
+    QFile::remove(kept);
+    return Choice::Restored;
+}
+
+QString RecoveryOffer::TextOf(const RecoveryFile& edits) const
+{
+    QStringList lines;
+    const QString file = edits.base ? edits.base->file : QString();
+    if (!edits.base)
+        lines << tr("An editor ended without saving, and it cannot be read which job it edited.");
+    else
+    {
+        const QString when =
+            QLocale().toString(QDateTime::fromString(edits.base->begun, Qt::ISODate), QLocale::ShortFormat);
+        lines << (file.isEmpty() ? tr("An editor ended without saving a new job. Its edits since %1 are still there.").arg(when)
+                                 : tr("An editor ended without saving %1. The edits since %2 are still there.")
+                                       .arg(file, when));
+        lines << tr("Changes: %1.").arg(edits.changes.size());
+    }
+    if (edits.base && !file.isEmpty() && !QFileInfo::exists(file))
+        lines << tr("The file of the job has vanished since.");
+    else if (edits.base && !file.isEmpty() && edits.base->HasChanged())
+        lines << tr("The file of the job was changed since. The edits would be made in what it holds now.");
+    if (edits.damaged > 0)
+        lines << tr("Records that are damaged and lost: %1.").arg(edits.damaged);
+    return lines.join('\n');
+}
+
+bool RecoveryOffer::Restore(const RecoveryFile& edits)
+{
+    const QString& file = edits.base->file;
+    const JobDocument& document = m_window.Document();
+    const bool isOpen =
+        !file.isEmpty() && QFileInfo(document.GetFileName()) == QFileInfo(file) && !document.IsModified();
+    if (!isOpen && !(file.isEmpty() ? m_window.NewFromSample() : m_window.OpenFile(file)))
+        return false;
+    const QStringList failures = Apply(edits);
+    MessageList& messages = m_window.Messages();
+    messages.Add(TKE::Severity::Info, tr("Edits that were not saved were brought back"),
+                 tr("Changes: %1.").arg(edits.changes.size() - size_t(failures.size())));
+    if (edits.damaged > 0)
+        messages.Add(TKE::Severity::Warning, tr("Some edits are lost"),
+                     tr("Records that are damaged and lost: %1.").arg(edits.damaged));
+    for (const QString& failure : failures)
+        messages.Add(TKE::Severity::Warning, tr("A change could not be brought back"), failure);
+    if (!failures.isEmpty())
+        QMessageBox(QMessageBox::Warning, tr("Recover Edits"),
+                    tr("Some changes could not be brought back: %1 of %2. The messages list them.")
+                        .arg(failures.size())
+                        .arg(edits.changes.size()),
+                    QMessageBox::Ok, &m_window)
+            .exec();
+    return true;
+}
+
+QStringList RecoveryOffer::Apply(const RecoveryFile& edits)
+{
+    using Kind = RecoveryChange::Kind;
+    QStringList failures;
+    JobDocument& document = m_window.Document();
+    const EditHistory::Step step(document.History(), tr("Restore unsaved edits"));
+    QHash<QString, QString> contents;
+    for (const RecoveryChange& change : edits.changes)
+    {
+        QString reason;
+        bool done = false;
+        switch (change.kind)
+        {
+        case Kind::Value:
+            if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(change.path))
+                done = value->SetStoredText(change.text, nullptr, &reason);
+            else
+                reason = tr("the job has no such value");
+            if (done)
+                contents.insert(change.path, change.text);
+            else
+                reason = tr("%1 (content \"%2\")").arg(reason, change.text);
+            break;
+        case Kind::Add:
+            done = document.AddNode(change.path, change.spec, &reason);
+            break;
+        case Kind::Remove:
+            done = document.RemoveNode(change.path, &reason);
+            break;
+        case Kind::Rename:
+            done = document.RenameNode(change.path, change.text, &reason);
+            break;
+        case Kind::Duplicate:
+            done = document.DuplicateNode(change.path, change.text, &reason);
+            break;
+        case Kind::Undo:
+        case Kind::Redo:
+            break;
+        }
+        if (!done)
+            failures << tr("%1: %2").arg(change.path, reason);
+    }
+    // Panels may have made choices of their own meanwhile.
+    for (int round = 0; round < roundsOfCorrection; ++round)
+        for (auto each = contents.constBegin(); each != contents.constEnd(); ++each)
+            if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(each.key()))
+                value->SetStoredText(each.value());
+    return failures;
+}
+
+} // namespace JOBEDIT

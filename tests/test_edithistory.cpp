@@ -1,0 +1,517 @@
+#include "editorfixture.h"
+#include "jobedit/panelwindow.h"
+#include "valuewidgets/vcnumericfloatspin.h"
+#include "widgets/vclistboxnumeric.h"
+
+#include <random>
+
+using namespace EditorTest;
+
+namespace
+{
+
+constexpr const char* gain = "TUNER_HF_NB_MGCVALUE";
+
+} // namespace
+
+class TestEditHistory : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<Editor> m_editor;
+    QByteArray m_start;
+
+    EditHistory& History() { return m_editor->History(); }
+    int StepsBack()
+    {
+        int steps = 0;
+        for (; History().CanUndo(); ++steps)
+            History().Undo();
+        return steps;
+    }
+    int StepsForth()
+    {
+        int steps = 0;
+        for (; History().CanRedo(); ++steps)
+            History().Redo();
+        return steps;
+    }
+    /// Everything so far makes that many steps, which can be taken back and made again to the byte.
+    void CompareSteps(int expected)
+    {
+        const QByteArray end = m_editor->Bytes();
+        QVERIFY(end != m_start);
+        QCOMPARE(StepsBack(), expected);
+        QCOMPARE(m_editor->Bytes(), m_start);
+        QVERIFY(!m_editor->window.isWindowModified());
+        QCOMPARE(StepsForth(), expected);
+        QCOMPARE(m_editor->Bytes(), end);
+        QVERIFY(m_editor->window.isWindowModified());
+    }
+    /// The path of the first node that offers this field.
+    QString NodeWith(const QString& name)
+    {
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+            if (HasDialog(node) && m_editor->window.Nodes().SelectNode(node.path))
+                if (QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
+                    dialog && dialog->findChild<QWidget*>(name))
+                    return node.path;
+        return {};
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+    void init()
+    {
+        QLocale::setDefault(QLocale::C);
+        m_directory = std::make_unique<QTemporaryDir>();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
+        m_editor = std::make_unique<Editor>();
+        QVERIFY(m_editor->window.NewFromSample());
+        m_start = m_editor->Bytes();
+    }
+    void cleanup()
+    {
+        m_editor.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void aTypedNumberIsOneStepThatIsNamed()
+    {
+        m_editor->TypeFrequency("7040 k\t");
+        QVERIFY2(History().UndoText().endsWith("-> 7.04 MHz"), qPrintable(History().UndoText()));
+        QVERIFY(!History().UndoText().contains(" :"));
+        const auto* undo = m_editor->window.findChild<QAction*>("undo");
+        QVERIFY(undo->text().endsWith(History().UndoText()));
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(m_editor->Bytes(), m_start);
+        QVERIFY(!undo->isEnabled());
+        m_editor->Press(Qt::Key_Y);
+        QCOMPARE(Editor::Stored(frequencyPath), "7040000");
+        m_editor->Press(Qt::Key_Z);
+        m_editor->Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(Editor::Stored(frequencyPath), "7040000");
+        CompareSteps(1);
+    }
+
+    void whatIsStillBeingTypedIsCommittedBeforeUndo()
+    {
+        m_editor->TypeFrequency("7040 k\t");
+        m_editor->TypeFrequency("7050 k");
+        m_editor->Press(Qt::Key_Z); // goes to the job, though the field has the keyboard
+        QCOMPARE(Editor::Stored(frequencyPath), "7040000");
+        QVERIFY(m_editor->FrequencyField()->text().contains("7.04"));
+        QVERIFY(History().CanUndo());
+        m_editor->Press(Qt::Key_Y);
+        QCOMPARE(Editor::Stored(frequencyPath), "7050000");
+        CompareSteps(2);
+    }
+
+    void everyPressIsAStepAndAHeldKeyIsOne()
+    {
+        QWidget* spin = m_editor->Find(tunerPath, Keys::TUNER_HF_NB_AUDIOVOLUME);
+        QVERIFY(spin && spin->isEnabled());
+        const QString path = tunerPath + Keys::TUNER_HF_NB_AUDIOVOLUME;
+        const int before = Editor::Stored(path).toInt();
+        QTest::keyClick(spin, Qt::Key_Down);
+        QTest::keyClick(spin, Qt::Key_Down);
+        QCOMPARE(Editor::Stored(path).toInt(), before - 2);
+        QTest::keyPress(spin, Qt::Key_Down);
+        for (int repeat = 0; repeat < 3; ++repeat)
+        {
+            QKeyEvent again(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, true);
+            QApplication::sendEvent(spin, &again);
+            QTest::qWait(1);
+        }
+        QTest::qWait(150); // the spin box goes on by itself
+        QTest::keyRelease(spin, Qt::Key_Down);
+        QVERIFY(Editor::Stored(path).toInt() < before - 4);
+        QCoreApplication::processEvents();
+        CompareSteps(3);
+    }
+
+    void aSpinButtonHeldIsOneStep()
+    {
+        auto* spin = m_editor->Find<QAbstractSpinBox>(tunerPath, Keys::TUNER_HF_NB_AUDIOVOLUME);
+        QVERIFY(spin);
+        const QString path = tunerPath + Keys::TUNER_HF_NB_AUDIOVOLUME;
+        const int before = Editor::Stored(path).toInt();
+        QStyleOptionSpinBox option;
+        option.initFrom(spin);
+        option.subControls = QStyle::SC_All;
+        const QRect down = spin->style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, spin);
+        QTest::mousePress(spin, Qt::LeftButton, {}, down.center());
+        QTRY_VERIFY(Editor::Stored(path).toInt() < before - 3);
+        QTest::mouseRelease(spin, Qt::LeftButton, {}, down.center());
+        QCoreApplication::processEvents();
+        CompareSteps(1);
+    }
+
+    void turnsOfTheWheelThatFollowEachOtherAreOneStep()
+    {
+        QWidget* spin = m_editor->Find(tunerPath, Keys::TUNER_HF_NB_AUDIOVOLUME);
+        QVERIFY(spin);
+        for (int turn = 0; turn < 4; ++turn)
+        {
+            QWheelEvent wheel(QPointF(5, 5), spin->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(spin, &wheel);
+            QTest::qWait(1);
+        }
+        m_editor->TypeFrequency("7040 k\t");
+        CompareSteps(2);
+    }
+
+    void aChoiceInAPopupIsOneStepAndSwitchesWithIt()
+    {
+        auto* box = m_editor->Find<QComboBox>(tunerPath, Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
+        QVERIFY(box && box->isEnabled());
+        const EnableState state = Editor::Value(tunerPath + gain)->GetState();
+        const int row = box->currentIndex();
+        box->showPopup();
+        QTest::keyClick(box->view(), row > 0 ? Qt::Key_Up : Qt::Key_Down);
+        QTest::keyClick(box->view(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QVERIFY(Editor::Value(tunerPath + gain)->GetState() != state);
+        QCOMPARE(box->currentIndex() != row, true);
+        const QString name = History().UndoText();
+        QVERIFY2(name.contains(box->itemText(row) + " -> " + box->currentText()), qPrintable(name));
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(box->currentIndex(), row); // also the widget that made the edit hears
+        QCOMPARE(Editor::Value(tunerPath + gain)->GetState(), state);
+        m_editor->Press(Qt::Key_Y);
+        CompareSteps(1);
+    }
+
+    void selectAllOfAPanelIsOneStep()
+    {
+        const QString node = NodeWith(Keys::AUTORECORDING_RECORD_ALL);
+        auto* button = m_editor->Find<QPushButton>(node, Keys::AUTORECORDING_RECORD_ALL);
+        QVERIFY(button);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY2(History().UndoText().contains("more"), qPrintable(History().UndoText()));
+        QCoreApplication::processEvents();
+        CompareSteps(1);
+    }
+
+    void theExcitersModeIsOneStepWithWhatItSwitches()
+    {
+        const QString node = NodeWith("ExciterMode");
+        auto* mode = m_editor->Find<QComboBox>(node, "ExciterMode");
+        QVERIFY(mode);
+        StepsBack();
+        m_start = m_editor->Bytes();
+        int acts = 0;
+        const auto act = [&](auto press)
+        {
+            const QByteArray before = m_editor->Bytes();
+            press();
+            acts += m_editor->Bytes() != before;
+        };
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Up, Qt::Key_Down})
+        {
+            act([&] { QTest::keyClick(mode, key); });
+            // A switch that differs from what the mode says must be as it was after undo.
+            for (auto* box : m_editor->window.Dialog().GetDialog()->findChildren<QCheckBox*>())
+                if (box->isVisible() && box->isEnabled())
+                    act([&] { QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2)); });
+        }
+        QVERIFY2(acts > 8, qPrintable(QString::number(acts)));
+        CompareSteps(acts);
+    }
+
+    void aListEditedCellByCellIsAStepForEachCell()
+    {
+        VCListBoxNumeric* list = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        {
+            m_editor->window.Nodes().SelectNode(node.path);
+            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
+            for (int tab = 0; !list && dialog && tab < dialog->count(); ++tab)
+                for (auto* each : dialog->widget(tab)->findChildren<VCListBoxNumeric*>())
+                    if (each->isEnabled() && each->columnCount() == 1)
+                    {
+                        list = each;
+                        dialog->setCurrentIndex(tab);
+                    }
+            if (list)
+                break;
+        }
+        QVERIFY(list);
+        StepsBack(); // what showing has chosen
+        m_start = m_editor->Bytes();
+        list->setFocus();
+        int rows = list->rowCount();
+        for (const char* number : {"40000", "50000"})
+        {
+            QTest::keyClick(list, Qt::Key_Insert);
+            QTest::keyClicks(QApplication::focusWidget(), number);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QCoreApplication::processEvents(); // by which the cell's editor is closed
+            QCOMPARE(list->rowCount(), ++rows);
+        }
+        QCoreApplication::processEvents();
+        CompareSteps(2);
+        QCOMPARE(list->rowCount(), rows);
+        // A cell that is still being typed counts before undo.
+        QTest::keyClick(list, Qt::Key_Insert);
+        QTest::keyClicks(QApplication::focusWidget(), "60000");
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(list->rowCount(), rows);
+        QVERIFY(History().CanRedo());
+        QCOMPARE(StepsForth(), 1);
+        CompareSteps(3);
+    }
+
+    void leavingTheTabOrTheNodeCommitsWhatIsBeingTyped()
+    {
+        VCNumericFloatSpin* spin = nullptr;
+        QTabWidget* dialog = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        {
+            m_editor->window.Nodes().SelectNode(node.path);
+            dialog = m_editor->window.Dialog().GetDialog();
+            if (dialog && dialog->count() > 1 && !m_editor->window.isWindowModified())
+                for (auto* each : dialog->currentWidget()->findChildren<VCNumericFloatSpin*>())
+                    if (each->isVisible() && each->isEnabled())
+                        spin = each;
+            if (spin)
+                break;
+        }
+        QVERIFY(spin);
+        const QString path = spin->GetBoundValue()->GetPathName();
+        spin->setFocus();
+        spin->selectAll();
+        const QString typed = QString::number(spin->value() + 1);
+        QTest::keyClicks(spin, typed);
+        const int tab = dialog->currentIndex();
+        QTest::mouseClick(dialog->tabBar(), Qt::LeftButton, {}, dialog->tabBar()->tabRect(tab > 0 ? 0 : 1).center());
+        QVERIFY(dialog->currentIndex() != tab);
+        QCOMPARE(Editor::Stored(path), typed);
+        m_editor->TypeFrequency("7050 k");
+        QVERIFY(m_editor->window.Nodes().SelectNode("/Jobs/Demo"));
+        QCOMPARE(Editor::Stored(frequencyPath), "7050000");
+        CompareSteps(2);
+    }
+
+    void undoWorksInTheWindowOfAPanel()
+    {
+        const JobNode* found = nullptr;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+            if (node.type == "IPC_HEADER_HF_AGSC")
+                found = &node;
+        QVERIFY(found);
+        PanelWindow panel(*found, *FindDirectPanels(*found).front(), &m_editor->window);
+        panel.setAttribute(Qt::WA_DeleteOnClose, false);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+        auto* time = panel.findChild<QWidget*>(Keys::AUTORECORDING_REAPPEARANCE_TIME);
+        QVERIFY(time);
+        time->setFocus();
+        QTest::keyClick(time, Qt::Key_Up);
+        QVERIFY(m_editor->Bytes() != m_start);
+        m_editor->Press(Qt::Key_Z);
+        QCOMPARE(m_editor->Bytes(), m_start);
+        QCOMPARE(StepsForth(), 1);
+    }
+
+    void stepsOfOneNameHoldAllAndNothingIsNoStep()
+    {
+        {
+            EditHistory::Step nothing(History(), "Nothing");
+        }
+        QVERIFY(!History().CanUndo());
+        {
+            EditHistory::Step outer(History(), "Outer");
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7000000"));
+            QCoreApplication::processEvents();
+            EditHistory::Step inner(History(), "Inner");
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7000001"));
+        }
+        QCOMPARE(History().UndoText(), "Outer");
+        CompareSteps(1);
+        {
+            EditHistory::Step thereAndBack(History(), "There and back");
+            const QString before = Editor::Stored(frequencyPath);
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7000005"));
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText(before));
+        }
+        QCOMPARE(History().UndoText(), "Outer");
+    }
+
+    void theMarkFollowsTheSavedStep()
+    {
+        const QString file = m_directory->filePath("a.job.xml");
+        const ValueBase& value = *Editor::Value(frequencyPath);
+        const QString first = value.GetStoredText();
+        m_editor->TypeFrequency("7040 k\t");
+        QVERIFY(m_editor->window.Document().DiffersFromSaved(value));
+        QCOMPARE(m_editor->window.Document().SavedText(value), first);
+        QVERIFY(m_editor->window.SaveTo(file));
+        QVERIFY(!m_editor->window.Document().DiffersFromSaved(value));
+        m_editor->TypeFrequency("7050 k\t");
+        QVERIFY(m_editor->window.isWindowModified());
+        History().Undo();
+        QVERIFY(!m_editor->window.isWindowModified());
+        History().Undo();
+        QVERIFY(m_editor->window.isWindowModified());
+        QVERIFY(m_editor->window.Document().DiffersFromSaved(value));
+        QCOMPARE(m_editor->window.Document().SavedText(value), "7040000");
+        History().Redo();
+        QVERIFY(!m_editor->window.isWindowModified());
+        QCOMPARE(m_editor->Bytes(), ReadAll(file));
+        History().Undo();
+        m_editor->TypeFrequency("7060 k\t"); // the saved step falls out
+        StepsBack();
+        QVERIFY(m_editor->window.isWindowModified());
+    }
+
+    void theOldestOfManyStepsGo()
+    {
+        const int count = int(EditHistory::MaximumSteps) + 5;
+        for (int step = 0; step < count; ++step)
+        {
+            EditHistory::Step one(History(), "One");
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText(QString::number(7000000 + step)));
+        }
+        QCOMPARE(StepsBack(), int(EditHistory::MaximumSteps));
+        QCOMPARE(Editor::Stored(frequencyPath), QString::number(7000004));
+        QVERIFY(m_editor->window.isWindowModified());
+    }
+
+    void nodesComeGoAndChangeTheirNamesInSteps()
+    {
+        JobDocument& document = m_editor->window.Document();
+        NodePane& nodes = m_editor->window.Nodes();
+        QString reason;
+        QVERIFY(nodes.SelectNode(tunerPath));
+        m_editor->TypeFrequency("7040 k"); // committed before the node is renamed
+        QVERIFY2(document.RenameNode("/Jobs/Demo/TDS_HF1", "FIRST", &reason), qPrintable(reason));
+        const QString renamed = QString(tunerPath).replace("TDS_HF1", "FIRST");
+        QCOMPARE(nodes.GetCurrentNode()->path, renamed);
+        QCOMPARE(Editor::Stored(renamed + Keys::TUNER_HF_NB_FREQUENCY), "7040000");
+        QVERIFY(document.DiffersFromSaved(*Editor::Value(renamed + Keys::TUNER_HF_NB_FREQUENCY)));
+        QCOMPARE(Editor::Stored(frequencyPath), "gone");
+        QCOMPARE(History().UndoText(), "Rename node TDS_HF1 to FIRST");
+        QVERIFY(document.DuplicateNode(renamed, "TUNER2", &reason));
+        QVERIFY(document.RemoveNode(renamed, &reason));
+        QVERIFY(nodes.GetCurrentNode() && nodes.GetCurrentNode()->path != renamed);
+        QVERIFY(document.AddNode("/Jobs/Demo", {.name = "NEW", .type = "CS", .groups = {"G_TUNER_HF"}}, &reason));
+        QVERIFY(!document.RenameNode("/Jobs/Demo/NEW", "FIRST", &reason));
+        QVERIFY(reason.contains("FIRST"));
+        QVERIFY(nodes.SelectNode("/Jobs/Demo/NEW"));
+        QVERIFY(Editor::Value("/Jobs/Demo/NEW/" + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7111000"));
+        CompareSteps(6);
+        StepsBack();
+        QStringList order;
+        for (const JobNode& node : nodes.GetNodes())
+            order << node.path;
+        QVERIFY(m_editor->window.NewFromSample());
+        for (const JobNode& node : nodes.GetNodes())
+            QCOMPARE(order.takeFirst(), node.path);
+    }
+
+    void anythingDoneCanBeTakenBackToTheByte_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        for (const unsigned seed : {1u, 2u, 3u})
+            QTest::addRow("%u", seed) << seed;
+    }
+    void anythingDoneCanBeTakenBackToTheByte()
+    {
+        QFETCH(unsigned, seed);
+        std::mt19937 random(seed);
+        const auto pick = [&](auto size) { return decltype(size)(random() % quint32(size)); };
+        int structural = 0;
+        for (int round = 0; round < 70; ++round)
+        {
+            const auto nodes = m_editor->window.Nodes().GetNodes();
+            const QString path = nodes[pick(nodes.size())].path;
+            QString reason;
+            const QString name = "N" + QString::number(round);
+            switch (pick(12))
+            {
+            case 0:
+                structural += m_editor->window.Document().RenameNode(path, name, &reason);
+                break;
+            case 1:
+                structural += m_editor->window.Document().DuplicateNode(path, name, &reason);
+                break;
+            case 2:
+                if (path.count('/') > 4)
+                    structural += m_editor->window.Document().RemoveNode(path, &reason);
+                break;
+            default:
+                m_editor->window.Nodes().SelectNode(path);
+            }
+            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
+            if (!dialog)
+                continue;
+            dialog->setCurrentIndex(pick(dialog->count()));
+            for (int edit = 0; edit < 6; ++edit)
+            {
+                QList<QWidget*> fields;
+                for (QWidget* field : m_editor->window.Dialog().GetDialog()->currentWidget()->findChildren<QWidget*>())
+                    if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus))
+                        fields << field;
+                if (fields.isEmpty())
+                    break;
+                QPointer<QWidget> field = fields[pick(fields.size())];
+                field->setFocus();
+                switch (pick(5))
+                {
+                case 0:
+                    QTest::keyClick(field, Qt::Key_Up);
+                    break;
+                case 1:
+                    QTest::keyClick(field, Qt::Key_Down);
+                    break;
+                case 2:
+                    QTest::keyClick(field, Qt::Key_Space);
+                    break;
+                case 3:
+                    QTest::keyClicks(field, QString::number(random() % 100));
+                    break;
+                default:
+                    if (qobject_cast<QAbstractButton*>(field))
+                        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(6, field->height() / 2));
+                }
+                while (QWidget* popup = QApplication::activePopupWidget())
+                    popup->close();
+                if (pick(3) == 0)
+                    QCoreApplication::processEvents();
+                if (pick(9) == 0)
+                    History().Undo();
+            }
+        }
+        CommitPendingEdit();
+        StepsForth();
+        QList<QByteArray> states{m_editor->Bytes()};
+        while (History().CanUndo())
+        {
+            History().Undo();
+            states << m_editor->Bytes();
+        }
+        QVERIFY(states.size() > 20);
+        QVERIFY(structural > 0);
+        QCOMPARE(states.constLast(), m_start);
+        QVERIFY(!m_editor->window.isWindowModified());
+        for (qsizetype state = states.size() - 1; state > 0; --state)
+        {
+            QCOMPARE(m_editor->Bytes(), states[state]);
+            QVERIFY(History().CanRedo());
+            History().Redo();
+        }
+        QCOMPARE(m_editor->Bytes(), states.constFirst());
+        QVERIFY(!History().CanRedo());
+    }
+};
+
+QTEST_MAIN(TestEditHistory)
+#include "test_edithistory.moc"
