@@ -250,6 +250,15 @@ private Q_SLOTS:
         OtherJob mine, other;
         QVERIFY(mine.file.Load(File("mine.job.xml")) && other.file.Load(File("other.job.xml")));
         QCOMPARE(ToText(CompareTrees(mine.tree, {}, other.tree, {})), QString());
+
+        // Two take-overs, two steps, nodes and values alike.
+        m_window->Document().History().Undo();
+        QVERIFY(!Tree::Instance()->FindNode(added));
+        QVERIFY(m_window->Document().File().FindNodeSpec(u"/Jobs/Demo/TDS_EXT/CS_EXT/TUNER/"));
+        QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("7040000"));
+        m_window->Document().History().Undo();
+        QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
+        QVERIFY(!m_window->Document().History().CanUndo());
     }
 
     void whatCannotBeTakenOverSaysWhy()

@@ -128,6 +128,10 @@ private Q_SLOTS:
         QVERIFY(m_window->Messages().GetText().contains(vuhfPath + key + " was not written"));
         QVERIFY(!m_window->Messages().GetText().contains(voicePath));
         QVERIFY(m_window->isWindowModified());
+        m_window->Document().History().Undo();
+        QCOMPARE(Text(voicePath + key), QString("10000000"));
+        QCOMPARE(Text(classifier + key), QString("10000000"));
+        QCOMPARE(Text(tunerPath + key), QString("7040000"));
     }
 
     void everyValueOfATabIsCopied()
@@ -370,9 +374,13 @@ private Q_SLOTS:
         const QString added = "/Jobs/Demo/TDS_HF1/CS_VOICE2/NIGHT/";
         QCOMPARE(m_window->Nodes().GetCurrentNode()->path, added);
         QVERIFY(m_window->Dialog().GetDialog());
-        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" +
-                      Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues().front()->GetName()));
+        // The channel set has the antenna of its kind.
+        const auto& antenna = Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues();
+        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" + antenna.front()->GetName()));
         QVERIFY(m_window->isWindowModified());
+        m_window->Document().History().Undo();
+        QVERIFY(!Has("/Jobs/Demo/TDS_HF1/CS_VOICE2/"));
+        QVERIFY(!m_window->isWindowModified());
     }
 
     void nodesAreRenamedAndDuplicatedWithAllBelowThem_data()
@@ -438,6 +446,9 @@ private Q_SLOTS:
                 QCOMPARE(Has(path), answer == QMessageBox::No);
         }
         QVERIFY(!m_window->Nodes().SelectNode(vuhfPath));
+        m_window->Document().History().Undo();
+        for (const QString& path : both)
+            QVERIFY2(Has(path) && m_window->Nodes().SelectNode(path), qPrintable(path));
         Select({"/Jobs/Demo/"});
         QTest::keyClick(NodeView(), Qt::Key_Delete);
         QVERIFY(Has("/Jobs/Demo/"));
