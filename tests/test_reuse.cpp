@@ -177,6 +177,27 @@ private Q_SLOTS:
         QCOMPARE(Text(voicePath + key), QString("7040000"));
     }
 
+    void theFormsOfADecoderTakeEachOthersParameters()
+    {
+        const QString plain = "/Jobs/Demo/TDS_HF1/CS_DATA/WAVECOM/";
+        const QString data = "/Jobs/Demo/TDS_VUHF1/CS_DATA/WAVECOM/";
+        const QString key = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
+        auto* value = dynamic_cast<ValueSelection*>(Value(plain + key));
+        QVERIFY(value);
+        QVERIFY(value->SelectKey(value->GetItems().back().GetKey()));
+        Select({plain});
+        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        Select({data});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Text(data + "Data/" + key), value->GetStoredText());
+        QVERIFY(!m_window->Messages().GetText().contains("was not written"));
+        value->SelectKey(value->GetItems().front().GetKey());
+        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        Select({plain});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(value->GetStoredText(), Text(data + "Data/" + key));
+    }
+
     void whatTheClipboardHoldsBesidesIsNotPasted_data()
     {
         QTest::addColumn<QByteArray>("type");
