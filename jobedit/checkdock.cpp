@@ -70,6 +70,7 @@ CheckDock::CheckDock(MainWindow& window)
     connect(m_stop, &QPushButton::clicked, this, &CheckDock::Stop);
     connect(m_list, &QTreeWidget::itemActivated, this, &CheckDock::Slot_OnActivated);
     connect(&window.Document(), &JobDocument::Replaced, this, &CheckDock::Start);
+    connect(&window.Document(), &JobDocument::NodesChanged, this, &CheckDock::Start);
     connect(&window.Document(), &JobDocument::ContentChanged, this, &CheckDock::Slot_OnContentChanged);
     // A panel may disable what does not apply in it, which is no change of content.
     connect(&window.Nodes(), &NodePane::CurrentChanged, this, &CheckDock::Slot_OnNodeShown);

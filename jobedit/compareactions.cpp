@@ -1,5 +1,6 @@
 #include "compareactions.h"
 
+#include "differencemodel.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "nodepane.h"
@@ -65,14 +66,15 @@ CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QStr
                           [&document](const QString& path) { return document.File().FindNodeSpec(path); }};
     return Show({leftPath, rightPath, open}, nullptr,
                 {.title = tr("Compare Chains"),
-                 .heading = tr("%1 at the left, %2 at the right.").arg(leftPath, rightPath),
+                 .heading = tr("Two chains of the open job; the left one takes over."),
                  .leftName = leftPath,
                  .rightName = rightPath,
                  .takeOver = tr("&Take Over from the Right"),
-                 .close = tr("&Close")});
+                 .close = tr("&Close"),
+                 .canSwap = true});
 }
 
-CompareDialog* CompareActions::CompareWithDisk()
+CompareDialog* CompareActions::CompareWithDisk(bool evenIfSame)
 {
     NoteDisk();
     const QString fileName = m_window.Document().GetFileName();
@@ -91,9 +93,10 @@ CompareDialog* CompareActions::CompareWithDisk()
               .rightName = tr("Theirs (file)"),
               .takeOver = tr("&Take Over Theirs"),
               .close = tr("&Keep Mine")},
-             !m_window.Document().IsModified());
+             !m_window.Document().IsModified(), evenIfSame);
+    // Closed otherwise than by the button, nothing is decided, and saving asks.
     if (dialog)
-        connect(dialog, &QDialog::finished, this, [this, stamp] { m_settled = stamp; });
+        connect(dialog, &QDialog::accepted, this, [this, stamp] { m_settled = stamp; });
     return dialog;
 }
 
@@ -116,7 +119,7 @@ void CompareActions::LookAtDisk()
     if (QApplication::activeModalWidget() || m_told == DiskStamp() || IsDiskSettled() ||
         m_window.Document().GetDiskState() != TKE::JobFile::DiskState::Changed)
         return;
-    CompareWithDisk();
+    CompareWithDisk(false);
 }
 
 void CompareActions::Slot_OnCompareWithFile()
@@ -182,13 +185,14 @@ std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
 }
 
 CompareDialog* CompareActions::Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
-                                    bool ticked)
+                                    bool ticked, bool evenIfSame)
 {
     auto* dialog = new CompareDialog(m_window.Document(), std::move(sides), std::move(holder), texts, &m_window);
     connect(dialog, &CompareDialog::Refused, this,
             [this](const QString& path, const QString& reason)
             { m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not taken over").arg(path), reason); });
-    if (!dialog->Compare(ticked))
+    const bool compared = dialog->Compare(ticked);
+    if (!compared || (!evenIfSame && dialog->Model().rowCount() == 0))
     {
         delete dialog;
         return nullptr;

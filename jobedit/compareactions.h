@@ -23,8 +23,8 @@ public:
     CompareDialog* CompareWithFile(const QString& fileName);
     CompareDialog* CompareWithSaved();
     CompareDialog* CompareChains(const QString& leftPath, const QString& rightPath);
-    /// Shows how the file on disk differs from the open job.
-    CompareDialog* CompareWithDisk();
+    /// Shows how the file on disk differs from the open job. Where it does not, that is shown only when asked for.
+    CompareDialog* CompareWithDisk(bool evenIfSame = true);
 
     /// Whether the user has decided what becomes of the file's present content: saving need not ask again.
     bool IsDiskSettled() const { return m_settled == DiskStamp(); }
@@ -48,7 +48,7 @@ private:
     void Slot_OnCompareChains();
     std::shared_ptr<OtherJob> Load(const QString& fileName);
     CompareDialog* Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
-                        bool ticked = false);
+                        bool ticked = false, bool evenIfSame = true);
 
     MainWindow& m_window;
     QAction* m_withSaved;

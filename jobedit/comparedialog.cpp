@@ -105,6 +105,10 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     none->setObjectName("tickNone");
     connect(all, &QPushButton::clicked, this, [this] { TickShown(true); });
     connect(none, &QPushButton::clicked, this, [this] { TickShown(false); });
+    auto* swap = new QPushButton(tr("S&wap Sides"), this);
+    swap->setObjectName("swap");
+    swap->setVisible(texts.canSwap);
+    connect(swap, &QPushButton::clicked, this, &CompareDialog::Swap);
     m_counts->setObjectName("counts");
     m_takeOver->setObjectName("takeOver");
 
@@ -112,20 +116,32 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     buttons->addButton(m_takeOver, QDialogButtonBox::ApplyRole);
     QPushButton* close = buttons->addButton(texts.close, QDialogButtonBox::RejectRole);
     close->setObjectName("close");
-    for (QPushButton* button : {all, none, m_takeOver, close})
+    for (QPushButton* button : {all, none, swap, m_takeOver, close})
         button->setAutoDefault(false); // Return in the filter or the list is no press of a button
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    // Pressing it is a decision, which Escape is not. A button of the accepting role would answer Return as well.
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* ticks = new QHBoxLayout;
     ticks->addWidget(all);
     ticks->addWidget(none);
     ticks->addWidget(m_counts, 1);
+    ticks->addWidget(swap);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(heading);
     layout->addWidget(m_filter);
     layout->addWidget(m_view, 1);
     layout->addLayout(ticks);
     layout->addWidget(buttons);
+    QWidget* order[] = {m_filter, m_view, all, none, swap, m_takeOver, close};
+    for (size_t place = 1; place < std::size(order); ++place)
+        setTabOrder(order[place - 1], order[place]);
+}
+
+void CompareDialog::Swap()
+{
+    std::swap(m_sides.leftBase, m_sides.rightBase);
+    m_model->SwapNames();
+    Compare(false);
 }
 
 void CompareDialog::FitColumns()
@@ -157,8 +173,9 @@ void CompareDialog::TakeOverTicked()
                           .arg(result.written)
                           .arg(result.refused.size())
                           .arg(m_model->rowCount()));
-    for (const Refusal& refusal : result.refused)
-        emit Refused(m_sides.leftBase + refusal.path, refusal.reason);
+    constexpr size_t told = 300; // the list has them all
+    for (size_t number = 0; number < std::min(told, result.refused.size()); ++number)
+        emit Refused(m_sides.leftBase + result.refused[number].path, result.refused[number].reason);
 }
 
 void CompareDialog::TickShown(bool on)

@@ -23,8 +23,9 @@ struct CompareTexts
     QString heading; ///< what is compared
     QString leftName;
     QString rightName;
-    QString takeOver; ///< text of the button
-    QString close;    ///< text of the button that takes nothing over
+    QString takeOver;     ///< text of the button
+    QString close;        ///< text of the button that takes nothing over
+    bool canSwap = false; ///< whether either side may take over from the other: both belong to the open job
 };
 
 /// The differences between the open job and something else as a list with tick boxes, a filter above it, and a button
@@ -53,6 +54,7 @@ protected:
 private:
     void MakeLayout(const CompareTexts& texts);
     void FitColumns();
+    void Swap();
     void TakeOverTicked();
     void TickShown(bool on);
     void ToggleSelected();

@@ -18,6 +18,12 @@ void DifferenceModel::SetDifferences(std::vector<Difference> differences, bool t
     emit Ticked();
 }
 
+void DifferenceModel::SwapNames()
+{
+    std::swap(m_leftName, m_rightName);
+    emit headerDataChanged(Qt::Horizontal, Left, Right);
+}
+
 void DifferenceModel::SetRefusals(const std::vector<Refusal>& refusals)
 {
     m_refusals.clear();

@@ -31,6 +31,7 @@ public:
     /// All are ticked or none is; refusals are forgotten.
     void SetDifferences(std::vector<Difference> differences, bool ticked);
     const std::vector<Difference>& GetDifferences() const { return m_differences; }
+    void SwapNames();
     void SetRefusals(const std::vector<Refusal>& refusals);
 
     void Tick(const QModelIndexList& rows, bool on);

@@ -35,11 +35,12 @@ void AddLine(QMenu& menu, const QString& line)
     menu.addAction(Escaped(text))->setEnabled(false);
 }
 
-void Write(const QString& path, const QString& stored)
+void Write(JobDocument& document, const QString& path, const QString& stored)
 {
     TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(path);
     if (!value || value->GetState() != TKE::stEnabled)
         return;
+    const EditHistory::Step step(document.History(), {});
     QString reason;
     if (!value->SetStoredText(stored, nullptr, &reason))
         TKE::ErrorHandler::Interface().Report(TKE::Severity::Warning, reason, path);
@@ -52,7 +53,8 @@ void AddReset(QMenu& menu, JobDocument& document, const QString& text, const TKE
     action->setEnabled(possible);
     // When the menu is gone: writing may replace the panel that the menu stands on.
     QObject::connect(
-        action, &QAction::triggered, &document, [path = value.GetPathName(), stored] { Write(path, stored); },
+        action, &QAction::triggered, &document,
+        [&document, path = value.GetPathName(), stored] { Write(document, path, stored); },
         Qt::QueuedConnection);
 }
 

@@ -65,12 +65,13 @@ FindBar::FindBar(MainWindow& window)
     connect(m_hits, &QTreeView::activated, this, &FindBar::Go);
     connect(qApp, &QApplication::focusChanged, this, &FindBar::Slot_OnFocusChanged);
     // Found values may be gone then.
-    connect(&window.Document(), &JobDocument::Replaced, this,
-            [this]
-            {
-                m_index.Invalidate();
-                hide();
-            });
+    const auto forget = [this]
+    {
+        m_index.Invalidate();
+        hide();
+    };
+    connect(&window.Document(), &JobDocument::Replaced, this, forget);
+    connect(&window.Document(), &JobDocument::NodesChanged, this, forget);
 }
 
 void FindBar::Open()

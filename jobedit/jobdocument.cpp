@@ -4,7 +4,6 @@
 #include "application/errorhandler.h"
 #include "dialogpane.h"
 #include "keys/keys.h"
-#include "nodecopy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -101,6 +101,7 @@ void NodeActions::Remove()
         QMessageBox::question(&m_window, tr("Remove"), tr("Remove %1 nodes with all their parameters?").arg(count)) !=
             QMessageBox::Yes)
         return;
+    const EditHistory::Step step(m_window.Document().History(), {});
     for (const QString& path : paths)
     {
         QString reason;

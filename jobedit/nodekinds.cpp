@@ -152,6 +152,7 @@ QString NodeNameFault(const QString& parentPath, const QString& name)
 QString AddNodeOfKind(JobDocument& document, const NodeKind& kind, const NodePlace& place, const QString& name,
                       QString& reason)
 {
+    const EditHistory::Step step(document.History(), {});
     auto specs = place.added;
     specs.push_back(kind.spec);
     specs.back().name = name;

@@ -52,6 +52,7 @@ std::vector<Difference> CompareSides::Compare(const DiffProgress& progress) cons
 WriteResult TakeOver(JobDocument& document, const QString& stepName, const CompareSides& sides,
                      const std::vector<Difference>& differences)
 {
+    const EditHistory::Step step(document.History(), stepName);
     WriteResult result;
     std::vector<ValueChange> changes;
     for (const Difference& difference : differences)

@@ -1,6 +1,7 @@
 #include "valuesdock.h"
 
 #include "fieldmenu.h"
+#include "fieldnavigator.h"
 #include "mainwindow.h"
 #include "nodepane.h"
 #include "value/valuebase.h"
@@ -327,11 +328,12 @@ void ValuesDock::EditCurrent()
         m_view->edit(index);
 }
 
-void ValuesDock::GoTo(QString path)
+void ValuesDock::GoTo(const QString& path)
 {
-    // The nearest node above that the job names.
-    while (!path.isEmpty() && !m_window.Nodes().SelectNode(path))
-        path.truncate(path.lastIndexOf(u'/', path.size() - 2) + 1);
+    if (path.endsWith(u'/'))
+        m_window.Nodes().SelectNode(path);
+    else
+        FieldNavigator(m_window).GoToOrTell(path);
 }
 
 } // namespace JOBEDIT

@@ -51,7 +51,7 @@ private:
     void Slot_OnShapeChanged();
     void Slot_OnMenuRequested(const QPoint& position);
     void EditCurrent();
-    void GoTo(QString path);
+    void GoTo(const QString& path);
     void RestoreView(const QString& current, const QStringList& expanded);
     QStringList ExpandedPaths() const;
 

@@ -52,8 +52,9 @@ bool Write(const ValueChange& change, bool& written, QString& reason)
 
 } // namespace
 
-WriteResult WriteValues(JobDocument&, const QString&, const std::vector<ValueChange>& changes)
+WriteResult WriteValues(JobDocument& document, const QString& stepName, const std::vector<ValueChange>& changes)
 {
+    const EditHistory::Step step(document.History(), stepName);
     WriteResult result;
     std::vector<const ValueChange*> accepted;
     for (const ValueChange& change : changes)

@@ -250,6 +250,15 @@ private Q_SLOTS:
         OtherJob mine, other;
         QVERIFY(mine.file.Load(File("mine.job.xml")) && other.file.Load(File("other.job.xml")));
         QCOMPARE(ToText(CompareTrees(mine.tree, {}, other.tree, {})), QString());
+
+        // Two take-overs, two steps, nodes and values alike.
+        m_window->Document().History().Undo();
+        QVERIFY(!Tree::Instance()->FindNode(added));
+        QVERIFY(m_window->Document().File().FindNodeSpec(u"/Jobs/Demo/TDS_EXT/CS_EXT/TUNER/"));
+        QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("7040000"));
+        m_window->Document().History().Undo();
+        QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
+        QVERIFY(!m_window->Document().History().CanUndo());
     }
 
     void whatCannotBeTakenOverSaysWhy()
@@ -294,7 +303,7 @@ private Q_SLOTS:
         QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
     }
 
-    void twoSelectedChainsAreComparedAndTheLeftOneTakesOver()
+    void twoSelectedChainsAreComparedAndEitherTakesOver()
     {
         Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7040000");
         QVERIFY(m_window->Nodes().SelectNode(tunerPath));
@@ -315,9 +324,12 @@ private Q_SLOTS:
         CompareDialog* dialog = OpenDialog();
         QVERIFY(dialog);
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole), tunerPath);
+        QTest::mouseClick(Button(*dialog, "swap"), Qt::LeftButton);
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole), voicePath);
         QTest::mouseClick(Button(*dialog, "tickAll"), Qt::LeftButton);
         QTest::mouseClick(Button(*dialog, "takeOver"), Qt::LeftButton);
-        QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("7040000"));
+        QCOMPARE(Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->GetStoredText(), QString("10000000"));
     }
 
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack_data()
@@ -359,6 +371,23 @@ private Q_SLOTS:
         QVERIFY(!OpenDialog());
         QVERIFY(m_window->Save()); // asks nothing any more
         QVERIFY(ReadAll(File("a.job.xml")).contains(expected.toUtf8()));
+    }
+
+    void aFileWrittenAnewWithTheSameContentIsNoNewsButSavingAsks()
+    {
+        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        WriteAll(File("a.job.xml"), ReadAll(File("a.job.xml")) + "<!-- theirs -->\n");
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(m_window.get(), &activation);
+        QTest::qWait(50);
+        QVERIFY(!OpenDialog());
+        QVERIFY(!m_window->Comparing().IsDiskSettled());
+        // Nor is anything decided by Escape.
+        CompareDialog* dialog = m_window->Comparing().CompareWithDisk();
+        QVERIFY(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QTRY_VERIFY(!OpenDialog());
+        QVERIFY(!m_window->Comparing().IsDiskSettled());
     }
 };
 

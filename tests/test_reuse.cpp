@@ -128,6 +128,10 @@ private Q_SLOTS:
         QVERIFY(m_window->Messages().GetText().contains(vuhfPath + key + " was not written"));
         QVERIFY(!m_window->Messages().GetText().contains(voicePath));
         QVERIFY(m_window->isWindowModified());
+        m_window->Document().History().Undo();
+        QCOMPARE(Text(voicePath + key), QString("10000000"));
+        QCOMPARE(Text(classifier + key), QString("10000000"));
+        QCOMPARE(Text(tunerPath + key), QString("7040000"));
     }
 
     void everyValueOfATabIsCopied()
@@ -171,6 +175,27 @@ private Q_SLOTS:
         Select({voicePath});
         QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(Text(voicePath + key), QString("7040000"));
+    }
+
+    void theFormsOfADecoderTakeEachOthersParameters()
+    {
+        const QString plain = "/Jobs/Demo/TDS_HF1/CS_DATA/WAVECOM/";
+        const QString data = "/Jobs/Demo/TDS_VUHF1/CS_DATA/WAVECOM/";
+        const QString key = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
+        auto* value = dynamic_cast<ValueSelection*>(Value(plain + key));
+        QVERIFY(value);
+        QVERIFY(value->SelectKey(value->GetItems().back().GetKey()));
+        Select({plain});
+        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        Select({data});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Text(data + "Data/" + key), value->GetStoredText());
+        QVERIFY(!m_window->Messages().GetText().contains("was not written"));
+        value->SelectKey(value->GetItems().front().GetKey());
+        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        Select({plain});
+        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(value->GetStoredText(), Text(data + "Data/" + key));
     }
 
     void whatTheClipboardHoldsBesidesIsNotPasted_data()
@@ -370,9 +395,13 @@ private Q_SLOTS:
         const QString added = "/Jobs/Demo/TDS_HF1/CS_VOICE2/NIGHT/";
         QCOMPARE(m_window->Nodes().GetCurrentNode()->path, added);
         QVERIFY(m_window->Dialog().GetDialog());
-        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" +
-                      Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues().front()->GetName()));
+        // The channel set has the antenna of its kind.
+        const auto& antenna = Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues();
+        QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" + antenna.front()->GetName()));
         QVERIFY(m_window->isWindowModified());
+        m_window->Document().History().Undo();
+        QVERIFY(!Has("/Jobs/Demo/TDS_HF1/CS_VOICE2/"));
+        QVERIFY(!m_window->isWindowModified());
     }
 
     void nodesAreRenamedAndDuplicatedWithAllBelowThem_data()
@@ -438,6 +467,9 @@ private Q_SLOTS:
                 QCOMPARE(Has(path), answer == QMessageBox::No);
         }
         QVERIFY(!m_window->Nodes().SelectNode(vuhfPath));
+        m_window->Document().History().Undo();
+        for (const QString& path : both)
+            QVERIFY2(Has(path) && m_window->Nodes().SelectNode(path), qPrintable(path));
         Select({"/Jobs/Demo/"});
         QTest::keyClick(NodeView(), Qt::Key_Delete);
         QVERIFY(Has("/Jobs/Demo/"));
