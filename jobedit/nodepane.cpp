@@ -92,7 +92,10 @@ void NodePane::UpdateNodes(std::vector<JobNode> nodes, const QString& path)
 void NodePane::Fill(std::vector<JobNode> nodes)
 {
     m_view->setCurrentIndex({});
+    // The filter looks at all nodes once and not at each as it comes.
+    m_filtered->setSourceModel(nullptr);
     m_model->SetNodes(std::move(nodes));
+    m_filtered->setSourceModel(m_model);
     m_view->expandAll();
     m_view->resizeColumnToContents(0);
 }

@@ -29,11 +29,7 @@ void NodeTreeModel::SetNodes(std::vector<JobNode> nodes)
     {
         QList<QStandardItem*> row{new QStandardItem(node.name), new QStandardItem(node.type)};
         for (QStandardItem* item : row)
-        {
-            item->setEditable(false);
-            item->setToolTip(node.type.isEmpty() ? node.path : tr("%1\nType: %2").arg(node.path, node.type));
             item->setData(int(m_items.size()), numberRole);
-        }
         QStandardItem* above = node.parent < 0 ? invisibleRootItem() : m_items[size_t(node.parent)];
         m_numbers.insert(node.path, m_items.size());
         m_items.push_back(row.first());
@@ -52,8 +48,18 @@ QModelIndex NodeTreeModel::IndexOf(const QString& path) const
     return found == m_numbers.constEnd() ? QModelIndex() : m_items[*found]->index();
 }
 
+Qt::ItemFlags NodeTreeModel::flags(const QModelIndex& index) const
+{
+    return QStandardItemModel::flags(index) & ~Qt::ItemIsEditable;
+}
+
 QVariant NodeTreeModel::data(const QModelIndex& index, int role) const
 {
+    if (role == Qt::ToolTipRole && index.isValid())
+    {
+        const JobNode& node = *NodeOf(index);
+        return node.type.isEmpty() ? node.path : tr("%1\nType: %2").arg(node.path, node.type);
+    }
     const QVariant data = QStandardItemModel::data(index, role);
     // Asked for at each painting, so that it follows the palette.
     if (role == Qt::ForegroundRole && !HasDialog(*NodeOf(index)))

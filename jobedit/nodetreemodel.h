@@ -24,6 +24,7 @@ public:
     /// Invalid when no node has this path ("/" at the end or not).
     QModelIndex IndexOf(const QString& path) const;
 
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
