@@ -74,6 +74,8 @@ CheckDock::CheckDock(MainWindow& window)
     connect(&window.Document(), &JobDocument::ContentChanged, this, &CheckDock::Slot_OnContentChanged);
     // A panel may disable what does not apply in it, which is no change of content.
     connect(&window.Nodes(), &NodePane::CurrentChanged, this, &CheckDock::Slot_OnNodeShown);
+    if (TKE::Tree::Instance()->ValueCount() > 0)
+        Start(); // a window may be made for a job that is open already
 }
 
 void CheckDock::MakeList()

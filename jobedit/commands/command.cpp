@@ -5,7 +5,7 @@ namespace JOBEDIT
 
 std::vector<Command> MakeCommands()
 {
-    return {MakeGet(), MakeSet(), MakeList(), MakeDiff(), MakeCheck(), MakeRender(), MakeNew()};
+    return {MakeGet(), MakeSet(), MakeList(), MakeDiff(), MakeCheck(), MakeRender(), MakeReport(), MakePlan(), MakeNew()};
 }
 
 int Call::Refuse(const QString& reason)

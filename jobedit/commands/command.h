@@ -78,7 +78,9 @@ Command MakeDiff();
 Command MakeGet();
 Command MakeList();
 Command MakeNew();
+Command MakePlan();
 Command MakeRender();
+Command MakeReport();
 Command MakeSet();
 
 } // namespace JOBEDIT
