@@ -4,8 +4,14 @@
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/showntext.h"
 #include "valuewidgets/suffixeddouble.h"
+#include "valuewidgets/valuelink.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDateTime>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 
@@ -29,6 +35,29 @@ QString ItemName(const TKE::ValueDescriptor& descriptor, const QString& key)
     return item != descriptor.items.end() ? item->GetName() : key;
 }
 
+// As it stands in a sentence: without what sets it off from its field, and without mnemonic.
+QString Plain(QString label)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&(?=.)"));
+    label = label.trimmed().remove(mnemonic);
+    while (label.endsWith(':') || label.endsWith(' '))
+        label.chop(1);
+    return label;
+}
+
+QString LabelOf(const QWidget& field)
+{
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&field))
+        return Plain(button->text());
+    if (const auto* box = qobject_cast<const QGroupBox*>(&field); box && !box->title().isEmpty())
+        return Plain(box->title());
+    const QWidget* parent = field.parentWidget();
+    for (const QLabel* label : parent ? parent->findChildren<QLabel*>() : QList<QLabel*>())
+        if (label->buddy() && (label->buddy() == &field || label->buddy() == field.focusProxy()))
+            return Plain(label->text());
+    return Plain(field.accessibleName());
+}
+
 // The unit that shows the frequency shortest.
 QString Frequency(qint64 hertz)
 {
@@ -42,20 +71,26 @@ QString Frequency(qint64 hertz)
 
 } // namespace
 
-QString ChangeText::Of(const QString& path, const TKE::ValueDescriptor& descriptor, const QString& before,
-                       const QString& after)
+QString ChangeText::Of(const QString& path, QString label, const TKE::ValueDescriptor& descriptor,
+                       const QString& before, const QString& after)
 {
-    const QString label = LabelOf(descriptor);
+    if (label.isEmpty())
+        label = Plain(descriptor.label);
     return tr("%1: %2 -> %3", "label of a value, content before and after")
         .arg(label.isEmpty() ? path.section('/', -1) : label, ShownOf(descriptor, before), ShownOf(descriptor, after));
 }
 
-QString ChangeText::LabelOf(const TKE::ValueDescriptor& descriptor)
+QString ChangeText::LabelOnScreen(const TKE::ValueBase& value)
 {
-    QString label = descriptor.label.trimmed();
-    while (label.endsWith(':') || label.endsWith(' '))
-        label.chop(1);
-    return label;
+    const QWidget* window = QApplication::activeWindow();
+    for (QWidget* widget : window ? window->findChildren<QWidget*>() : QWidgetList())
+    {
+        const auto* link = dynamic_cast<const TKE::ValueLink*>(widget);
+        if (link && link->GetBoundValue() == &value && widget->isVisible())
+            if (const QString label = LabelOf(*widget); !label.isEmpty())
+                return label;
+    }
+    return {};
 }
 
 QString ChangeText::ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored)

@@ -4,8 +4,9 @@
 
 namespace TKE
 {
+class ValueBase;
 struct ValueDescriptor;
-}
+} // namespace TKE
 
 namespace JOBEDIT
 {
@@ -16,11 +17,11 @@ class ChangeText
     Q_DECLARE_TR_FUNCTIONS(JOBEDIT::ChangeText)
 
 public:
-    /// "Gain: AGC -> MGC", for the value at `path`, which may be gone.
-    static QString Of(const QString& path, const TKE::ValueDescriptor& descriptor, const QString& before,
+    /// "Gain: AGC -> MGC", for the value at `path`, which may be gone. Without a label that of the descriptor serves.
+    static QString Of(const QString& path, QString label, const TKE::ValueDescriptor& descriptor, const QString& before,
                       const QString& after);
-    /// The label of the rows of such values; empty when there is none.
-    static QString LabelOf(const TKE::ValueDescriptor& descriptor);
+    /// What the field that shows the value in the active window is labelled with; empty when there is none.
+    static QString LabelOnScreen(const TKE::ValueBase& value);
     /// The content that `stored` stands for, as the dialogs show it, with its unit.
     static QString ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored);
 };

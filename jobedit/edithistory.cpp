@@ -1,5 +1,6 @@
 #include "edithistory.h"
 
+#include "changetext.h"
 #include "dialogpane.h"
 #include "value/tree.h"
 
@@ -182,8 +183,12 @@ void EditHistory::Close()
 
 void EditHistory::Bound()
 {
-    while (m_steps.size() > MaximumSteps)
+    size_t changes = 0;
+    for (const EditStep& step : m_steps)
+        changes += step.changes.size();
+    while (m_steps.size() > MaximumSteps || (changes > MaximumChanges && m_steps.size() > 1))
     {
+        changes -= m_steps.front().changes.size();
         m_steps.pop_front();
         --m_position;
         if (m_saved)
@@ -200,6 +205,8 @@ void EditHistory::Record(const TKE::JournalEntry& entry)
             m_wanted->insert(path, entry.before);
         return;
     }
+    if (!IsOpen() && m_depth == 0 && Open().changes.empty())
+        Open().label = ChangeText::LabelOnScreen(entry.value);
     Append({entry.value.GetPathName(), entry.before, entry.after, nullptr, &entry.value.GetDescriptor()});
 }
 

@@ -14,13 +14,14 @@ namespace JOBEDIT
 /// Changes that come while a Step lives, or during one act of the user, or until control is back at the event loop,
 /// make one step. Undo and redo are exact: every value that they touch, be it by an observer of another one, ends with
 /// the content it had. They write with no excluded observer, and commit first what is still being typed. The oldest of
-/// more than a thousand steps go.
+/// more than a thousand steps go, and those of too many changes.
 class EditHistory : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr size_t MaximumSteps = 1000;
+    static constexpr size_t MaximumChanges = 2'000'000; ///< in all steps but the last
 
     /// All changes while it lives form one step of undo with this (translated) name. Nested steps: the outermost
     /// counts. An empty step leaves no trace.
@@ -98,7 +99,7 @@ private:
     quint64 m_act = 0;                  // 0: no act of the user is going on
     quint64 m_lastAct = 0;
     quint64 m_lastNumber = 0;
-    bool m_nodesChanged = false; // which is told once, at the end of a step, of undo and of redo
+    bool m_nodesChanged = false;  // which is told once, at the end of a step, of undo and of redo
     Contents* m_wanted = nullptr; // while undo or redo writes: what each value they touch must end with
 };
 

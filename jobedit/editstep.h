@@ -28,6 +28,7 @@ struct EditStep
     quint64 number = 0; ///< of its making: no two steps of a run of the program share one
     quint64 act = 0;    ///< of the user; 0: none that could go on
     QString name;       ///< empty: told by the changes
+    QString label;      ///< of the field of the first change
     std::vector<EditChange> changes;
 
     /// The step's name or what it did, like "Gain: AGC -> MGC", in the user's language.

@@ -24,7 +24,8 @@ QString PathBeside(const QString& path, const QString& name)
 
 } // namespace
 
-JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* parent) : QObject(parent), m_history(new EditHistory(m_file, this))
+JobDocument::JobDocument(std::shared_ptr<const TKE::JobModel> model, QObject* parent)
+    : QObject(parent), m_history(new EditHistory(m_file, this))
 {
     m_file.SetModel(std::move(model));
     m_otherJournal = TKE::Tree::Instance()->SetJournal(
@@ -131,8 +132,7 @@ std::vector<JobNode> JobDocument::GetNodes() const
                 return;
             const QString name = node->GetName().isEmpty() ? spec.name : node->GetName().toString();
             numbers.insert(path, int(nodes.size()));
-            nodes.push_back(
-                {path, name, node->GetTypeText(), spec.band, spec.dataForm, numbers.value(parentPath, -1)});
+            nodes.push_back({path, name, node->GetTypeText(), spec.band, spec.dataForm, numbers.value(parentPath, -1)});
         });
     return nodes;
 }

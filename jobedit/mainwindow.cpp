@@ -9,9 +9,9 @@
 #include "nodepane.h"
 #include "panelwindow.h"
 #include "recentfiles.h"
-#include "reuseactions.h"
 #include "recoveryoffer.h"
-#include "valuewidgets/textentry.h"
+#include "reuseactions.h"
+#include "saving.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -126,43 +126,17 @@ bool MainWindow::OpenFile(const QString& fileName)
 
 bool MainWindow::Save()
 {
-    if (m_document->GetFileName().isEmpty() || m_document->IsReadOnly())
-        return SaveAs();
-    CommitPendingEdit();
-    if (!MayOverwrite())
-        return false;
-    ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->Save(error))
-        return SaveElsewhere(m_document->GetFileName(), error);
-    statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
-    return true;
+    return Saving(*this).Save();
 }
 
 bool MainWindow::SaveAs()
 {
-    CommitPendingEdit();
-    const QString start = m_document->GetFileName().isEmpty() ? tr("new.job.xml") : m_document->GetFileName();
-    const QString fileName =
-        QFileDialog::getSaveFileName(this, tr("Save Job"), start, tr("Jobs (*.xml);;All files (*)"));
-    return !fileName.isEmpty() && SaveTo(fileName);
+    return Saving(*this).SaveAs();
 }
 
 bool MainWindow::SaveTo(const QString& fileName)
 {
-    CommitPendingEdit();
-    if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
-        return SaveElsewhere(fileName,
-                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
-    if (!MayReplace(fileName))
-        return false;
-    ReportRefusals();
-    TKE::FileError error;
-    if (!m_document->SaveAs(fileName, error))
-        return SaveElsewhere(fileName, error);
-    RecentFiles::Add(fileName);
-    statusBar()->showMessage(tr("%1 saved").arg(m_document->GetFileName()), 5000);
-    return true;
+    return Saving(*this).SaveTo(fileName);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -359,81 +333,15 @@ bool MainWindow::MayGo()
     }
 }
 
-bool MainWindow::MayOverwrite()
+void MainWindow::ShowMessages()
 {
-    if (m_document->GetDiskState() != TKE::JobFile::DiskState::Changed || m_compare->IsDiskSettled())
-        return true; // what has vanished is written again
-    m_compare->NoteDisk();
-    QMessageBox question(
-        QMessageBox::Warning, tr("Save Job"),
-        tr("%1 was changed by somebody else since it was opened.").arg(QFileInfo(m_document->GetFileName()).fileName()),
-        QMessageBox::Cancel, this);
-    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
-    const QPushButton* compare = question.addButton(tr("&Compare..."), QMessageBox::ActionRole);
-    question.setDefaultButton(QMessageBox::Cancel);
-    question.exec();
-    if (question.clickedButton() == compare)
-        m_compare->CompareWithDisk();
-    return question.clickedButton() == overwrite;
-}
-
-bool MainWindow::MayReplace(const QString& fileName)
-{
-    if (!QFileInfo(fileName).isFile())
-        return true;
-    if (QFileInfo(fileName) == QFileInfo(m_document->GetFileName()))
-        return MayOverwrite();
-    const TKE::FileErrors errors = TKE::JobFile::Check(fileName);
-    const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
-    if (fault == errors.end())
-        return true;
-    QMessageBox question(QMessageBox::Warning, tr("Save Job"),
-                         tr("%1 is no job that can be read.").arg(QFileInfo(fileName).fileName()), QMessageBox::Cancel,
-                         this);
-    question.setInformativeText(fault->ToText());
-    QPushButton* overwrite = question.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
-    question.setDefaultButton(QMessageBox::Cancel);
-    question.exec();
-    return question.clickedButton() == overwrite;
-}
-
-bool MainWindow::SaveElsewhere(const QString& fileName, const TKE::FileError& error)
-{
-    const QString text = tr("%1 could not be saved.").arg(QFileInfo(fileName).fileName());
-    m_messages->Add(TKE::Severity::Error, text, error.ToText());
     m_messageDock->show();
-    if (!isVisible())
-        return false;
-    QMessageBox box(QMessageBox::Critical, tr("Save Job"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this);
-    box.setInformativeText(tr("Your changes are still there. They can be saved in another place."));
-    QPushButton* elsewhere = box.addButton(tr("Save &As..."), QMessageBox::ActionRole);
-    box.setDefaultButton(elsewhere);
-    box.setEscapeButton(QMessageBox::Ok);
-    box.exec();
-    return box.clickedButton() == elsewhere && SaveAs();
-}
-
-void MainWindow::ReportRefusals()
-{
-    if (!m_dialog->GetDialog())
-        return;
-    for (QLineEdit* field : m_dialog->GetDialog()->findChildren<QLineEdit*>())
-    {
-        // The field itself, or the line edit of a spin box.
-        const auto* entry = dynamic_cast<const TKE::TextEntry*>(field);
-        if (!entry)
-            entry = dynamic_cast<const TKE::TextEntry*>(field->parentWidget());
-        if (entry && !entry->GetRefusal().isEmpty())
-            m_messages->Add(TKE::Severity::Warning,
-                            tr("The entry \"%1\" was refused and is not saved").arg(field->text()),
-                            entry->GetRefusal());
-    }
 }
 
 void MainWindow::Fail(const QString& text, const TKE::FileError& error)
 {
     m_messages->Add(TKE::Severity::Error, text, error.ToText());
-    m_messageDock->show();
+    ShowMessages();
     // Before the window is up there is nobody to press a button: the message waits in the list.
     if (isVisible())
         QMessageBox(QMessageBox::Critical, tr("Job Editor"), text + "\n\n" + error.ToText(), QMessageBox::Ok, this)

@@ -49,6 +49,8 @@ public:
     DialogPane& Dialog() { return *m_dialog; }
     MessageList& Messages() { return *m_messages; }
     CompareActions& Comparing() { return *m_compare; }
+    /// Brings the messages into view.
+    void ShowMessages();
     RecoveryOffer& Recovery() { return *m_recovery; }
 
 protected:
@@ -71,14 +73,6 @@ private:
 
     /// Asks what becomes of unsaved changes. False: leave everything as it is.
     bool MayGo();
-    /// False: the user does not want to overwrite what somebody else wrote.
-    bool MayOverwrite();
-    /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
-    bool MayReplace(const QString& fileName);
-    /// Shows why the job could not be saved, and saves it in another place if the user wants.
-    bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
-    /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
-    void ReportRefusals();
     void Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
 

@@ -28,7 +28,7 @@ public:
 
 private:
     std::vector<JobNode> m_nodes;
-    QHash<QString, size_t> m_numbers; // by path
+    QHash<QString, size_t> m_numbers;    // by path
     std::vector<QStandardItem*> m_items; // one per node, owned by the model
 };
 

@@ -54,12 +54,8 @@ std::optional<QJsonObject> ObjectOfLine(QByteArrayView line)
 
 QJsonObject ObjectOf(const TKE::NodeSpec& spec)
 {
-    return {{"name", spec.name},
-            {"type", spec.type},
-            {"groups", QJsonArray::fromStringList(spec.groups)},
-            {"count", spec.count},
-            {"data", spec.dataForm},
-            {"vuhf", spec.band == TKE::Band::Vuhf}};
+    return {{"name", spec.name},   {"type", spec.type},     {"groups", QJsonArray::fromStringList(spec.groups)},
+            {"count", spec.count}, {"data", spec.dataForm}, {"vuhf", spec.band == TKE::Band::Vuhf}};
 }
 
 TKE::NodeSpec SpecOf(const QJsonObject& object)

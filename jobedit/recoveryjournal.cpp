@@ -17,7 +17,7 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int delay = 500;            // ms from an edit to its writing
+constexpr int delay = 500;             // ms from an edit to its writing
 constexpr size_t recordsAtOnce = 5000; // so that the window goes on working meanwhile
 
 const QString suffix = QStringLiteral(".edits");
@@ -221,7 +221,8 @@ bool RecoveryJournal::Open()
     if (m_file)
         return true;
     QString name = m_base.file.isEmpty() ? QStringLiteral("new job") : QFileInfo(m_base.file).fileName();
-    name += QStringLiteral("-%1-%2").arg(QCoreApplication::applicationPid()).arg(QRandomGenerator::global()->generate());
+    name +=
+        QStringLiteral("-%1-%2").arg(QCoreApplication::applicationPid()).arg(QRandomGenerator::global()->generate());
     QDir().mkpath(Directory());
     const QString fileName = Directory() + '/' + name + suffix;
     m_lock = Lock(fileName); // first: a file without a lock is one that was left behind

@@ -81,7 +81,8 @@ RecoveryOffer::Choice RecoveryOffer::Offer(const QString& kept, const RecoveryFi
     QPushButton* restore = nullptr;
     if (edits.base && !edits.changes.empty())
     {
-        question.setInformativeText(tr("Restored, they can be taken back by Undo, and are saved when you save the job."));
+        question.setInformativeText(
+            tr("Restored, they can be taken back by Undo, and are saved when you save the job."));
         restore = question.addButton(tr("&Restore"), QMessageBox::AcceptRole);
     }
     else
@@ -117,9 +118,9 @@ QString RecoveryOffer::TextOf(const RecoveryFile& edits) const
     {
         const QString when =
             QLocale().toString(QDateTime::fromString(edits.base->begun, Qt::ISODate), QLocale::ShortFormat);
-        lines << (file.isEmpty() ? tr("An editor ended without saving a new job. Its edits since %1 are still there.").arg(when)
-                                 : tr("An editor ended without saving %1. The edits since %2 are still there.")
-                                       .arg(file, when));
+        lines << (file.isEmpty()
+                      ? tr("An editor ended without saving a new job. Its edits since %1 are still there.").arg(when)
+                      : tr("An editor ended without saving %1. The edits since %2 are still there.").arg(file, when));
         lines << tr("Changes: %1.").arg(edits.changes.size());
     }
     if (edits.base && !file.isEmpty() && !QFileInfo::exists(file))

@@ -67,8 +67,7 @@ bool UserActs::eventFilter(QObject* receiver, QEvent* event)
         break;
     case QEvent::ShortcutOverride:
         // Left to the shortcut by not letting the field accept it.
-        if (receiver->isWidgetType() &&
-            IsForJob(static_cast<QWidget&>(*receiver), static_cast<QKeyEvent&>(*event)))
+        if (receiver->isWidgetType() && IsForJob(static_cast<QWidget&>(*receiver), static_cast<QKeyEvent&>(*event)))
         {
             event->ignore();
             return true;
@@ -83,8 +82,9 @@ bool UserActs::eventFilter(QObject* receiver, QEvent* event)
 bool UserActs::IsForJob(const QWidget& receiver, const QKeyEvent& event) const
 {
     const QKeySequence keys(event.keyCombination());
-    const bool isAction = std::any_of(m_actions.begin(), m_actions.end(), [&](const QAction* action)
-                                      { return action->isEnabled() && action->shortcuts().contains(keys); });
+    const bool isAction =
+        std::any_of(m_actions.begin(), m_actions.end(),
+                    [&](const QAction* action) { return action->isEnabled() && action->shortcuts().contains(keys); });
     for (const QWidget* each = isAction ? &receiver : nullptr; each; each = each->parentWidget())
         if (qobject_cast<const TKE::ParameterDlg*>(each))
             return true;

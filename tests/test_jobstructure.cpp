@@ -122,10 +122,14 @@ private slots:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("name");
-        QTest::newRow("empty") << "AB" << "";
-        QTest::newRow("no segment") << "AB/IN" << "..";
-        QTest::newRow("two segments") << "AB/IN" << "a/b";
-        QTest::newRow("no node") << "NOWHERE" << "a";
+        QTest::newRow("empty") << "AB"
+                               << "";
+        QTest::newRow("no segment") << "AB/IN"
+                                    << "..";
+        QTest::newRow("two segments") << "AB/IN"
+                                      << "a/b";
+        QTest::newRow("no node") << "NOWHERE"
+                                 << "a";
     }
     void namesThatCannotBeAreRefused()
     {

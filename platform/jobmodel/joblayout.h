@@ -48,7 +48,7 @@ struct JobNode
 
     std::string lead; ///< blanks before the element
     std::string startTag;
-    std::string fileTag;    ///< of a renamed node: the start tag under the name before, `fileName`
+    std::string fileTag; ///< of a renamed node: the start tag under the name before, `fileName`
     QString fileName;
     std::string valueLead;  ///< blanks before the elements of values, as before the first one
     bool hasValues = false; ///< whether the content names any

@@ -1,7 +1,7 @@
 #include "jobmodel/jobstructure.h"
 
 #include "jobmodel/journalpause.h"
-#include "jobmodel/xmltext.h"
+#include "jobmodel/nodetag.h"
 
 #include <algorithm>
 
@@ -21,54 +21,6 @@ bool Refuse(QString* reason, const QString& why)
 QString NodePath(QStringView path)
 {
     return path.isEmpty() || path.endsWith(u'/') ? path.toString() : path.toString() + QLatin1Char('/');
-}
-
-void AppendAttribute(std::string& out, const char* name, const QString& text)
-{
-    out += ' ';
-    out += name;
-    out += "=\"";
-    XmlText::AppendAttribute(out, text.toStdString());
-    out += '"';
-}
-
-std::string StartTagOf(const NodeSpec& spec)
-{
-    std::string tag = "<Node";
-    AppendAttribute(tag, "name", spec.name);
-    AppendAttribute(tag, "type", spec.type);
-    if (!spec.groups.isEmpty())
-        AppendAttribute(tag, "groups", spec.groups.join(QLatin1Char(' ')));
-    if (spec.count > 0)
-        AppendAttribute(tag, "count", QString::number(spec.count));
-    if (spec.dataForm)
-        AppendAttribute(tag, "form", QStringLiteral("data"));
-    if (spec.band == Band::Vuhf)
-        AppendAttribute(tag, "band", QStringLiteral("VUHF"));
-    return tag + "/>";
-}
-
-// `tag`, which is well-formed, with another value of its attribute "name".
-std::string Renamed(const std::string& tag, const QString& name)
-{
-    size_t at = tag.find_first_of(" \t\r\n");
-    while (at < tag.size())
-    {
-        const size_t begin = tag.find_first_not_of(" \t\r\n", at);
-        const size_t quote = tag.find_first_of("\"'", begin);
-        if (quote == std::string::npos)
-            break;
-        const size_t end = tag.find(tag[quote], quote + 1);
-        const std::string_view attribute = std::string_view(tag).substr(begin, tag.find('=', begin) - begin);
-        if (XmlText::Trimmed(attribute) == "name")
-        {
-            std::string escaped;
-            XmlText::AppendAttribute(escaped, name.toStdString());
-            return tag.substr(0, quote) + '"' + escaped + '"' + tag.substr(end + 1);
-        }
-        at = end + 1;
-    }
-    return tag;
 }
 
 void SetPath(JobNode& node, const QString& path)
@@ -189,7 +141,7 @@ Node* JobStructure::Add(QStringView parentPath, const NodeSpec& spec, const JobM
     const JournalPause pause(m_tree);
     node->parent = parent;
     node->lead = parent->NewLead();
-    node->startTag = StartTagOf(spec);
+    node->startTag = NodeTag::Of(spec);
     JobNode& added = *node;
     parent->Add(JobNode::Piece::Node, parent->nodes.size());
     parent->nodes.push_back(std::move(node));
@@ -264,7 +216,7 @@ bool JobStructure::Rename(QStringView path, const QString& name, QString* reason
         renamed.fileTag = renamed.startTag;
         renamed.fileName = renamed.spec.name;
     }
-    renamed.startTag = spec.name == renamed.fileName ? renamed.fileTag : Renamed(renamed.fileTag, spec.name);
+    renamed.startTag = spec.name == renamed.fileName ? renamed.fileTag : NodeTag::Renamed(renamed.fileTag, spec.name);
     renamed.spec = spec;
     SetPath(renamed, newPath);
     return PutBack(*taken, reason);
@@ -289,7 +241,7 @@ Node* JobStructure::Duplicate(QStringView path, const QString& name, QString* re
         size_t(std::ranges::find(parent.nodes, node, &std::unique_ptr<JobNode>::get) - parent.nodes.begin());
     auto copied = CopyOf(*node);
     copied->parent = &parent;
-    copied->startTag = Renamed(node->startTag, spec.name);
+    copied->startTag = NodeTag::Renamed(node->startTag, spec.name);
     copied->spec = spec;
     SetPath(*copied, newPath);
     JobNode& copy = *copied;
