@@ -110,10 +110,10 @@ Bench::Sides LookUp(bool cold)
             [=] { return measure([&](const QString& path) { return world->hash.value(path); }); }};
 }
 
-// The chunk that the allocator gives for one value.
+// The memory that one value takes; of many, since they get it in blocks.
 double ChunkOfValue()
 {
-    constexpr int count = 1000;
+    constexpr int count = 100'000;
     std::vector<std::unique_ptr<IntValue>> values(count);
     static const QString name = QStringLiteral("NAME");
     return Bench::Heap(

@@ -107,9 +107,11 @@ private Q_SLOTS:
         QTest::newRow("get of a bad file") << QStringList{"get", "bad.job.xml", "x"} << 1 << "bad.job.xml:3:";
         QTest::newRow("get of no value") << QStringList{"get", "good.job.xml", "TDS_HF1/X"} << 1 << "TDS_HF1/X";
         QTest::newRow("list of nothing") << QStringList{"list", "good.job.xml", "*nowhere*"} << 1 << "*nowhere*";
-        QTest::newRow("diff of no node") << QStringList{"diff", "good.job.xml", "good.job.xml", "--node", "N"} << 1 << "N";
+        QTest::newRow("diff of no node") << QStringList{"diff", "good.job.xml", "good.job.xml", "--node", "N"} << 1
+                                         << "N";
         QTest::newRow("new over a file") << QStringList{"new", "good.job.xml"} << 1 << "--force";
-        QTest::newRow("new where nothing can be") << QStringList{"new", "no/such/directory.xml"} << 1 << "directory.xml";
+        QTest::newRow("new where nothing can be")
+            << QStringList{"new", "no/such/directory.xml"} << 1 << "directory.xml";
         QTest::newRow("too few chains") << QStringList{"new", "few.xml", "--chains", "1"} << 1 << "chains";
         QTest::newRow("diff of equals") << QStringList{"diff", "good.job.xml", "good.job.xml"} << 0 << "";
         QTest::newRow("a window without a display") << QStringList{"good.job.xml"} << 1 << "display";
@@ -196,15 +198,41 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("stored");
         const QString tuner = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_";
-        QTest::newRow("frequency with a unit") << tuner + "FREQUENCY" << "7.1 MHz" << "7100000" << "7100000";
-        QTest::newRow("decimal comma") << tuner + "FREQUENCY" << "7040,5 k" << "7040500" << "7040500";
-        QTest::newRow("whole path") << "/Jobs/Demo/" + tuner + "FREQUENCY" << "5e6" << "5000000" << "5000000";
-        QTest::newRow("item by name") << tuner + "SQUELCHMODE" << "Level and syllabic" << "Level and syllabic" << "3";
-        QTest::newRow("item in small letters") << tuner + "SQUELCHMODE" << "syllabic" << "Syllabic" << "2";
-        QTest::newRow("item by key") << tuner + "SQUELCHMODE" << "1" << "Level" << "1";
-        QTest::newRow("number with its unit") << tuner + "MGCVALUE" << "33 dB" << "33" << "33";
-        QTest::newRow("switch") << tuner + "NF1_STATUS" << "on" << "true" << "true";
-        QTest::newRow("text with an umlaut and =") << "Resources/HF1/RESOURCE_NAME" << "Gerät=1 <ä>" << "Gerät=1 <ä>"
+        QTest::newRow("frequency with a unit") << tuner + "FREQUENCY"
+                                               << "7.1 MHz"
+                                               << "7100000"
+                                               << "7100000";
+        QTest::newRow("decimal comma") << tuner + "FREQUENCY"
+                                       << "7040,5 k"
+                                       << "7040500"
+                                       << "7040500";
+        QTest::newRow("whole path") << "/Jobs/Demo/" + tuner + "FREQUENCY"
+                                    << "5e6"
+                                    << "5000000"
+                                    << "5000000";
+        QTest::newRow("item by name") << tuner + "SQUELCHMODE"
+                                      << "Level and syllabic"
+                                      << "Level and syllabic"
+                                      << "3";
+        QTest::newRow("item in small letters") << tuner + "SQUELCHMODE"
+                                               << "syllabic"
+                                               << "Syllabic"
+                                               << "2";
+        QTest::newRow("item by key") << tuner + "SQUELCHMODE"
+                                     << "1"
+                                     << "Level"
+                                     << "1";
+        QTest::newRow("number with its unit") << tuner + "MGCVALUE"
+                                              << "33 dB"
+                                              << "33"
+                                              << "33";
+        QTest::newRow("switch") << tuner + "NF1_STATUS"
+                                << "on"
+                                << "true"
+                                << "true";
+        QTest::newRow("text with an umlaut and =") << "Resources/HF1/RESOURCE_NAME"
+                                                   << "Gerät=1 <ä>"
+                                                   << "Gerät=1 <ä>"
                                                    << "Gerät=1 <ä>";
     }
     void getPrintsWhatSetWrote()
@@ -332,8 +360,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("list");
         QTest::addColumn<int>("count");
         QTest::addColumn<QStringList>("keys");
-        const QStringList value{"changed", "default", "enabled", "kind",   "label", "maximum",
-                                "minimum", "path",    "stored",  "unit",   "value"};
+        const QStringList value{"changed", "default", "enabled", "kind", "label", "maximum",
+                                "minimum", "path",    "stored",  "unit", "value"};
         const QString frequency = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY";
         QTest::newRow("get") << QStringList{"get", "a.xml", frequency} << 0 << "values" << 1 << value;
         QTest::newRow("get nothing") << QStringList{"get", "a.xml", "X"} << 1 << "values" << 0 << QStringList();
@@ -352,8 +380,8 @@ private Q_SLOTS:
         QFETCH(QString, list);
         WriteSample("a.xml");
         WriteAll("bad.xml", "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
-        QCOMPARE(RunProgram({"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", "--out",
-                             File("b.xml")})
+        QCOMPARE(RunProgram(
+                     {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", "--out", File("b.xml")})
                      .status,
                  0);
         for (QString& argument : arguments)

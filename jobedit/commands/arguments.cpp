@@ -62,7 +62,9 @@ QString Arguments::Fault() const
     const Command* command = GetCommand();
     const qsizetype count = GetRest().size();
     if (!command && count > 1)
-        return tr("One job at a time: %1 files are given, and %2 is no command.").arg(count).arg(GetRest().constFirst());
+        return tr("One job at a time: %1 files are given, and %2 is no command.")
+            .arg(count)
+            .arg(GetRest().constFirst());
     for (const QString& option : m_known)
         if (m_parser.isSet(option) && !(command && Knows(*command, option)))
             return tr("--%1 belongs to %2.").arg(option, OwnersOf(option).join(QLatin1String(", ")));

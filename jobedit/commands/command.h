@@ -27,12 +27,12 @@ class Call;
 struct Command
 {
     QString name;
-    QString arguments; ///< as the help shows them
-    QString summary;   ///< one line
-    QString help;      ///< what else there is to know
-    int fewest = 0;    ///< arguments
-    int most = -1;     ///< -1: any number
-    bool json = false; ///< understands --json
+    QString arguments;  ///< as the help shows them
+    QString summary;    ///< one line
+    QString help;       ///< what else there is to know
+    int fewest = 0;     ///< arguments
+    int most = -1;      ///< -1: any number
+    bool json = false;  ///< understands --json
     bool draws = false; ///< needs fonts and pictures
     QList<QCommandLineOption> options{};
     int (*run)(Call& call) = nullptr;

@@ -94,8 +94,8 @@ void PrintJson(const std::vector<JobDifference>& differences, Call& call)
 {
     const auto side = [](const TKE::ValueBase* value)
     {
-        return value ? QJsonValue(QJsonObject{{"value", CommandText::Of(*value, false)},
-                                              {"stored", value->GetStoredText()}})
+        return value ? QJsonValue(
+                           QJsonObject{{"value", CommandText::Of(*value, false)}, {"stored", value->GetStoredText()}})
                      : QJsonValue();
     };
     JsonList list(call.Out(), {{"left", call.GetArgument(0)}, {"right", call.GetArgument(1)}},
@@ -105,7 +105,8 @@ void PrintJson(const std::vector<JobDifference>& differences, Call& call)
         if (found.isNode)
             list.Add({{"path", found.path}, {"what", "node"}, {"only", found.leftHasNode ? "left" : "right"}});
         else
-            list.Add({{"path", found.path}, {"what", "value"}, {"left", side(found.left)}, {"right", side(found.right)}});
+            list.Add(
+                {{"path", found.path}, {"what", "value"}, {"left", side(found.left)}, {"right", side(found.right)}});
     }
 }
 

@@ -17,12 +17,16 @@ int New(Call& call)
         plan.chains = call.GetValue("chains").toInt(&isNumber);
     if (!isNumber || (call.Has("chains") && plan.chains < 1) || plan.chains > 100'000)
         return call.Misuse(Commands::tr("--chains is a number from 1 to 100000."));
+    if (call.Has("channels"))
+        plan.channels = call.GetValue("channels").toInt(&isNumber);
+    if (!isNumber || (call.Has("channels") && plan.channels < 1) || plan.channels > TKE::NodeSpec::maximumCount)
+        return call.Misuse(Commands::tr("--channels is a number from 1 to %1.").arg(TKE::NodeSpec::maximumCount));
     if (call.Has("vary"))
         plan.seed = call.GetValue("vary").toUInt(&isNumber);
     if (!isNumber)
         return call.Misuse(Commands::tr("--vary is a number from 0."));
-    if (call.Has("vary") && !call.Has("chains"))
-        return call.Misuse(Commands::tr("--vary belongs to --chains."));
+    if ((call.Has("vary") || call.Has("channels")) && !call.Has("chains"))
+        return call.Misuse(Commands::tr("--channels and --vary belong to --chains."));
     plan.allValues = call.Has("all-values");
 
     const QString target = call.GetArgument(0);
@@ -56,8 +60,10 @@ Command MakeNew()
             .most = 1,
             .options = {{"from", Commands::tr("Like this job instead of the sample."), "FILE"},
                         {"chains", Commands::tr("How many chains the job has in all."), "N"},
-                        {"vary", Commands::tr("Gives a third of the new values other contents; the same number gives "
-                                              "the same contents."),
+                        {"channels", Commands::tr("How many channels each new node has that has any."), "N"},
+                        {"vary",
+                         Commands::tr("Gives a third of the new values other contents; the same number gives "
+                                      "the same contents."),
                          "NUMBER"},
                         {"all-values", Commands::tr("Writes every value, not only what differs from its default.")},
                         {"force", Commands::tr("Replaces FILE when it exists.")}},

@@ -24,8 +24,7 @@ int RunRender(Call& call)
     JobDocument document(JobDocument::ConfiguredModel());
     TKE::FileError error;
     const QString file = call.GetArgument(0);
-    if (!(file.isEmpty() ? document.NewFromSample(error)
-                         : document.Open(file, JobDocument::Access::ReadOnly, error)))
+    if (!(file.isEmpty() ? document.NewFromSample(error) : document.Open(file, JobDocument::Access::ReadOnly, error)))
         return call.Refuse(error.ToText());
     const RenderRequest request{call.GetValue("out"), entry,
                                 form == QLatin1String("standalone") ? Form::StandAlone : Form::Job};

@@ -71,8 +71,8 @@ bool TypedValue::SetSelection(TKE::ValueBase& value, const QString& text, QStrin
             const auto isNamed = [&](const TKE::SelectionItem& item)
             { return item.GetName().compare(wanted, sensitivity) == 0; };
             const auto found = std::find_if(items.begin(), items.end(), isNamed);
-            if (found != items.end() && (sensitivity == Qt::CaseSensitive ||
-                                         std::count_if(items.begin(), items.end(), isNamed) == 1))
+            if (found != items.end() &&
+                (sensitivity == Qt::CaseSensitive || std::count_if(items.begin(), items.end(), isNamed) == 1))
                 return found->GetKey();
         }
         bool isNumber = false;

@@ -283,8 +283,8 @@ bool JobReader::IsAsWritten(std::string_view element, const NodeTemplate::Entry&
     m_element.clear();
     constexpr std::string_view begin = "<Value name=\"", tagEnd = "\">", end = "</Value>";
     const size_t tagSize = size_t(m_tagEnd - m_valueBegin);
-    // The element has this name. Where its tag is no longer than this, the name stands in it without escapes, as a plain
-    // one does in the writer's.
+    // The element has this name. Where its tag is no longer than this, the name stands in it without escapes, as a
+    // plain one does in the writer's.
     if (value.GetKind() == ValueKind::Text || !entry.isPlain ||
         tagSize != begin.size() + entry.fileName.size() + tagEnd.size())
     {

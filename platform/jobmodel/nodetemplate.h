@@ -31,8 +31,8 @@ public:
         std::string defaultText; ///< in stored form
         const ValueDescriptor* descriptor;
         const QString* name; ///< the last segment of its path in the tree, which keeps it
-        quint32 home; ///< index of its Home
-        quint32 slot; ///< how many values of the template its home has before
+        quint32 home;        ///< index of its Home
+        quint32 slot;        ///< how many values of the template its home has before
         bool startsDisabled;
         bool isPlain; ///< the file name stands in files as it is, without escapes
     };

@@ -189,7 +189,8 @@ bool Tree::Insert(Node& node, std::unique_ptr<ValueBase> value)
 {
     value->m_node = &node;
     const QStringView name = value->GetName();
-    if (!m_index->values.Insert(value.get(), HashOfValue(node.m_hash, name), [&](const ValueBase& other)
+    if (!m_index->values.Insert(value.get(), HashOfValue(node.m_hash, name),
+                                [&](const ValueBase& other)
                                 { return other.m_node == &node && Same(other.GetName(), name); }))
         return false;
     node.m_values.push_back(std::move(value));
