@@ -80,7 +80,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     new FieldMarks(*this);
     new FieldMenu(*this);
     m_recovery = new RecoveryOffer(*this);
-    m_values = new ValuesDock(*this);
+    new ValuesDock(*this);
     connect(new FileDrop(*this), &FileDrop::Dropped, this, &MainWindow::OpenFile);
     m_helpMenu->addAction(tr("&Guide"), QKeySequence::HelpContents, this, [this] { GuideWindow::Open(this); });
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
@@ -122,7 +122,7 @@ void MainWindow::TakeView(MainWindow& other)
     restoreState(other.saveState());
     m_splitter->restoreState(other.m_splitter->saveState());
     m_hint->setVisible(other.m_hint->isVisible());
-    other.ReportRefusals();
+    Saving(other).ReportRefusals();
     m_messages->TakeFrom(*other.m_messages);
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
     GoTo(other.GetPlace());

@@ -20,7 +20,6 @@ class HintBar;
 class MessageList;
 class NodePane;
 class RecoveryOffer;
-class ValuesDock;
 class ViewActions;
 
 /// The editor: the job's nodes at the left, the dialog of the selected node beside them, messages below.
@@ -109,7 +108,6 @@ private:
     HintBar* m_hint;
     QSplitter* m_splitter;
     QDockWidget* m_messageDock;
-    ValuesDock* m_values = nullptr;
     QMenu* m_fileMenu;
     QMenu* m_editMenu;
     QMenu* m_nodeMenu;

@@ -22,6 +22,8 @@ public:
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& fileName);
+    /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
+    void ReportRefusals();
 
 private:
     /// False: the user does not want to overwrite what somebody else wrote.
@@ -29,8 +31,6 @@ private:
     /// False: the user does not want to lose what stands in the file, which is no job or was written by somebody else.
     bool MayReplace(const QString& fileName);
     bool SaveElsewhere(const QString& fileName, const TKE::FileError& error);
-    /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
-    void ReportRefusals();
 
     MainWindow& m_window;
     JobDocument& m_document;
