@@ -1,5 +1,7 @@
 #include "panelwindow.h"
 
+#include "value/tree.h"
+
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -14,6 +16,9 @@ PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget*
     : QDialog(parent), m_path(node.path)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    if (const TKE::Node* own = TKE::Tree::Instance()->FindNode(m_path); own && !own->GetValues().empty())
+        m_value.Reset(own->GetValues().front().get());
+    m_hasValues = bool(m_value);
     setWindowTitle(tr("%1 - %2").arg(node.path, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
     auto* area = new QScrollArea(this);
     area->setWidgetResizable(true);
@@ -28,6 +33,11 @@ PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget*
     layout->addWidget(buttons);
     const QSize frame(40, 70); // scroll bar, margins and buttons
     resize(area->widget()->sizeHint().expandedTo({500, 300}).boundedTo({1200, 800}) + frame);
+}
+
+bool PanelWindow::IsAlive() const
+{
+    return TKE::Tree::Instance()->FindNode(m_path) && bool(m_value) == m_hasValues;
 }
 
 } // namespace JOBEDIT

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chains.h"
+#include "value/valueobservingptr.h"
 
 #include <QDialog>
 
@@ -15,11 +16,13 @@ class PanelWindow : public QDialog
 public:
     PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent);
 
-    /// Of the node.
-    const QString& GetPath() const { return m_path; }
+    /// Whether the values that it was opened for are still there.
+    bool IsAlive() const;
 
 private:
     QString m_path;
+    TKE::ValueObservingPtr<TKE::ValueBase> m_value; // the first of the node; null: it had none
+    bool m_hasValues = false;
 };
 
 } // namespace JOBEDIT
