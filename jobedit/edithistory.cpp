@@ -63,12 +63,12 @@ void EditHistory::Undo()
         return;
     CommitPendingEdit();
     BeginAct();
+    EndActLater();
     if (m_position == 0)
         return;
     const EditStep& step = m_steps[--m_position];
     Apply(std::views::reverse(step.changes), true);
     emit StepUndone(step);
-    EndActLater();
     emit Changed();
 }
 
@@ -78,12 +78,12 @@ void EditHistory::Redo()
         return;
     CommitPendingEdit();
     BeginAct();
+    EndActLater();
     if (!CanRedo())
         return;
     const EditStep& step = m_steps[m_position++];
     Apply(step.changes, false);
     emit StepRedone(step);
-    EndActLater();
     emit Changed();
 }
 

@@ -15,10 +15,10 @@ namespace JOBEDIT
 namespace
 {
 
-// Where a node goes that gets another name; such a name may be the whole path of a top node.
-QString PathBeside(const QString& path, const QString& name)
+// A plain name takes the place of the last segment of the name of a top node, which may be a path.
+QString WholeName(const TKE::NodeSpec* spec, const QString& name)
 {
-    const QString own = StructureEdit::WithoutSlash(path);
+    const QString own = spec ? spec->name : QString();
     return name.contains('/') ? name : own.left(own.lastIndexOf('/') + 1) + name;
 }
 
@@ -156,13 +156,9 @@ bool JobDocument::RemoveNode(const QString& path, QString* reason)
 {
     CommitPendingEdit();
     const EditHistory::Step step(*m_history, {});
-    auto taken = m_file.TakeNode(path);
+    auto taken = m_file.TakeNode(path, reason);
     if (!taken)
-    {
-        if (reason)
-            *reason = tr("The job has no node %1.").arg(path);
         return false;
-    }
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Remove, path);
     edit->taken = std::move(taken);
     m_history->Record(std::move(edit));
@@ -174,13 +170,13 @@ bool JobDocument::RenameNode(const QString& path, const QString& name, QString* 
     CommitPendingEdit();
     const EditHistory::Step step(*m_history, {});
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Rename, path);
-    if (const TKE::NodeSpec* spec = m_file.FindNodeSpec(path))
-        edit->oldName = spec->name;
-    edit->other = PathBeside(path, name);
-    edit->name = name;
-    if (name == edit->oldName || edit->other == edit->path)
+    const TKE::NodeSpec* spec = m_file.FindNodeSpec(path);
+    edit->oldName = spec ? spec->name : QString();
+    edit->name = WholeName(spec, name);
+    edit->other = edit->path.chopped(edit->oldName.size()) + edit->name;
+    if (spec && edit->name == edit->oldName)
         return true;
-    if (!m_file.RenameNode(path, name, reason))
+    if (!m_file.RenameNode(path, edit->name, reason))
         return false;
     m_history->Record(std::move(edit));
     return true;
@@ -190,7 +186,7 @@ bool JobDocument::DuplicateNode(const QString& path, const QString& name, QStrin
 {
     CommitPendingEdit();
     const EditHistory::Step step(*m_history, {});
-    const TKE::Node* copy = m_file.DuplicateNode(path, name, reason);
+    const TKE::Node* copy = m_file.DuplicateNode(path, WholeName(m_file.FindNodeSpec(path), name), reason);
     if (!copy)
         return false;
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Duplicate, copy->GetBasePath());

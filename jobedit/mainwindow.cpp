@@ -307,7 +307,7 @@ void MainWindow::Slot_OnReplaced()
 void MainWindow::Slot_OnNodesChanged()
 {
     for (PanelWindow* panel : findChildren<PanelWindow*>())
-        if (!TKE::Tree::Instance()->FindNode(panel->GetPath()))
+        if (!panel->IsAlive())
             panel->close();
     const JobNode* current = m_nodes->GetCurrentNode();
     const QString path = !m_movedPath.isEmpty() ? std::exchange(m_movedPath, {}) : current ? current->path : QString();

@@ -1,5 +1,7 @@
 #include "panelwindow.h"
 
+#include "value/tree.h"
+
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -14,6 +16,9 @@ PanelWindow::PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget*
     : QDialog(parent), m_node(node), m_panel(panel)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    if (const TKE::Node* own = TKE::Tree::Instance()->FindNode(m_node.path); own && !own->GetValues().empty())
+        m_value.Reset(own->GetValues().front().get());
+    m_hasValues = bool(m_value);
     setWindowTitle(tr("%1 - %2").arg(node.path, QCoreApplication::translate("JOBEDIT::DirectPanels", panel.title)));
     auto* area = new QScrollArea(this);
     area->setWidgetResizable(true);
@@ -35,6 +40,11 @@ void PanelWindow::MakeAgain(QWidget* parent) const
     auto* again = new PanelWindow(m_node, m_panel, parent);
     again->restoreGeometry(saveGeometry());
     again->show();
+}
+
+bool PanelWindow::IsAlive() const
+{
+    return TKE::Tree::Instance()->FindNode(m_node.path) && bool(m_value) == m_hasValues;
 }
 
 } // namespace JOBEDIT

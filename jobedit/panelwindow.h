@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chains.h"
+#include "value/valueobservingptr.h"
 
 #include <QDialog>
 
@@ -15,14 +16,16 @@ class PanelWindow : public QDialog
 public:
     PanelWindow(const JobNode& node, const DirectPanel& panel, QWidget* parent);
 
-    /// Of the node.
-    const QString& GetPath() const { return m_node.path; }
+    /// Whether the values that it was opened for are still there.
+    bool IsAlive() const;
     /// Shows the same panel at the same place in the language of now.
     void MakeAgain(QWidget* parent) const;
 
 private:
     const JobNode m_node;
     const DirectPanel& m_panel;
+    TKE::ValueObservingPtr<TKE::ValueBase> m_value; // the first of the node; null: it had none
+    bool m_hasValues = false;
 };
 
 } // namespace JOBEDIT

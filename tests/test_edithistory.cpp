@@ -430,9 +430,11 @@ private slots:
         QVERIFY(document.AddNode("/Jobs/Demo", {.name = "NEW", .type = "CS", .groups = {"G_TUNER_HF"}}, &reason));
         QVERIFY(!document.RenameNode("/Jobs/Demo/NEW", "FIRST", &reason));
         QVERIFY(reason.contains("FIRST"));
+        QVERIFY(document.RenameNode("/Jobs/Demo", "DEMO", &reason)); // of a path its last segment
+        QVERIFY(document.RenameNode("/Jobs/DEMO", "/Jobs/Demo", &reason));
         QVERIFY(nodes.SelectNode("/Jobs/Demo/NEW"));
         QVERIFY(Editor::Value("/Jobs/Demo/NEW/" + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7111000"));
-        CompareSteps(6);
+        CompareSteps(8);
         StepsBack();
         QStringList order;
         for (const JobNode& node : nodes.GetNodes())

@@ -111,10 +111,7 @@ private slots:
         QVERIFY(At("Q \"<'/IN/TUNER_VUHF_NB_FREQUENCY") || Tree::Instance()->FindNode(u"Q \"<'/IN"));
         QVERIFY(m_job->RenameNode(u"Q \"<'", "AB", &m_reason));
         QCOMPARE(m_job->ToUtf8(), job);
-        // The last segment of a top node; or the whole path.
-        QVERIFY(m_job->RenameNode(u"/Jobs/C", "D", &m_reason));
-        QVERIFY(m_job->FindNodeSpec(u"/Jobs/D"));
-        QVERIFY(m_job->RenameNode(u"/Jobs/D", "/Other/C", &m_reason));
+        QVERIFY(m_job->RenameNode(u"/Jobs/C", "/Other/C", &m_reason));
         QCOMPARE(m_job->ToUtf8(), QByteArray(job).replace("/Jobs/C", "/Other/C"));
     }
 
@@ -144,6 +141,18 @@ private slots:
             QVERIFY(!m_reason.isEmpty());
             QCOMPARE(m_job->ToUtf8(), job);
         }
+    }
+
+    void aNodeWithAStrangerBelowItStays()
+    {
+        const QByteArray text = QByteArray(job).replace("/Jobs/C", "AB/X");
+        Load(text);
+        QVERIFY(!m_job->TakeNode(u"AB", &m_reason));
+        QVERIFY(m_reason.contains("AB"));
+        QVERIFY(!m_job->RenameNode(u"AB", "B", &m_reason));
+        QCOMPARE(m_job->ToUtf8(), text);
+        QVERIFY(m_job->PutBackNode(*m_job->TakeNode(u"AB/X"), &m_reason));
+        QCOMPARE(m_job->ToUtf8(), text);
     }
 
     void aCopyStandsBehindItsNodeWithTheSameContent()

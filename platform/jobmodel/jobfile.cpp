@@ -266,9 +266,9 @@ void JobFile::RemoveNode(QStringView path)
         m_tree.RemoveBranch(path);
 }
 
-std::shared_ptr<TakenNode> JobFile::TakeNode(QStringView path)
+std::shared_ptr<TakenNode> JobFile::TakeNode(QStringView path, QString* reason)
 {
-    return JobStructure(m_tree, *m_layout).Take(path);
+    return JobStructure(m_tree, *m_layout).Take(path, reason);
 }
 
 bool JobFile::PutBackNode(TakenNode& taken, QString* reason)

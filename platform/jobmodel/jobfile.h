@@ -94,12 +94,12 @@ public:
     Node* AddNode(QStringView parentPath, const NodeSpec& spec, QString* reason = nullptr);
     /// Removes the node at `path` with all below it from the tree and from the job.
     void RemoveNode(QStringView path);
-    /// The same, and what puts it back with its bytes and contents; null when the job holds no such node.
-    std::shared_ptr<TakenNode> TakeNode(QStringView path);
+    /// The same, and what puts it back with its bytes and contents. Null with the reason when the job holds no such
+    /// node, or when another node of the file, which is no part of this one, lies below it.
+    std::shared_ptr<TakenNode> TakeNode(QStringView path, QString* reason = nullptr);
     /// Once for each time that the node was taken; parent and name must be free for it as they were then.
     bool PutBackNode(TakenNode& taken, QString* reason = nullptr);
     /// Gives the node another name; contents and bytes stay. The values are made anew: those so far report their end.
-    /// A name without a "/" takes the place of the last segment of a top node's name.
     bool RenameNode(QStringView path, const QString& name, QString* reason = nullptr);
     /// Puts a copy of the node, with all below it, behind it.
     Node* DuplicateNode(QStringView path, const QString& name, QString* reason = nullptr);

@@ -152,11 +152,17 @@ Node* JobStructure::Add(QStringView parentPath, const NodeSpec& spec, const JobM
     return made;
 }
 
-std::shared_ptr<TakenNode> JobStructure::Take(QStringView path)
+std::shared_ptr<TakenNode> JobStructure::Take(QStringView path, QString* reason)
 {
     JobNode* node = Find(path);
-    if (!node)
+    const QString fault = !node                ? tr("The job holds no node \"%1\"")
+                          : HasStranger(*node) ? tr("Below \"%1\" lies another node that is no part of it")
+                                               : QString();
+    if (!fault.isEmpty())
+    {
+        Refuse(reason, fault.arg(path));
         return {};
+    }
     auto taken = std::make_shared<TakenNode>();
     taken->parentPath = node->parent->path;
     Read(*node, taken->contents);
@@ -207,9 +213,9 @@ bool JobStructure::Rename(QStringView path, const QString& name, QString* reason
     const QString newPath = PathFor(*node, name, spec, reason);
     if (newPath.isEmpty())
         return false;
-    if (HasStranger(*node))
-        return Refuse(reason, tr("Another node of the job lies below \"%1\" without being a part of it").arg(path));
-    const auto taken = Take(path);
+    const auto taken = Take(path, reason);
+    if (!taken)
+        return false;
     JobNode& renamed = *taken->node;
     if (renamed.fileTag.empty())
     {
@@ -258,11 +264,8 @@ Node* JobStructure::Duplicate(QStringView path, const QString& name, QString* re
 
 QString JobStructure::PathFor(const JobNode& node, const QString& name, NodeSpec& spec, QString* reason) const
 {
-    const bool top = node.parent == &m_layout.root;
     spec.name = name;
-    if (top && !name.isEmpty() && !name.contains(QLatin1Char('/')))
-        spec.name = node.spec.name.left(node.spec.name.lastIndexOf(QLatin1Char('/')) + 1) + name;
-    if (const QString fault = spec.NameFault(top); !fault.isEmpty())
+    if (const QString fault = spec.NameFault(node.parent == &m_layout.root); !fault.isEmpty())
     {
         Refuse(reason, fault);
         return {};

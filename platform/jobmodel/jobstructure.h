@@ -40,11 +40,9 @@ public:
     JobStructure(Tree& tree, JobLayout& layout) : m_tree(tree), m_layout(layout) {}
 
     Node* Add(QStringView parentPath, const NodeSpec& spec, const JobModel& model, QString* reason);
-    /// Null when the job holds no such node.
-    std::shared_ptr<TakenNode> Take(QStringView path);
+    std::shared_ptr<TakenNode> Take(QStringView path, QString* reason);
     bool PutBack(TakenNode& taken, QString* reason);
-    /// A name without a "/" takes the place of the last segment. Bytes and contents stay; the name that the file gave
-    /// comes back with its bytes.
+    /// Bytes and contents stay; the name that the file gave comes back with its bytes.
     bool Rename(QStringView path, const QString& name, QString* reason);
     /// Puts a copy with this name behind the node.
     Node* Duplicate(QStringView path, const QString& name, QString* reason);
