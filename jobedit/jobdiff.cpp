@@ -1,6 +1,9 @@
 #include "jobdiff.h"
 
+#include "valuewidgets/decimal.h"
+
 #include <QCoreApplication>
+#include <QLocale>
 #include <algorithm>
 #include <unordered_set>
 
@@ -170,14 +173,20 @@ QString FrequencyText(qint64 hertz)
         QString digits = QString::number(hertz);
         if (hertz <= 0 || digits.size() <= unit.decimals)
             continue;
-        digits.insert(digits.size() - unit.decimals, u'.');
+        const QString point = QLocale().decimalPoint();
+        digits.insert(digits.size() - unit.decimals, point);
         while (digits.endsWith(u'0'))
             digits.chop(1);
-        if (digits.endsWith(u'.'))
-            digits.chop(1);
+        if (digits.endsWith(point))
+            digits.chop(point.size());
         return digits + u' ' + QLatin1String(unit.name);
     }
     return QString::number(hertz) + QLatin1String(" Hz");
+}
+
+QString WithUnit(const QString& content, const TKE::ValueDescriptor& descriptor)
+{
+    return descriptor.unit.isEmpty() || content.isEmpty() ? content : content + u' ' + descriptor.unit;
 }
 
 QString TextOf(const Difference& difference, const QString& stored)
@@ -246,6 +255,8 @@ QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stor
     {
     case TKE::ValueKind::Bool:
         return stored == u"true" ? JobDiff::tr("on") : JobDiff::tr("off");
+    case TKE::ValueKind::Double:
+        return WithUnit(TKE::Decimal::ToText(stored.toDouble(), -1, QLocale()), descriptor);
     case TKE::ValueKind::Frequency:
         return FrequencyText(stored.toLongLong());
     case TKE::ValueKind::Selection:
@@ -259,7 +270,7 @@ QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stor
         return names.join(QStringLiteral(", "));
     }
     default:
-        return descriptor.unit.isEmpty() || stored.isEmpty() ? stored : stored + u' ' + descriptor.unit;
+        return WithUnit(stored, descriptor);
     }
 }
 

@@ -192,6 +192,13 @@ private Q_SLOTS:
         descriptor.unit = descriptor.kind == ValueKind::Double ? "dB" : "";
         descriptor.items = {{1, "One"}};
         QTEST(ReadableText(descriptor, stored), "text");
+        QFETCH(QString, text);
+        if (descriptor.kind != ValueKind::Selection)
+            text.replace('.', ',');
+        QLocale::setDefault(QLocale::German);
+        const QString german = ReadableText(descriptor, stored);
+        QLocale::setDefault(QLocale::C);
+        QCOMPARE(german, text);
     }
 
     void aComparisonCanBeEnded()
@@ -330,6 +337,27 @@ private Q_SLOTS:
         QTest::mouseClick(Button(*dialog, "tickAll"), Qt::LeftButton);
         QTest::mouseClick(Button(*dialog, "takeOver"), Qt::LeftButton);
         QCOMPARE(Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->GetStoredText(), QString("10000000"));
+    }
+
+    void oneSelectedChainIsComparedWithOneOfItsTypeFirst()
+    {
+        const QString header = "/Jobs/Demo/TDS_HFWB/HEADER_VOICE/";
+        QVERIFY(m_window->Nodes().SelectNode(header));
+        QTimer::singleShot(50, this,
+                           []
+                           {
+                               auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+                               QVERIFY(box);
+                               QTest::keyClick(box, Qt::Key_Return);
+                           });
+        for (QAction* action : m_window->ToolsMenu()->actions())
+            if (action->text().remove('&') == "Compare Chains...")
+                action->trigger();
+        CompareDialog* dialog = OpenDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Right, Qt::Horizontal, Qt::DisplayRole),
+                 QString("/Jobs/Demo/TDS_VUHFWB/HEADER_VOICE/"));
+        QVERIFY(dialog->Model().rowCount() > 0);
     }
 
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack_data()
