@@ -1,5 +1,6 @@
-#include "commandjob.h"
+#include "command.h"
 #include "jobdocument.h"
+#include "jsonlist.h"
 
 namespace JOBEDIT
 {
