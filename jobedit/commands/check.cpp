@@ -1,6 +1,7 @@
 #include "checker.h"
-#include "commandjob.h"
+#include "command.h"
 #include "jobdocument.h"
+#include "jsonlist.h"
 
 namespace JOBEDIT
 {

@@ -2,13 +2,8 @@
 
 #include "jobdocument.h"
 #include "progress.h"
-#include "value/value.h"
-#include "value/valueselection.h"
-#include "valuewidgets/showntext.h"
 
-#include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -162,82 +157,6 @@ std::vector<const TKE::Node*> CommandJob::FindNodes(const QString& pattern) cons
     if (!named && !pattern.isEmpty())
         std::erase_if(nodes, [&](const TKE::Node* node) { return !IsMatch(pattern, node->GetPathName()); });
     return nodes;
-}
-
-CommandLock::CommandLock(const QString& fileName) : m_lock(QFileInfo(fileName).absoluteFilePath() + ".lock")
-{
-    m_lock.setStaleLockTime(0); // stale only when its holder is gone, however long it has been there
-    m_taken = m_lock.tryLock(0);
-}
-
-QString CommandLock::GetHolder() const
-{
-    // Where no lock can be made, nothing can be written either, and that says why.
-    if (m_taken || m_lock.error() != QLockFile::LockFailedError)
-        return {};
-    qint64 process = 0;
-    QString host, program;
-    if (!m_lock.getLockInfo(&process, &host, &program))
-        return Commands::tr("another editor");
-    return Commands::tr("%1 on %2, process %3").arg(program, host).arg(process);
-}
-
-QString CommandText::Of(const TKE::ValueBase& value, bool stored)
-{
-    return stored ? value.GetStoredText() : TKE::ShownText::Of(value, QLocale());
-}
-
-QString CommandText::Escaped(QString text)
-{
-    return text.replace(u'\\', QLatin1String("\\\\"))
-        .replace(u'\t', QLatin1String("\\t"))
-        .replace(u'\n', QLatin1String("\\n"))
-        .replace(u'\r', QLatin1String("\\r"));
-}
-
-QJsonObject CommandText::JsonOf(const TKE::ValueBase& value)
-{
-    static constexpr const char* kinds[] = {"",     "bool",     "integer", "number",   "frequency",
-                                            "text", "datetime", "list",    "selection"};
-    const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
-    const auto limit = [](const std::optional<double>& number) { return number ? QJsonValue(*number) : QJsonValue(); };
-    QJsonObject object{{"path", value.GetPathName()},
-                       {"value", Of(value, false)},
-                       {"stored", value.GetStoredText()},
-                       {"default", descriptor.defaultText},
-                       {"changed", value.GetStoredText() != descriptor.defaultText},
-                       {"enabled", value.GetState() == TKE::stEnabled},
-                       {"kind", descriptor.multiple ? "multiselection" : kinds[value.GetTypeCode()]},
-                       {"label", descriptor.label},
-                       {"unit", descriptor.unit},
-                       {"minimum", limit(descriptor.minimum)},
-                       {"maximum", limit(descriptor.maximum)}};
-    if (value.GetKind() == TKE::ValueKind::Selection)
-    {
-        QJsonArray items;
-        for (const TKE::SelectionItem& item : static_cast<const TKE::ValueSelection&>(value).GetItems())
-            items.append(QJsonObject{{"key", item.GetKey()}, {"name", item.GetName()}});
-        object.insert("items", items);
-    }
-    return object;
-}
-
-JsonList::JsonList(QTextStream& out, const QJsonObject& head, const QString& name) : m_out(out)
-{
-    QString text = QString::fromUtf8(QJsonDocument(head).toJson(QJsonDocument::Compact));
-    text.chop(1);
-    m_out << text << (head.isEmpty() ? "" : ",") << '"' << name << "\":[";
-}
-
-JsonList::~JsonList()
-{
-    m_out << "\n]}\n";
-}
-
-void JsonList::Add(const QJsonObject& item)
-{
-    m_out << m_separator << QString::fromUtf8(QJsonDocument(item).toJson(QJsonDocument::Compact));
-    m_separator = ",\n";
 }
 
 } // namespace JOBEDIT

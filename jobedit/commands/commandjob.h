@@ -3,10 +3,6 @@
 #include "command.h"
 #include "jobmodel/jobfile.h"
 
-#include <QJsonObject>
-#include <QLockFile>
-#include <memory>
-
 namespace JOBEDIT
 {
 
@@ -49,47 +45,6 @@ private:
     TKE::Tree m_tree;
     TKE::JobFile m_file{m_tree};
     QStringList m_tops; ///< paths of the top nodes, "/" at the end
-};
-
-/// Keeps other editors away from a file while a command writes it.
-class CommandLock
-{
-public:
-    explicit CommandLock(const QString& fileName);
-    /// Who has the file open; empty when nobody else has.
-    QString GetHolder() const;
-
-private:
-    QLockFile m_lock;
-    bool m_taken;
-};
-
-/// How commands print values.
-namespace CommandText
-{
-
-/// The content as people read it, or in stored form.
-QString Of(const TKE::ValueBase& value, bool stored);
-/// On one line and in one column: backslash, tab and line ends are written as \\, \t, \n and \r.
-QString Escaped(QString text);
-/// The keys are documented in docs/jobedit.1 and stay.
-QJsonObject JsonOf(const TKE::ValueBase& value);
-
-} // namespace CommandText
-
-/// Writes a JSON document {"<head>": ..., "<name>": [items]} without holding all items at once.
-class JsonList
-{
-public:
-    JsonList(QTextStream& out, const QJsonObject& head, const QString& name);
-    ~JsonList();
-    JsonList(const JsonList&) = delete;
-    JsonList& operator=(const JsonList&) = delete;
-    void Add(const QJsonObject& item);
-
-private:
-    QTextStream& m_out;
-    const char* m_separator = "\n";
 };
 
 } // namespace JOBEDIT

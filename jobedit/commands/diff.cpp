@@ -1,4 +1,6 @@
 #include "commandjob.h"
+#include "commandtext.h"
+#include "jsonlist.h"
 
 namespace JOBEDIT
 {

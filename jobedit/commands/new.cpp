@@ -1,4 +1,5 @@
 #include "commandjob.h"
+#include "commandlock.h"
 #include "largejob.h"
 
 #include <QFileInfo>

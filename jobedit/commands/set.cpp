@@ -1,4 +1,6 @@
 #include "commandjob.h"
+#include "commandlock.h"
+#include "commandtext.h"
 #include "typedvalue.h"
 
 namespace JOBEDIT
@@ -29,9 +31,10 @@ bool SetAll(CommandJob& job, Call& call, std::vector<Change>& changes)
         else
         {
             const QString before = CommandText::Of(*value, stored);
+            const QString content = value->GetStoredText();
             const bool accepted = stored ? value->SetStoredText(text, nullptr, &reason)
                                          : TypedValue::Set(*value, text, QLocale(), reason);
-            if (accepted && before != CommandText::Of(*value, stored))
+            if (accepted && content != value->GetStoredText())
                 changes.push_back({value, before});
             if (accepted)
                 continue;

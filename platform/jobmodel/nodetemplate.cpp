@@ -65,6 +65,9 @@ NodeTemplate::NodeTemplate(const JobModel& model, const NodeSpec& spec)
         else
             m_unknownGroups.append(name);
     }
+    // Templates stay; those of many channels are large.
+    m_entries.shrink_to_fit();
+    m_homes.shrink_to_fit();
 }
 
 void NodeTemplate::AddGroup(const ParameterGroup& group, const NodeSpec& spec)

@@ -10,7 +10,7 @@ namespace TKE
 namespace
 {
 
-constexpr qint64 blockSize = 256 * 1024;
+constexpr qint64 blockSize = 64 * 1024;
 constexpr qint64 longestPiece = 4 * 1024 * 1024; // of one tag or comment
 constexpr qint64 tickMs = 10;
 constexpr int deepest = 256;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLockFile>
+
+namespace JOBEDIT
+{
+
+/// Keeps other editors away from a file while a command writes it.
+class CommandLock
+{
+public:
+    explicit CommandLock(const QString& fileName);
+    /// Who has the file open; empty when nobody else has.
+    QString GetHolder() const;
+
+private:
+    QLockFile m_lock;
+    bool m_taken;
+};
+
+} // namespace JOBEDIT
