@@ -64,7 +64,9 @@ CheckDock::CheckDock(MainWindow& window)
                                       m_list->setFocus(Qt::ShortcutFocusReason);
                                       Start();
                                   });
-    window.ViewMenu()->addAction(toggleViewAction());
+    QAction* show = toggleViewAction();
+    show->setText(tr("C&heck"));
+    window.ViewMenu()->addAction(show);
     m_timer.setInterval(0);
     connect(&m_timer, &QTimer::timeout, this, &CheckDock::Slot_OnSlice);
     connect(m_stop, &QPushButton::clicked, this, &CheckDock::Stop);

@@ -24,7 +24,7 @@ const char* const settingsKey = "markChangedFields";
 } // namespace
 
 FieldMarks::FieldMarks(MainWindow& window)
-    : QObject(&window), m_window(window), m_action(window.ViewMenu()->addAction(tr("&Mark Changed Fields")))
+    : QObject(&window), m_window(window), m_action(window.ViewMenu()->addAction(tr("Mar&k Changed Fields")))
 {
     m_action->setCheckable(true);
     m_action->setChecked(QSettings().value(settingsKey, true).toBool());

@@ -26,7 +26,9 @@ public:
 
     void Vary(TKE::ValueBase& value)
     {
-        if (Below(3) == 0)
+        // What bounds another value stays, or the job would contradict itself.
+        static const QRegularExpression bound("START|STOP|MIN|MAX|FIRST|LAST", QRegularExpression::CaseInsensitiveOption);
+        if (Below(3) == 0 && !value.GetName().contains(bound))
             value.SetStoredText(For(value));
     }
 
@@ -65,7 +67,13 @@ private:
                 .addSecs(Below(366 * 86'400))
                 .toString(QStringLiteral("yyyy-MM-ddThh:mm:ss"));
         case TKE::ValueKind::DoubleList:
-            return Decimals(descriptor) + u';' + Decimals(descriptor);
+        {
+            // In order, since it may be a range.
+            const double one = Number(descriptor);
+            const double two = Number(descriptor);
+            return QString::number(std::min(one, two), 'f', descriptor.precision) + u';' +
+                   QString::number(std::max(one, two), 'f', descriptor.precision);
+        }
         case TKE::ValueKind::Selection:
             if (!descriptor.items.empty())
                 return QString::number(descriptor.items[Below(descriptor.items.size())].GetKey());

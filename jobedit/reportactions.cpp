@@ -34,7 +34,7 @@ constexpr qint64 manyRows = 1000 * rowsPerPage; // on pages, without being asked
 
 ReportActions::ReportActions(MainWindow& window) : QObject(&window), m_window(window)
 {
-    auto* report = new QAction(tr("&Report..."), this);
+    auto* report = new QAction(tr("Repor&t..."), this);
     report->setShortcut(QKeySequence::Print);
     connect(report, &QAction::triggered, this, &ReportActions::Slot_OnReport);
     // Above the separator and the action that end the menu.

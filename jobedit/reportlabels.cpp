@@ -1,5 +1,6 @@
 #include "reportlabels.h"
 
+#include "fieldtexts.h"
 #include "frequencyplan.h"
 #include "jobmodel/journalpause.h"
 #include "valuewidgets/showntext.h"
@@ -12,52 +13,6 @@ namespace JOBEDIT
 
 namespace
 {
-
-/// Where the labels of the panels are translated.
-constexpr const char* panelContexts[] = {
-    "TKE::TunerDlg",
-    "TKE::TunerVUHFDlg",
-    "TKE::GeneralDlg",
-    "TKE::IPCParam",
-    "TKE::ParameterDlg",
-    "TKE::ActivityGenerationDlg",
-    "TKE::AlarmConditionsSPDlg",
-    "TKE::AutoRecordingDlg",
-    "TKE::ClassificatorDlg",
-    "TKE::CorrelatorDlg",
-    "TKE::DecoderDlg",
-    "TKE::DemodulatorDlg",
-    "TKE::DemodulatorPanel",
-    "TKE::DemodulatorPanelF7W",
-    "TKE::DemodulatorPanelFSK",
-    "TKE::DemodulatorPanelGMSK",
-    "TKE::DemodulatorPanelMFSK",
-    "TKE::DemodulatorPanelMORSE",
-    "TKE::DemodulatorPanelMPSK",
-    "TKE::DemodulatorPanelMT",
-    "TKE::DemodulatorPanelPSK",
-    "TKE::DemodulatorPanelProcedural",
-    "TKE::DetectionDlg",
-    "TKE::DetectionShortDlg",
-    "TKE::ExciterGeneralDlg",
-    "TKE::ExciterSCUDlg",
-    "TKE::ExciterSMUDlg",
-    "TKE::ExciterScanSettingsDlg",
-    "TKE::ExciterWDEDlg",
-    "TKE::FFTDataDlg",
-    "TKE::ShorttimeProfileDlg",
-    "TKE::ShorttimeProfileHeaderDlg",
-    "TKE::SigTrackingControlDlg",
-    "TKE::SpectralZoomDlg",
-    "TKE::TdsHeaderDDCDlg",
-    "TKE::TdsHeaderMSDlg",
-    "TKE::TdsHeaderWBDlg",
-    "TKE::WDEExciterDlg",
-    "TKE::WDERasterDetectorDlg",
-    "TKE::WDESimulationDlg",
-    "TKE::WDESingleChannelDetectorDlg",
-    "TKE::WavecomDlg",
-};
 
 QString WithoutColon(QString label)
 {
@@ -161,7 +116,7 @@ QString ReportLabels::Translated(const QString& label)
     for (const QString& wanted : {label, label + " :", label + ':', label.endsWith(" :") ? label.chopped(2) : label})
     {
         const QByteArray source = wanted.toUtf8();
-        for (const char* context : panelContexts)
+        for (const char* context : FieldTexts::Contexts())
             if (const QString text = QCoreApplication::translate(context, source.constData()); text != wanted)
                 return text;
     }

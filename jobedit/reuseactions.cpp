@@ -27,11 +27,11 @@ ReuseActions::ReuseActions(MainWindow& window) : QObject(&window), m_window(wind
     menu->addAction(tr("Copy &Tab's Parameters"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this,
                     &ReuseActions::CopyTab);
     QAction* copy = menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
-    QAction* paste = menu->addAction(tr("&Paste Parameters into Selected Chains"),
+    QAction* paste = menu->addAction(tr("Past&e Parameters into Selected Chains"),
                                      QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this, &ReuseActions::Paste);
     window.NodeMenu()->addSeparator();
     window.NodeMenu()->addActions({copy, paste});
-    m_presetMenu = menu->addMenu(tr("P&resets"));
+    m_presetMenu = menu->addMenu(tr("Preset&s"));
     connect(m_presetMenu, &QMenu::aboutToShow, this, &ReuseActions::FillPresetMenu);
     FillPresetMenu();
 

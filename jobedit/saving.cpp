@@ -2,6 +2,7 @@
 
 #include "compareactions.h"
 #include "dialogpane.h"
+#include "longwork.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "recentfiles.h"
@@ -91,7 +92,14 @@ bool Saving::MayReplace(const QString& fileName)
         return true;
     if (QFileInfo(fileName) == QFileInfo(m_document.GetFileName()))
         return MayOverwrite();
-    const TKE::FileErrors errors = TKE::JobFile::Check(fileName);
+    TKE::FileErrors errors;
+    {
+        LongWork work(tr("Looking into %1").arg(QFileInfo(fileName).fileName()), &m_window);
+        errors = TKE::JobFile::Check(fileName, m_document.GetModel(),
+                                     [&](qint64 done, qint64 all) { return work.Progress(done, all); });
+        if (work.WasCancelled())
+            return false;
+    }
     const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
     if (fault == errors.end())
         return true;

@@ -241,7 +241,10 @@ private Q_SLOTS:
         NightColours::Switch(night);
         QCoreApplication::processEvents();
         const auto* model = m_window->Nodes().View()->model();
-        const QBrush dimmed = model->index(0, 0).data(Qt::ForegroundRole).value<QBrush>();
+        // One of the nodes below the job that have no dialog.
+        const auto found = model->match(model->index(0, 0), Qt::DisplayRole, "PROFILES", 1, Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        const QBrush dimmed = found.first().data(Qt::ForegroundRole).value<QBrush>();
         const QPalette palette = m_window->Nodes().View()->palette();
         for (const auto role : {QPalette::Base, QPalette::AlternateBase})
         {

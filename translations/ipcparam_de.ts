@@ -2,6 +2,218 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>JOBEDIT::AddNodeDialog</name>
+    <message>
+        <source>Add Chain</source>
+        <translation>Kette hinzufügen</translation>
+    </message>
+    <message>
+        <source>Filter by type, band or parameters</source>
+        <translation>Nach Typ, Band oder Parametern filtern</translation>
+    </message>
+    <message>
+        <source>Filter of the kinds</source>
+        <translation>Filter der Arten</translation>
+    </message>
+    <message>
+        <source>Kinds of chains</source>
+        <translation>Arten von Ketten</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Band</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>&amp;Below:</source>
+        <translation>&amp;Unter:</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 in new %2</source>
+        <translation>%1 in neuem %2</translation>
+    </message>
+    <message>
+        <source>No kind has this in its type, band or parameters.</source>
+        <translation>Keine Art hat dies in Typ, Band oder Parametern.</translation>
+    </message>
+    <message>
+        <source>The job has no node that this kind can be below.</source>
+        <translation>Der Auftrag hat keinen Knoten, unter dem diese Art stehen kann.</translation>
+    </message>
+    <message>
+        <source>Adds %1</source>
+        <translation>Fügt %1 hinzu</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ChangeMark</name>
+    <message>
+        <source>Differs from the saved file: %1</source>
+        <translation>Weicht von der gespeicherten Datei ab: %1</translation>
+    </message>
+    <message>
+        <source>Differs from the default: %1</source>
+        <translation>Weicht von der Vorgabe ab: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ChangeText</name>
+    <message>
+        <source>%1: %2 -&gt; %3</source>
+        <comment>label of a value, content before and after</comment>
+        <translation>%1: %2 -&gt; %3</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::CheckDock</name>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>&amp;Check Job</source>
+        <translation>Auftrag &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>C&amp;heck</source>
+        <translation>&amp;Prüfung</translation>
+    </message>
+    <message>
+        <source>Findings of the check</source>
+        <translation>Befunde der Prüfung</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>No value is at fault.</source>
+        <translation>Kein Wert ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Fehler: %1, Warnungen: %2</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2; the first %3 are shown.</source>
+        <translation>Fehler: %1, Warnungen: %2; die ersten %3 werden gezeigt.</translation>
+    </message>
+    <message>
+        <source>Stopped before all values were checked; errors: %1, warnings: %2</source>
+        <translation>Angehalten, bevor alle Werte geprüft waren; Fehler: %1, Warnungen: %2</translation>
+    </message>
+    <message>
+        <source>Checking: %1 %, errors: %2, warnings: %3</source>
+        <translation>Prüfung: %1 %, Fehler: %2, Warnungen: %3</translation>
+    </message>
+    <message>
+        <source>Check (F7): errors %1, warnings %2</source>
+        <translation>Prüfung (F7): Fehler %1, Warnungen %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Checker</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>No item has the number %1; there are: %2.</source>
+        <translation>Kein Eintrag hat die Nummer %1; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not permitted; permitted is: %2.</source>
+        <translation>%1 ist nicht zulässig; zulässig ist: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date (yyyy-MM-dd).</source>
+        <translation>„%1“ ist kein Datum (JJJJ-MM-TT).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time of the day (hh:mm).</source>
+        <translation>„%1“ ist keine Uhrzeit (hh:mm).</translation>
+    </message>
+    <message>
+        <source>%1 numbers do not fill rows of %2.</source>
+        <translation>%1 Zahlen füllen keine Zeilen zu %2.</translation>
+    </message>
+    <message>
+        <source>There are %1 rows; permitted are %2 at most.</source>
+        <translation>Es gibt %1 Zeilen; zulässig sind höchstens %2.</translation>
+    </message>
+    <message>
+        <source>Row %1: %2 is not permitted; permitted is: %3.</source>
+        <translation>Zeile %1: %2 ist nicht zulässig; zulässig ist: %3.</translation>
+    </message>
+    <message>
+        <source>Row %1: the range begins at %2, after its end at %3.</source>
+        <translation>Zeile %1: Der Bereich beginnt bei %2, nach seinem Ende bei %3.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2, which &quot;%3&quot; holds.</source>
+        <translation>%1 ist mehr als %2, was „%3“ enthält.</translation>
+    </message>
+</context>
+<context>
     <name>JOBEDIT::CommandLine</name>
     <message>
         <source>Shows this help.</source>
@@ -12,54 +224,235 @@
         <translation>Zeigt die Version.</translation>
     </message>
     <message>
-        <source>render: directory that the pictures go into.</source>
-        <translation>render: Verzeichnis für die Bilder.</translation>
-    </message>
-    <message>
-        <source>render: only the dialogs of this entry point or panel.</source>
-        <translation>render: nur die Dialoge dieses Einstiegs oder Felds.</translation>
-    </message>
-    <message>
-        <source>render: job (when absent) or standalone.</source>
-        <translation>render: job (Vorgabe) oder standalone.</translation>
-    </message>
-    <message>
         <source>Language of the texts and form of numbers, for example de.</source>
         <translation>Sprache der Texte und Form der Zahlen, zum Beispiel de.</translation>
-    </message>
-    <message>
-        <source>Edits the parameters of the processing chains of jobs.
-
-  jobedit [FILE]              edits a job; without a file a new one from the sample
-  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]
-                              writes a picture of every tab of the dialogs
-  jobedit check FILE...       checks files; exit status 1 when one has an error</source>
-        <translation>Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.
-
-  jobedit [FILE]              bearbeitet einen Auftrag; ohne Datei einen neuen aus dem Beispiel
-  jobedit render [FILE] --out DIR [--entry NAME] [--form job|standalone]
-                              schreibt ein Bild jedes Reiters der Dialoge
-  jobedit check FILE...       prüft Dateien; Status 1, wenn eine einen Fehler hat</translation>
-    </message>
-    <message>
-        <source>render or check.</source>
-        <translation>render oder check.</translation>
     </message>
     <message>
         <source>Job files.</source>
         <translation>Auftragsdateien.</translation>
     </message>
     <message>
-        <source>check needs a file.</source>
-        <translation>check braucht eine Datei.</translation>
+        <source>%1 is no language.</source>
+        <translation>%1 ist keine Sprache.</translation>
     </message>
     <message>
-        <source>One job at a time: %1 files are given.</source>
-        <translation>Nur ein Auftrag auf einmal: Es sind %1 Dateien angegeben.</translation>
+        <source>There is no display to open a window on. jobedit render writes the dialogs as pictures.</source>
+        <translation>Es gibt keinen Bildschirm für ein Fenster. jobedit render schreibt die Dialoge als Bilder.</translation>
     </message>
     <message>
-        <source>--%1 belongs to render.</source>
-        <translation>--%1 gehört zu render.</translation>
+        <source>jobedit %1--help tells more.</source>
+        <translation>jobedit %1--help sagt mehr.</translation>
+    </message>
+    <message>
+        <source>Standard output could not be written.</source>
+        <translation>Die Standardausgabe konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Prints one JSON document (get, list, diff and check).</source>
+        <translation>Gibt ein JSON-Dokument aus (get, list, diff und check).</translation>
+    </message>
+    <message>
+        <source>One job at a time: %1 files are given, and %2 is no command.</source>
+        <translation>Ein Auftrag auf einmal: %1 Dateien sind angegeben, und %2 ist kein Befehl.</translation>
+    </message>
+    <message>
+        <source>--%1 belongs to %2.</source>
+        <translation>--%1 gehört zu %2.</translation>
+    </message>
+    <message>
+        <source>--json belongs to get, list, diff and check.</source>
+        <translation>--json gehört zu get, list, diff und check.</translation>
+    </message>
+    <message>
+        <source>%1 needs: %2</source>
+        <translation>%1 braucht: %2</translation>
+    </message>
+    <message>
+        <source>%1 takes no more than: %2</source>
+        <translation>%1 nimmt nicht mehr als: %2</translation>
+    </message>
+    <message>
+        <source>Edits the parameters of the processing chains of jobs.</source>
+        <translation>Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.</translation>
+    </message>
+    <message>
+        <source>edits a job; without a file a new one from the sample</source>
+        <translation>bearbeitet einen Auftrag; ohne Datei einen neuen aus dem Beispiel</translation>
+    </message>
+    <message>
+        <source>jobedit COMMAND --help tells more of a command.</source>
+        <translation>jobedit BEFEHL --help sagt mehr zu einem Befehl.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done; 1 a difference, an error in a job, something not found or refused; 2 wrong arguments.</source>
+        <translation>Rückgabewert: 0 erledigt; 1 ein Unterschied, ein Fehler in einem Auftrag, etwas nicht gefunden oder abgelehnt; 2 falsche Argumente.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Commands</name>
+    <message>
+        <source>checks files; exit status 1 when one has an error</source>
+        <translation>prüft Dateien; Rückgabewert 1, wenn eine einen Fehler hat</translation>
+    </message>
+    <message>
+        <source>Names each finding with file, line, column, path and reason.</source>
+        <translation>Nennt jeden Befund mit Datei, Zeile, Spalte, Pfad und Grund.</translation>
+    </message>
+    <message>
+        <source>jobedit %1 --help tells more.</source>
+        <translation>jobedit %1 --help sagt mehr.</translation>
+    </message>
+    <message>
+        <source>Reading %1:</source>
+        <translation>Lese %1:</translation>
+    </message>
+    <message>
+        <source>another editor</source>
+        <translation>ein anderer Editor</translation>
+    </message>
+    <message>
+        <source>%1 on %2, process %3</source>
+        <translation>%1 auf %2, Prozess %3</translation>
+    </message>
+    <message>
+        <source>(no value)</source>
+        <translation>(kein Wert)</translation>
+    </message>
+    <message>
+        <source>(node)</source>
+        <translation>(Knoten)</translation>
+    </message>
+    <message>
+        <source>(no node)</source>
+        <translation>(kein Knoten)</translation>
+    </message>
+    <message>
+        <source>--with belongs to --node.</source>
+        <translation>--with gehört zu --node.</translation>
+    </message>
+    <message>
+        <source>%1: the job has no node %2.</source>
+        <translation>%1: Der Auftrag hat keinen Knoten %2.</translation>
+    </message>
+    <message>
+        <source>lists what differs: path and both values</source>
+        <translation>listet auf, was abweicht: Pfad und beide Werte</translation>
+    </message>
+    <message>
+        <source>Compares the contents of all values, whether they stand in the files or not. Exit status 1 when there is a difference.</source>
+        <translation>Vergleicht die Inhalte aller Werte, ob sie in den Dateien stehen oder nicht. Rückgabewert 1, wenn es einen Unterschied gibt.</translation>
+    </message>
+    <message>
+        <source>Compares only this node of FILE1 ...</source>
+        <translation>Vergleicht nur diesen Knoten von FILE1 ...</translation>
+    </message>
+    <message>
+        <source>... with this node of FILE2; the same when absent.</source>
+        <translation>... mit diesem Knoten von FILE2; ohne Angabe mit dem gleichen.</translation>
+    </message>
+    <message>
+        <source>The stored form: independent of language, items by key.</source>
+        <translation>Die gespeicherte Form: unabhängig von der Sprache, Einträge als Schlüssel.</translation>
+    </message>
+    <message>
+        <source>%1: the job has no value %2.</source>
+        <translation>%1: Der Auftrag hat keinen Wert %2.</translation>
+    </message>
+    <message>
+        <source>prints values</source>
+        <translation>gibt Werte aus</translation>
+    </message>
+    <message>
+        <source>PATH is the whole path of a value, or its path below the job. &quot;*&quot; in it stands for any characters, &quot;?&quot; for one. Of one PATH without these the value alone is printed, else path, tab and value.</source>
+        <translation>PATH ist der ganze Pfad eines Wertes oder sein Pfad unterhalb des Auftrags. „*“ darin steht für beliebige Zeichen, „?“ für eines. Bei einem einzigen PATH ohne diese wird nur der Wert ausgegeben, sonst Pfad, Tabulator und Wert.</translation>
+    </message>
+    <message>
+        <source>lists values: path, value and unit</source>
+        <translation>listet Werte auf: Pfad, Wert und Einheit</translation>
+    </message>
+    <message>
+        <source>PATTERN is the path of a value, or of a node to list all below it. &quot;*&quot; in it stands for any characters, &quot;?&quot; for one.</source>
+        <translation>PATTERN ist der Pfad eines Wertes oder eines Knotens, dann wird alles darunter aufgelistet. „*“ darin steht für beliebige Zeichen, „?“ für eines.</translation>
+    </message>
+    <message>
+        <source>Only values that differ from their defaults.</source>
+        <translation>Nur Werte, die von ihrer Vorgabe abweichen.</translation>
+    </message>
+    <message>
+        <source>The nodes instead: path and type.</source>
+        <translation>Stattdessen die Knoten: Pfad und Typ.</translation>
+    </message>
+    <message>
+        <source>--chains is a number from 1 to 100000.</source>
+        <translation>--chains ist eine Zahl von 1 bis 100000.</translation>
+    </message>
+    <message>
+        <source>--channels is a number from 1 to %1.</source>
+        <translation>--channels ist eine Zahl von 1 bis %1.</translation>
+    </message>
+    <message>
+        <source>--vary is a number from 0.</source>
+        <translation>--vary ist eine Zahl ab 0.</translation>
+    </message>
+    <message>
+        <source>--channels and --vary belong to --chains.</source>
+        <translation>--channels und --vary gehören zu --chains.</translation>
+    </message>
+    <message>
+        <source>%1 exists. --force replaces it.</source>
+        <translation>%1 gibt es schon. --force ersetzt es.</translation>
+    </message>
+    <message>
+        <source>%1 is open in another editor: %2. --force writes it nevertheless.</source>
+        <translation>%1 ist in einem anderen Editor geöffnet: %2. --force schreibt trotzdem.</translation>
+    </message>
+    <message>
+        <source>writes a new job like the sample</source>
+        <translation>schreibt einen neuen Auftrag wie das Beispiel</translation>
+    </message>
+    <message>
+        <source>With --chains the tasks of the job are repeated under new names, for trying out how large jobs behave.</source>
+        <translation>Mit --chains werden die Aufgaben des Auftrags unter neuen Namen wiederholt, um zu sehen, wie sich große Aufträge verhalten.</translation>
+    </message>
+    <message>
+        <source>Like this job instead of the sample.</source>
+        <translation>Wie dieser Auftrag statt wie das Beispiel.</translation>
+    </message>
+    <message>
+        <source>How many chains the job has in all.</source>
+        <translation>Wie viele Ketten der Auftrag insgesamt hat.</translation>
+    </message>
+    <message>
+        <source>How many channels each new node has that has any.</source>
+        <translation>Wie viele Kanäle jeder neue Knoten hat, der welche hat.</translation>
+    </message>
+    <message>
+        <source>Gives a third of the new values other contents; the same number gives the same contents.</source>
+        <translation>Gibt einem Drittel der neuen Werte andere Inhalte; die gleiche Zahl ergibt die gleichen Inhalte.</translation>
+    </message>
+    <message>
+        <source>Writes every value, not only what differs from its default.</source>
+        <translation>Schreibt jeden Wert, nicht nur was von der Vorgabe abweicht.</translation>
+    </message>
+    <message>
+        <source>Replaces FILE when it exists.</source>
+        <translation>Ersetzt FILE, wenn es die Datei gibt.</translation>
+    </message>
+    <message>
+        <source>plan needs --out FILE with the suffix .svg or .png.</source>
+        <translation>plan braucht --out FILE mit der Endung .svg oder .png.</translation>
+    </message>
+    <message>
+        <source>writes the frequency plan of the job, SVG or PNG</source>
+        <translation>schreibt den Frequenzplan des Auftrags, SVG oder PNG</translation>
+    </message>
+    <message>
+        <source>One line per chain with its frequencies, bandwidths and ranges.</source>
+        <translation>Eine Zeile je Kette mit ihren Frequenzen, Bandbreiten und Bereichen.</translation>
+    </message>
+    <message>
+        <source>File or directory to write.</source>
+        <translation>Datei oder Verzeichnis, das geschrieben wird.</translation>
     </message>
     <message>
         <source>render needs --out DIR.</source>
@@ -67,23 +460,253 @@
     </message>
     <message>
         <source>There is no entry %1. There are: %2.</source>
-        <translation>Es gibt keinen Einstieg %1. Es gibt: %2.</translation>
+        <translation>Es gibt keinen Eintrag %1. Es gibt: %2.</translation>
     </message>
     <message>
         <source>--form is job or standalone.</source>
         <translation>--form ist job oder standalone.</translation>
     </message>
     <message>
-        <source>%1 is no language.</source>
-        <translation>%1 ist keine Sprache.</translation>
+        <source>writes a picture of every tab of the dialogs</source>
+        <translation>schreibt ein Bild jedes Registers der Dialoge</translation>
     </message>
     <message>
-        <source>jobedit --help tells more.</source>
-        <translation>jobedit --help sagt mehr.</translation>
+        <source>Without a file the dialogs of the sample job.</source>
+        <translation>Ohne Datei die Dialoge des Beispielauftrags.</translation>
     </message>
     <message>
-        <source>There is no display to open a window on. jobedit render writes the dialogs as pictures.</source>
-        <translation>Es gibt keinen Bildschirm für ein Fenster. jobedit render schreibt die Dialoge als Bilder.</translation>
+        <source>Directory that the pictures go into.</source>
+        <translation>Verzeichnis für die Bilder.</translation>
+    </message>
+    <message>
+        <source>Only the dialogs of this entry point or panel.</source>
+        <translation>Nur die Dialoge dieses Einstiegs oder Feldes.</translation>
+    </message>
+    <message>
+        <source>job (when absent) or standalone.</source>
+        <translation>job (ohne Angabe) oder standalone.</translation>
+    </message>
+    <message>
+        <source>report needs --out FILE with the suffix .html or .pdf.</source>
+        <translation>report braucht --out FILE mit der Endung .html oder .pdf.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>writes the job as a document, HTML or PDF</source>
+        <translation>schreibt den Auftrag als Dokument, HTML oder PDF</translation>
+    </message>
+    <message>
+        <source>One table per node with labels, values and units. What differs from its default is marked.</source>
+        <translation>Eine Tabelle je Knoten mit Bezeichnungen, Werten und Einheiten. Was von der Vorgabe abweicht, ist gekennzeichnet.</translation>
+    </message>
+    <message>
+        <source>Only values that differ from their default.</source>
+        <translation>Nur Werte, die von ihrer Vorgabe abweichen.</translation>
+    </message>
+    <message>
+        <source>The job has no such value.</source>
+        <translation>Der Auftrag hat keinen solchen Wert.</translation>
+    </message>
+    <message>
+        <source>%1 is not of the form PATH=VALUE.</source>
+        <translation>%1 hat nicht die Form PATH=VALUE.</translation>
+    </message>
+    <message>
+        <source>%1 was not changed.</source>
+        <translation>%1 wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>changes values, all of them or none</source>
+        <translation>ändert Werte, alle oder keinen</translation>
+    </message>
+    <message>
+        <source>VALUE is what one would type in the editor: 433.92M, an item&apos;s name or key, on or off. When a value is refused, nothing is written. Prints path, old and new value of what has changed. The previous version of the file stays beside it, with a &quot;~&quot; at the end of its name.</source>
+        <translation>VALUE ist, was man im Editor tippen würde: 433,92M, Name oder Schlüssel eines Eintrags, ein oder aus. Wird ein Wert abgelehnt, wird nichts geschrieben. Gibt Pfad, alten und neuen Wert dessen aus, was geändert wurde. Die vorige Fassung der Datei bleibt daneben, mit „~“ am Ende des Namens.</translation>
+    </message>
+    <message>
+        <source>Writes another file and leaves FILE alone.</source>
+        <translation>Schreibt eine andere Datei und lässt FILE, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Only tells what would change.</source>
+        <translation>Sagt nur, was geändert würde.</translation>
+    </message>
+    <message>
+        <source>Writes even what is open in another editor.</source>
+        <translation>Schreibt auch, was in einem anderen Editor geöffnet ist.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::CompareActions</name>
+    <message>
+        <source>Compare with &amp;File...</source>
+        <translation>Mit &amp;Datei vergleichen...</translation>
+    </message>
+    <message>
+        <source>Compare with &amp;Saved...</source>
+        <translation>Mit &amp;Gespeichertem vergleichen...</translation>
+    </message>
+    <message>
+        <source>Compare C&amp;hains...</source>
+        <translation>&amp;Ketten vergleichen...</translation>
+    </message>
+    <message>
+        <source>Compare with %1</source>
+        <translation>Vergleich mit %1</translation>
+    </message>
+    <message>
+        <source>The open job at the left, %1 at the right.</source>
+        <translation>Links der geöffnete Auftrag, rechts %1.</translation>
+    </message>
+    <message>
+        <source>Open job</source>
+        <translation>Geöffneter Auftrag</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over from File</source>
+        <translation>Aus Datei &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Compare with Saved</source>
+        <translation>Mit Gespeichertem vergleichen</translation>
+    </message>
+    <message>
+        <source>The open job at the left, what %1 holds at the right.</source>
+        <translation>Links der geöffnete Auftrag, rechts was %1 enthält.</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Take Back to Saved</source>
+        <translation>Auf Gespeichertes &amp;zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Compare Chains</source>
+        <translation>Ketten vergleichen</translation>
+    </message>
+    <message>
+        <source>Two chains of the open job; the left one takes over.</source>
+        <translation>Zwei Ketten des geöffneten Auftrags; die linke übernimmt.</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over from the Right</source>
+        <translation>Von rechts &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>File Changed by Somebody Else</source>
+        <translation>Datei von jemand anderem geändert</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since it was opened. Take over what is to come into the open job; what is not taken over stays as it is here, and saving overwrites the file without asking again.</source>
+        <translation>%1 wurde von jemand anderem geändert, seit die Datei geöffnet wurde. Übernehmen Sie, was in den geöffneten Auftrag soll; was nicht übernommen wird, bleibt, wie es hier ist, und Speichern überschreibt die Datei, ohne noch einmal zu fragen.</translation>
+    </message>
+    <message>
+        <source>Mine (open job)</source>
+        <translation>Meine (geöffneter Auftrag)</translation>
+    </message>
+    <message>
+        <source>Theirs (file)</source>
+        <translation>Die anderen (Datei)</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over Theirs</source>
+        <translation>Die anderen &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Meine behalten</translation>
+    </message>
+    <message>
+        <source>Compare with File</source>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Aufträge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Compare %1 with:</source>
+        <translation>%1 vergleichen mit:</translation>
+    </message>
+    <message>
+        <source>Reading %1...</source>
+        <translation>Lese %1...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 could not be read.</source>
+        <translation>%1 konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>%1 was not taken over</source>
+        <translation>%1 wurde nicht übernommen</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::CompareDialog</name>
+    <message>
+        <source>Comparing...</source>
+        <translation>Vergleiche...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Filter by node, parameter, key or value</source>
+        <translation>Nach Knoten, Parameter, Schlüssel oder Wert filtern</translation>
+    </message>
+    <message>
+        <source>Filter of the differences</source>
+        <translation>Filter der Unterschiede</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Tick &amp;All</source>
+        <translation>&amp;Alle ankreuzen</translation>
+    </message>
+    <message>
+        <source>Tick &amp;None</source>
+        <translation>&amp;Keine ankreuzen</translation>
+    </message>
+    <message>
+        <source>S&amp;wap Sides</source>
+        <translation>Seiten &amp;tauschen</translation>
+    </message>
+    <message>
+        <source>%1 taken over, %2 refused, %3 differences left</source>
+        <translation>%1 übernommen, %2 abgelehnt, %3 Unterschiede übrig</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Es gibt keine Unterschiede.</translation>
+    </message>
+    <message>
+        <source>%1 differences, %2 shown, %3 of these ticked</source>
+        <translation>%1 Unterschiede, %2 gezeigt, %3 davon angekreuzt</translation>
     </message>
 </context>
 <context>
@@ -115,6 +738,41 @@
     <message>
         <source>%1 has no parameters of its own to edit. Select a node that is not dimmed.</source>
         <translation>%1 hat keine eigenen Parameter. Wählen Sie einen Knoten, der nicht abgeblendet ist.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::DifferenceModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Not taken over because</source>
+        <translation>Nicht übernommen, weil</translation>
+    </message>
+    <message>
+        <source>(the chain itself)</source>
+        <translation>(die Kette selbst)</translation>
+    </message>
+    <message>
+        <source>Type of the node</source>
+        <translation>Typ des Knotens</translation>
+    </message>
+    <message>
+        <source>Whole node</source>
+        <translation>Ganzer Knoten</translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation>(fehlt)</translation>
     </message>
 </context>
 <context>
@@ -157,7 +815,7 @@
     </message>
     <message>
         <source>Job</source>
-        <translation>Job</translation>
+        <translation>Auftrag</translation>
     </message>
     <message>
         <source>Resource</source>
@@ -166,6 +824,239 @@
     <message>
         <source>Direction finding and location</source>
         <translation>Peilung und Ortung</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::EditActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::EditStep</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FieldMarks</name>
+    <message>
+        <source>Mar&amp;k Changed Fields</source>
+        <translation>Geänderte Felder &amp;kennzeichnen</translation>
+    </message>
+    <message>
+        <source>A filled bar marks a field that differs from the saved file, an outlined one a field that differs from its default.</source>
+        <translation>Ein gefüllter Balken kennzeichnet ein Feld, das von der gespeicherten Datei abweicht, ein umrandeter ein Feld, das von seiner Vorgabe abweicht.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FieldMenu</name>
+    <message>
+        <source>Reset to &amp;Saved Value (%1)</source>
+        <translation>Auf &amp;gespeicherten Wert zurücksetzen (%1)</translation>
+    </message>
+    <message>
+        <source>Reset to &amp;Default (%1)</source>
+        <translation>Auf &amp;Vorgabe zurücksetzen (%1)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Label: %1</source>
+        <translation>Bezeichnung: %1</translation>
+    </message>
+    <message>
+        <source>Key: %1</source>
+        <translation>Schlüssel: %1</translation>
+    </message>
+    <message>
+        <source>Range: %1</source>
+        <translation>Bereich: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>Description: %1</source>
+        <translation>Beschreibung: %1</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FieldNavigator</name>
+    <message>
+        <source>%1 is shown, but cannot be edited at the moment.</source>
+        <translation>%1 wird gezeigt, kann aber zurzeit nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>No dialog shows %1 at the moment.</source>
+        <translation>Zurzeit zeigt kein Dialog %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FieldTexts</name>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FindBar</name>
+    <message>
+        <source>Find a field by label, key, description, unit or node</source>
+        <translation>Ein Feld nach Bezeichnung, Schlüssel, Beschreibung, Einheit oder Knoten suchen</translation>
+    </message>
+    <message>
+        <source>Words that the field is found by</source>
+        <translation>Wörter, nach denen das Feld gesucht wird</translation>
+    </message>
+    <message>
+        <source>Fields found</source>
+        <translation>Gefundene Felder</translation>
+    </message>
+    <message>
+        <source>&amp;Find Field...</source>
+        <translation>&amp;Feld suchen...</translation>
+    </message>
+    <message>
+        <source>All words must occur somewhere. Both English and German labels are found.</source>
+        <translation>Alle Wörter müssen irgendwo vorkommen. Englische und deutsche Bezeichnungen werden gefunden.</translation>
+    </message>
+    <message>
+        <source>No field has all of these words.</source>
+        <translation>Kein Feld hat alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Fields found: %1</source>
+        <translation>Gefundene Felder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FindModel</name>
+    <message>
+        <source>... %1 more</source>
+        <translation>... %1 weitere</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::FrequencyPlan</name>
+    <message>
+        <source>Wideband reception</source>
+        <translation>Breitbandempfang</translation>
+    </message>
+    <message>
+        <source>Searched range</source>
+        <translation>Abgesuchter Bereich</translation>
+    </message>
+    <message>
+        <source>Tuned receiver</source>
+        <translation>Abgestimmter Empfänger</translation>
+    </message>
+    <message>
+        <source>Channel in turn</source>
+        <translation>Kanal der Reihe nach</translation>
+    </message>
+    <message>
+        <source>Exciter</source>
+        <translation>Erreger</translation>
+    </message>
+    <message>
+        <source>Excluded</source>
+        <translation>Ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>what and its number</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, bandwidth %3</source>
+        <translation>%1: %2, Bandbreite %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (switched off)</source>
+        <translation>%1 (ausgeschaltet)</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::GuideWindow</name>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::HintBar</name>
+    <message>
+        <source>This is a new job, made from the sample. Select a node at the left to see its parameters; open a job of your own with Ctrl+O. F1 shows the guide.</source>
+        <translation>Dies ist ein neuer Auftrag, aus dem Beispiel gemacht. Wählen Sie links einen Knoten, um seine Parameter zu sehen; öffnen Sie einen eigenen Auftrag mit Strg+O. F1 zeigt die Anleitung.</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Show Again</source>
+        <translation>&amp;Nicht mehr zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::JobDiff</name>
+    <message>
+        <source>(node)</source>
+        <translation>(Knoten)</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
     </message>
 </context>
 <context>
@@ -185,6 +1076,35 @@
     <message>
         <source>%1 is open in another editor as well: %2.</source>
         <translation>%1 ist auch in einem anderen Editor geöffnet: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Languages</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::LargeJob</name>
+    <message>
+        <source>The job has %1 chains already.</source>
+        <translation>Der Auftrag hat schon %1 Ketten.</translation>
+    </message>
+    <message>
+        <source>The job has no chain that could be repeated.</source>
+        <translation>Der Auftrag hat keine Kette, die wiederholt werden könnte.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::LongWork</name>
+    <message>
+        <source>Cancel (Esc)</source>
+        <translation>Abbrechen (Esc)</translation>
     </message>
 </context>
 <context>
@@ -222,28 +1142,8 @@
         <translation>%1 geöffnet</translation>
     </message>
     <message>
-        <source>%1 could not be saved.</source>
-        <translation>%1 konnte nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>%1 saved</source>
-        <translation>%1 gespeichert</translation>
-    </message>
-    <message>
-        <source>new.job.xml</source>
-        <translation>neu.job.xml</translation>
-    </message>
-    <message>
-        <source>Save Job</source>
-        <translation>Auftrag speichern</translation>
-    </message>
-    <message>
         <source>Jobs (*.xml);;All files (*)</source>
         <translation>Aufträge (*.xml);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>it is open in another editor: %1</source>
-        <translation>sie ist in einem anderen Editor geöffnet: %1</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -278,10 +1178,6 @@
         <translation>&amp;Feld öffnen</translation>
     </message>
     <message>
-        <source>&amp;Find...</source>
-        <translation>&amp;Suchen...</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
     </message>
@@ -295,7 +1191,7 @@
     </message>
     <message>
         <source>Night &amp;Colours</source>
-        <translation>&amp;Nachtfarben</translation>
+        <translation>Na&amp;chtfarben</translation>
     </message>
     <message>
         <source>&amp;Next Pane</source>
@@ -346,24 +1242,40 @@
         <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
-        <source>%1 was changed by somebody else since it was opened.</source>
-        <translation>%1 wurde seit dem Öffnen von jemand anderem geändert.</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite</source>
-        <translation>Ü&amp;berschreiben</translation>
-    </message>
-    <message>
-        <source>The entry &quot;%1&quot; was refused and is not saved</source>
-        <translation>Die Eingabe „%1“ wurde abgelehnt und ist nicht gespeichert</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>Making a new job</source>
+        <translation>Neuen Auftrag anlegen</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Re&amp;cover Edits...</source>
+        <translation>Änderungen &amp;wiederherstellen...</translation>
+    </message>
+    <message>
+        <source>&amp;Filter...</source>
+        <translation>Fil&amp;tern...</translation>
+    </message>
+    <message>
+        <source>%1: cancelled, nothing has changed</source>
+        <translation>%1: abgebrochen, nichts hat sich geändert</translation>
+    </message>
+    <message>
+        <source>&amp;Messages</source>
+        <translation>&amp;Meldungen</translation>
     </message>
 </context>
 <context>
@@ -379,6 +1291,95 @@
     <message>
         <source>C&amp;lear</source>
         <translation>&amp;Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::NodeActions</name>
+    <message>
+        <source>&amp;Add Chain...</source>
+        <translation>Kette &amp;hinzufügen...</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplizieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Umbenennen...</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>%1 could not be added.</source>
+        <translation>%1 konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the copy of %1:</source>
+        <translation>&amp;Name der Kopie von %1:</translation>
+    </message>
+    <message>
+        <source>%1 could not be duplicated.</source>
+        <translation>%1 konnte nicht dupliziert werden.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>New &amp;name of %1:</source>
+        <translation>Neuer &amp;Name von %1:</translation>
+    </message>
+    <message>
+        <source>%1 could not be renamed.</source>
+        <translation>%1 konnte nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove %1 nodes with all their parameters?</source>
+        <translation>%1 Knoten mit all ihren Parametern entfernen?</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 entfernt</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed.</source>
+        <translation>%1 konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Job Editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::NodeCopy</name>
+    <message>
+        <source>%1 is no node of a job of its own.</source>
+        <translation>%1 ist kein eigener Knoten eines Auftrags.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::NodeKind</name>
+    <message>
+        <source>V/UHF</source>
+        <translation>V/UHF</translation>
+    </message>
+    <message>
+        <source>HF</source>
+        <translation>HF</translation>
+    </message>
+    <message>
+        <source>There is a node &quot;%1&quot; here already.</source>
+        <translation>Hier gibt es schon einen Knoten „%1“.</translation>
     </message>
 </context>
 <context>
@@ -421,6 +1422,265 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>JOBEDIT::ParameterSet</name>
+    <message>
+        <source>%1, tab %2</source>
+        <translation>%1, Register %2</translation>
+    </message>
+    <message>
+        <source>Byte %1: %2</source>
+        <translation>Byte %1: %2</translation>
+    </message>
+    <message>
+        <source>These are no parameters of a chain.</source>
+        <translation>Dies sind keine Parameter einer Kette.</translation>
+    </message>
+    <message>
+        <source>Version %1 of the format is not known.</source>
+        <translation>Die Version %1 des Formats ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Value %1 has no path or no content.</source>
+        <translation>Der Wert %1 hat keinen Pfad oder keinen Inhalt.</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no parameters.</source>
+        <translation>Die Zwischenablage enthält keine Parameter.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PlanActions</name>
+    <message>
+        <source>Frequency Plan</source>
+        <translation>Frequenzplan</translation>
+    </message>
+    <message>
+        <source>&amp;Frequency Plan</source>
+        <translation>&amp;Frequenzplan</translation>
+    </message>
+    <message>
+        <source>Frequency plan of a new job</source>
+        <translation>Frequenzplan eines neuen Auftrags</translation>
+    </message>
+    <message>
+        <source>Frequency plan of %1</source>
+        <translation>Frequenzplan von %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>The frequency plan could not be written.</source>
+        <translation>Der Frequenzplan konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>plan.svg</source>
+        <translation>plan.svg</translation>
+    </message>
+    <message>
+        <source>Export Frequency Plan</source>
+        <translation>Frequenzplan ausgeben</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg);;Picture (*.png)</source>
+        <translation>Zeichnung (*.svg);;Bild (*.png)</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PlanPainter</name>
+    <message>
+        <source>HF</source>
+        <translation>HF</translation>
+    </message>
+    <message>
+        <source>V/UHF</source>
+        <translation>V/UHF</translation>
+    </message>
+    <message>
+        <source>Switched off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PlanPane</name>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>−</source>
+        <translation>−</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole band</source>
+        <translation>Das ganze Band zeigen</translation>
+    </message>
+    <message>
+        <source>Show Chain</source>
+        <translation>Kette zeigen</translation>
+    </message>
+    <message>
+        <source>Show what the selected chain does</source>
+        <translation>Zeigen, was die gewählte Kette tut</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Ausgeben...</translation>
+    </message>
+    <message>
+        <source>Write the plan as a picture</source>
+        <translation>Den Plan als Bild schreiben</translation>
+    </message>
+    <message>
+        <source>No chain of the plan is selected.</source>
+        <translation>Keine Kette des Plans ist gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PlanPicture</name>
+    <message>
+        <source>%1: no chain has a frequency.</source>
+        <translation>%1: Keine Kette hat eine Frequenz.</translation>
+    </message>
+    <message>
+        <source>A frequency plan is written as .svg or .png.</source>
+        <translation>Ein Frequenzplan wird als .svg oder .png geschrieben.</translation>
+    </message>
+    <message>
+        <source>The picture could not be painted: %1</source>
+        <translation>Das Bild konnte nicht gemalt werden: %1</translation>
+    </message>
+    <message>
+        <source>Frequency plan of a job</source>
+        <translation>Frequenzplan eines Auftrags</translation>
+    </message>
+    <message>
+        <source>A PNG of %1 by %2 points is too large; an SVG has no such limit.</source>
+        <translation>Ein PNG von %1 mal %2 Punkten ist zu groß; ein SVG hat keine solche Grenze.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>Der Speicher reicht nicht für das Bild.</translation>
+    </message>
+    <message>
+        <source>Frequency plan of a new job</source>
+        <translation>Frequenzplan eines neuen Auftrags</translation>
+    </message>
+    <message>
+        <source>Frequency plan of %1</source>
+        <translation>Frequenzplan von %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PlanView</name>
+    <message>
+        <source>Frequency plan of the HF chains</source>
+        <translation>Frequenzplan der HF-Ketten</translation>
+    </message>
+    <message>
+        <source>Frequency plan of the V/UHF chains</source>
+        <translation>Frequenzplan der V/UHF-Ketten</translation>
+    </message>
+    <message>
+        <source>Up and Down go through the chains, Return opens one; plus and minus zoom, Left and Right move, Home shows all, the asterisk the selected chain.</source>
+        <translation>Auf und Ab gehen durch die Ketten, die Eingabetaste öffnet eine; Plus und Minus vergrößern und verkleinern, Links und Rechts verschieben, Pos1 zeigt alles, der Stern die gewählte Kette.</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more: zoom in</source>
+        <translation>
+            <numerusform>und %n weiterer: vergrößern</numerusform>
+            <numerusform>und %n weitere: vergrößern</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No chain has a frequency in this band.</source>
+        <translation>In diesem Band hat keine Kette eine Frequenz.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::PresetDialog</name>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Umbenennen...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>There are no presets yet. Save those of a tab or a chain from the Edit menu.</source>
+        <translation>Es gibt noch keine Vorlagen. Speichern Sie die eines Registers oder einer Kette über das Menü Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>%1 parameters of %2 (%3)</source>
+        <translation>%1 Parameter von %2 (%3)</translation>
+    </message>
+    <message>
+        <source>This preset is damaged. %1</source>
+        <translation>Diese Vorlage ist beschädigt. %1</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Vorlage umbenennen</translation>
+    </message>
+    <message>
+        <source>New &amp;name of %1:</source>
+        <translation>Neuer &amp;Name von %1:</translation>
+    </message>
+    <message>
+        <source>There is a preset of that name already.</source>
+        <translation>Es gibt schon eine Vorlage dieses Namens.</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? This cannot be undone.</source>
+        <translation>Die Vorlage %1 löschen? Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Presets</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Vorlage braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>JOBEDIT::RecentFiles</name>
     <message>
         <source>Open &amp;Recent</source>
@@ -433,6 +1693,112 @@ Typ: %2</translation>
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (nicht da)</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::RecoveryJournal</name>
+    <message>
+        <source>Edits that are not saved cannot be kept for the case of a crash. Save often.</source>
+        <translation>Änderungen, die nicht gespeichert sind, können für den Fall eines Absturzes nicht aufbewahrt werden. Speichern Sie oft.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::RecoveryOffer</name>
+    <message>
+        <source>Recover Edits</source>
+        <translation>Änderungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>No edits were left behind.</source>
+        <translation>Es sind keine Änderungen zurückgeblieben.</translation>
+    </message>
+    <message>
+        <source>Restored, they can be taken back by Undo, and are saved when you save the job.</source>
+        <translation>Wiederhergestellt können sie rückgängig gemacht werden, und sie werden gespeichert, wenn Sie den Auftrag speichern.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Nothing can be brought back. The file is %1.</source>
+        <translation>Nichts kann zurückgeholt werden. Die Datei ist %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
+    </message>
+    <message>
+        <source>An editor ended without saving, and it cannot be read which job it edited.</source>
+        <translation>Ein Editor wurde beendet, ohne zu speichern, und es ist nicht zu lesen, welchen Auftrag er bearbeitet hat.</translation>
+    </message>
+    <message>
+        <source>An editor ended without saving a new job. Its edits since %1 are still there.</source>
+        <translation>Ein Editor wurde beendet, ohne einen neuen Auftrag zu speichern. Seine Änderungen seit %1 sind noch da.</translation>
+    </message>
+    <message>
+        <source>An editor ended without saving %1. The edits since %2 are still there.</source>
+        <translation>Ein Editor wurde beendet, ohne %1 zu speichern. Die Änderungen seit %2 sind noch da.</translation>
+    </message>
+    <message>
+        <source>Changes: %1.</source>
+        <translation>Änderungen: %1.</translation>
+    </message>
+    <message>
+        <source>The file of the job has vanished since.</source>
+        <translation>Die Datei des Auftrags ist seitdem verschwunden.</translation>
+    </message>
+    <message>
+        <source>The file of the job was changed since. The edits would be made in what it holds now.</source>
+        <translation>Die Datei des Auftrags wurde seitdem geändert. Die Änderungen würden in dem gemacht, was sie jetzt enthält.</translation>
+    </message>
+    <message>
+        <source>Records that are damaged and lost: %1.</source>
+        <translation>Beschädigte und verlorene Aufzeichnungen: %1.</translation>
+    </message>
+    <message>
+        <source>Edits that were not saved were brought back</source>
+        <translation>Änderungen, die nicht gespeichert waren, wurden zurückgeholt</translation>
+    </message>
+    <message>
+        <source>Some edits are lost</source>
+        <translation>Einige Änderungen sind verloren</translation>
+    </message>
+    <message>
+        <source>A change could not be brought back</source>
+        <translation>Eine Änderung konnte nicht zurückgeholt werden</translation>
+    </message>
+    <message>
+        <source>Some changes could not be brought back: %1 of %2. The messages list them.</source>
+        <translation>Einige Änderungen konnten nicht zurückgeholt werden: %1 von %2. Die Meldungen führen sie auf.</translation>
+    </message>
+    <message>
+        <source>Restore unsaved edits</source>
+        <translation>Nicht gespeicherte Änderungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>the job has no such value</source>
+        <translation>der Auftrag hat keinen solchen Wert</translation>
+    </message>
+    <message>
+        <source>%1 (content &quot;%2&quot;)</source>
+        <translation>%1 (Inhalt „%2“)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -452,6 +1818,651 @@ Typ: %2</translation>
     <message>
         <source>%1 pictures in %2</source>
         <translation>%1 Bilder in %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReportActions</name>
+    <message>
+        <source>Repor&amp;t...</source>
+        <translation>Berich&amp;t...</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>The job as a document: all values of all chains, with their units.</source>
+        <translation>Der Auftrag als Dokument: alle Werte aller Ketten mit ihren Einheiten.</translation>
+    </message>
+    <message>
+        <source>&amp;PDF, for printing</source>
+        <translation>&amp;PDF, zum Drucken</translation>
+    </message>
+    <message>
+        <source>&amp;HTML, for reading and searching</source>
+        <translation>&amp;HTML, zum Lesen und Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Only values that differ from their default</source>
+        <translation>&amp;Nur Werte, die von ihrer Vorgabe abweichen</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>P&amp;rint...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>bericht</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML documents (*.html *.htm)</source>
+        <translation>HTML-Dokumente (*.html *.htm)</translation>
+    </message>
+    <message>
+        <source>The job has %1 values: some %2 pages.</source>
+        <translation>Der Auftrag hat %1 Werte: etwa %2 Seiten.</translation>
+    </message>
+    <message>
+        <source>With only the values that differ from their default it is shorter. HTML is written within seconds at any size.</source>
+        <translation>Nur mit den Werten, die von ihrer Vorgabe abweichen, ist er kürzer. HTML wird in jeder Größe in Sekunden geschrieben.</translation>
+    </message>
+    <message>
+        <source>Only &amp;Changes</source>
+        <translation>Nur &amp;Änderungen</translation>
+    </message>
+    <message>
+        <source>&amp;All Values</source>
+        <translation>&amp;Alle Werte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 schreiben</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>The report was cancelled.</source>
+        <translation>Der Bericht wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The report could not be written.</source>
+        <translation>Der Bericht konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Job %1</source>
+        <translation>Auftrag %1</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The report was given to the printer.</source>
+        <translation>Der Bericht wurde an den Drucker gegeben.</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>Der Bericht konnte nicht gedruckt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReportContent</name>
+    <message>
+        <source>A report is written as .html or .pdf.</source>
+        <translation>Ein Bericht wird als .html oder .pdf geschrieben.</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Neuer Auftrag</translation>
+    </message>
+    <message>
+        <source>Job %1</source>
+        <translation>Auftrag %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Verfasser</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Angelegt</translation>
+    </message>
+    <message>
+        <source>Last modified</source>
+        <translation>Zuletzt geändert</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Chains and panels</source>
+        <translation>Ketten und Felder</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Values that differ from their default</source>
+        <translation>Werte, die von ihrer Vorgabe abweichen</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>Gezeigt</translation>
+    </message>
+    <message>
+        <source>only values that differ from their default</source>
+        <translation>nur Werte, die von ihrer Vorgabe abweichen</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Gedruckt</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReportHtml</name>
+    <message>
+        <source>● marks values that differ from their default.</source>
+        <translation>● kennzeichnet Werte, die von ihrer Vorgabe abweichen.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>● %1</source>
+        <translation>● %1</translation>
+    </message>
+    <message>
+        <source>No value differs from its default.</source>
+        <translation>Kein Wert weicht von seiner Vorgabe ab.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>default: empty</source>
+        <translation>Vorgabe: leer</translation>
+    </message>
+    <message>
+        <source>default: %1</source>
+        <translation>Vorgabe: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReportLabels</name>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReportPages</name>
+    <message>
+        <source>Marked and in bold: values that differ from their default.</source>
+        <translation>Gekennzeichnet und fett: Werte, die von ihrer Vorgabe abweichen.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>No value differs from its default.</source>
+        <translation>Kein Wert weicht von seiner Vorgabe ab.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>default: empty</source>
+        <translation>Vorgabe: leer</translation>
+    </message>
+    <message>
+        <source>default: %1</source>
+        <translation>Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ReuseActions</name>
+    <message>
+        <source>Copy &amp;Tab&apos;s Parameters</source>
+        <translation>Parameter des Re&amp;gisters kopieren</translation>
+    </message>
+    <message>
+        <source>Copy C&amp;hain&apos;s Parameters</source>
+        <translation>Parameter der &amp;Kette kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Parameters</source>
+        <translation>Parameter einfügen</translation>
+    </message>
+    <message>
+        <source>Apply Preset %1</source>
+        <translation>Vorlage %1 anwenden</translation>
+    </message>
+    <message>
+        <source>The preset %1 could not be read.</source>
+        <translation>Die Vorlage %1 konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Save &amp;Tab as Preset...</source>
+        <translation>&amp;Register als Vorlage speichern...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Chain as Preset...</source>
+        <translation>&amp;Kette als Vorlage speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Presets...</source>
+        <translation>&amp;Vorlagen verwalten...</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset with %1 parameters:</source>
+        <translation>&amp;Name der Vorlage mit %1 Parametern:</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already. Replace it?</source>
+        <translation>Es gibt schon eine Vorlage %1. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already, which is damaged: %2
+
+Replace it?</source>
+        <translation>Es gibt schon eine Vorlage %1, die beschädigt ist: %2
+
+Ersetzen?</translation>
+    </message>
+    <message>
+        <source>The preset %1 was saved with %2 parameters.</source>
+        <translation>Die Vorlage %1 wurde mit %2 Parametern gespeichert.</translation>
+    </message>
+    <message>
+        <source>The preset %1 could not be saved.</source>
+        <translation>Die Vorlage %1 konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation>%1 wurde nicht geschrieben</translation>
+    </message>
+    <message>
+        <source>%1: %2 parameters changed in %3 chains, %4 did not fit.</source>
+        <translation>%1: %2 Parameter in %3 Ketten geändert, %4 passten nicht.</translation>
+    </message>
+    <message>
+        <source>%1 parameters of %2 copied</source>
+        <translation>%1 Parameter von %2 kopiert</translation>
+    </message>
+    <message>
+        <source>There is no tab with parameters to take.</source>
+        <translation>Es gibt kein Register mit Parametern.</translation>
+    </message>
+    <message>
+        <source>The selected node has no parameters to take.</source>
+        <translation>Der gewählte Knoten hat keine Parameter.</translation>
+    </message>
+    <message>
+        <source>Past&amp;e Parameters into Selected Chains</source>
+        <translation>Parameter in gewählte Ketten e&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Preset&amp;s</source>
+        <translation>&amp;Vorlagen</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::Saving</name>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 speichern</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>new.job.xml</source>
+        <translation>neu.job.xml</translation>
+    </message>
+    <message>
+        <source>Save Job</source>
+        <translation>Auftrag speichern</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Aufträge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>it is open in another editor: %1</source>
+        <translation>er ist in einem anderen Editor geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since it was opened.</source>
+        <translation>%1 wurde von jemand anderem geändert, seit die Datei geöffnet wurde.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Vergleichen...</translation>
+    </message>
+    <message>
+        <source>Looking into %1</source>
+        <translation>%1 ansehen</translation>
+    </message>
+    <message>
+        <source>%1 is no job that can be read.</source>
+        <translation>%1 ist kein Auftrag, der gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved.</source>
+        <translation>%1 konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Your changes are still there. They can be saved in another place.</source>
+        <translation>Ihre Änderungen sind noch da. Sie können an einem anderen Ort gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>The entry &quot;%1&quot; was refused and is not saved</source>
+        <translation>Die Eingabe „%1“ wurde abgelehnt und ist nicht gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::StructureEdit</name>
+    <message>
+        <source>Add node %1</source>
+        <translation>Knoten %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove node %1</source>
+        <translation>Knoten %1 entfernen</translation>
+    </message>
+    <message>
+        <source>Rename node %1 to %2</source>
+        <translation>Knoten %1 in %2 umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate node %1 as %2</source>
+        <translation>Knoten %1 als %2 duplizieren</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::TakeOver</name>
+    <message>
+        <source>The type of a node cannot be taken over.</source>
+        <translation>Der Typ eines Knotens kann nicht übernommen werden.</translation>
+    </message>
+    <message>
+        <source>The node belongs to the one above it and cannot be removed by itself.</source>
+        <translation>Der Knoten gehört zu dem darüber und kann nicht für sich entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The node belongs to the one above it and cannot be added by itself.</source>
+        <translation>Der Knoten gehört zu dem darüber und kann nicht für sich hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Only one side has the parameter: the nodes have different groups.</source>
+        <translation>Nur eine Seite hat den Parameter: Die Knoten haben verschiedene Gruppen.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::TypedValue</name>
+    <message>
+        <source>&quot;%1&quot; is neither on nor off</source>
+        <translation>„%1“ ist weder ein noch aus</translation>
+    </message>
+    <message>
+        <source>There is no item &quot;%1&quot;. There are: %2</source>
+        <translation>Es gibt keinen Eintrag „%1“. Es gibt: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large</source>
+        <translation>„%1“ ist zu groß</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ValueTexts</name>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ValueWriting</name>
+    <message>
+        <source>There is no item %1 here.</source>
+        <translation>Hier gibt es keinen Eintrag %1.</translation>
+    </message>
+    <message>
+        <source>There is no such parameter here.</source>
+        <translation>Hier gibt es keinen solchen Parameter.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ValuesDock</name>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Filter by label, key, path or value</source>
+        <translation>Nach Bezeichnung, Schlüssel, Pfad oder Wert filtern</translation>
+    </message>
+    <message>
+        <source>Filter of the values</source>
+        <translation>Filter der Werte</translation>
+    </message>
+    <message>
+        <source>Values of the job</source>
+        <translation>Werte des Auftrags</translation>
+    </message>
+    <message>
+        <source>Tree</source>
+        <translation>Baum</translation>
+    </message>
+    <message>
+        <source>By node, in the order of the job</source>
+        <translation>Nach Knoten, in der Reihenfolge des Auftrags</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Only values that differ from the saved file</source>
+        <translation>Nur Werte, die von der gespeicherten Datei abweichen</translation>
+    </message>
+    <message>
+        <source>Not default</source>
+        <translation>Nicht Vorgabe</translation>
+    </message>
+    <message>
+        <source>Only values that differ from the default</source>
+        <translation>Nur Werte, die von der Vorgabe abweichen</translation>
+    </message>
+    <message>
+        <source>This node</source>
+        <translation>Dieser Knoten</translation>
+    </message>
+    <message>
+        <source>Only values of the selected node and those below it</source>
+        <translation>Nur Werte des gewählten Knotens und derer darunter</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>&amp;Werte</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Value</source>
+        <translation>Wert &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>Context &amp;Menu</source>
+        <translation>Kontext&amp;menü</translation>
+    </message>
+    <message>
+        <source>Values: %1</source>
+        <translation>Werte: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Field</source>
+        <translation>Zum &amp;Feld gehen</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::ValuesModel</name>
+    <message>
+        <source>Label</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Schritt nach oben</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Schritt nach &amp;unten</translation>
     </message>
 </context>
 <context>
@@ -2049,7 +4060,7 @@ Typ: %2</translation>
     <name>TKE::JobDlg</name>
     <message>
         <source>Job</source>
-        <translation>Job</translation>
+        <translation>Auftrag</translation>
     </message>
     <message>
         <source>Description :</source>
@@ -2171,20 +4182,8 @@ Typ: %2</translation>
         <translation>%1 (Prozess %2 auf %3)</translation>
     </message>
     <message>
-        <source>The job holds no node &quot;%1&quot;</source>
-        <translation>Der Auftrag enthält keinen Knoten „%1“</translation>
-    </message>
-    <message>
-        <source>The node occurs twice</source>
-        <translation>Der Knoten kommt zweimal vor</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no count of channels (1 to %2)</source>
-        <translation>„%1“ ist keine Kanalzahl (1 bis %2)</translation>
-    </message>
-    <message>
-        <source>The group &quot;%1&quot; is unknown</source>
-        <translation>Die Gruppe „%1“ ist unbekannt</translation>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +4305,33 @@ Typ: %2</translation>
     </message>
 </context>
 <context>
+    <name>TKE::JobStructure</name>
+    <message>
+        <source>The job holds no node &quot;%1&quot;</source>
+        <translation>Der Auftrag hat keinen Knoten „%1“</translation>
+    </message>
+    <message>
+        <source>The node occurs twice</source>
+        <translation>Der Knoten kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count of channels (1 to %2)</source>
+        <translation>„%1“ ist keine Kanalzahl (1 bis %2)</translation>
+    </message>
+    <message>
+        <source>The group &quot;%1&quot; is unknown</source>
+        <translation>Die Gruppe „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>Below &quot;%1&quot; lies another node that is no part of it</source>
+        <translation>Unter „%1“ liegt ein anderer Knoten, der nicht dazu gehört</translation>
+    </message>
+    <message>
+        <source>There is a node &quot;%1&quot; already</source>
+        <translation>Es gibt schon einen Knoten „%1“</translation>
+    </message>
+</context>
+<context>
     <name>TKE::MemoryScanDlg</name>
     <message>
         <source>No.</source>
@@ -2369,7 +4395,7 @@ Typ: %2</translation>
     </message>
     <message>
         <source>Start with the job</source>
-        <translation>Mit dem Job starten</translation>
+        <translation>Mit dem Auftrag starten</translation>
     </message>
     <message>
         <source>Tuner</source>
@@ -2533,7 +4559,7 @@ Typ: %2</translation>
     </message>
     <message>
         <source>Release licence when the job pauses</source>
-        <translation>Lizenz freigeben, wenn der Job ruht</translation>
+        <translation>Lizenz freigeben, wenn der Auftrag ruht</translation>
     </message>
 </context>
 <context>
@@ -3248,7 +5274,7 @@ Typ: %2</translation>
     </message>
     <message>
         <source>Set frequency at job start</source>
-        <translation>Frequenz beim Start des Jobs setzen</translation>
+        <translation>Frequenz beim Start des Auftrags setzen</translation>
     </message>
     <message>
         <source>Remark :</source>
