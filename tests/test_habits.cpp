@@ -214,9 +214,10 @@ private Q_SLOTS:
         {
             if (action->isSeparator() || action->text().isEmpty())
                 continue;
-            // Of a context menu, which opens by keyboard too.
+            // Of a context menu, which opens by keyboard too; docks have theirs in that of the window.
             const auto* owner = qobject_cast<const QWidget*>(action->parent());
-            const bool inContext = owner && owner->contextMenuPolicy() == Qt::ActionsContextMenu;
+            const bool inContext = owner && (owner->contextMenuPolicy() == Qt::ActionsContextMenu ||
+                                             qobject_cast<const QDockWidget*>(owner));
             QVERIFY2(inMenus.contains(action) || inContext || !action->shortcut().isEmpty(),
                      qPrintable(action->text()));
             if (action->shortcut().isEmpty() || action->shortcutContext() != Qt::WindowShortcut)
