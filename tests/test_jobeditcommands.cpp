@@ -83,7 +83,7 @@ private Q_SLOTS:
         QTest::newRow("one bad file of two")
             << QStringList{"check", "good.job.xml", "bad.job.xml"} << 1 << "bad.job.xml:3:";
         QTest::newRow("a value at fault")
-            << QStringList{"check", "values.job.xml"} << 1 << "values.job.xml: /T/SCAN_START_FREQUENCY: start (SCAN_START_FREQUENCY): ";
+            << QStringList{"check", "values.job.xml"} << 1 << "values.job.xml: /T/SCAN_START_FREQUENCY: Start frequency: ";
         QTest::newRow("a missing file") << QStringList{"check", "nowhere.xml"} << 1 << "nowhere.xml";
         QTest::newRow("nothing to check") << QStringList{"check"} << 2 << "--help";
         QTest::newRow("unknown option") << QStringList{"--sing"} << 2 << "sing";

@@ -159,14 +159,14 @@ private Q_SLOTS:
         QTest::newRow("several keys")
             << "JOB_RESOURCES"
             << "1;5"
-            << QStringList{on, "Resources of the job",
+            << QStringList{on, "Resources",
                            "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""};
         QTest::newRow("list of frequencies")
             << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE"
             << "3000000;3000100"
-            << QStringList{on, "Excluded ranges, pairs, 0 to 100 rows", "3 MHz; 3.0001 MHz|default: empty", ""};
+            << QStringList{on, "Excluded ranges", "3 MHz; 3.0001 MHz|default: empty", ""};
         QTest::newRow("switch") << tuner + "SCAN_STATUS"
-                                << "true" << QStringList{on, "Scan on", "on|default: off", ""};
+                                << "true" << QStringList{on, "Scan On/Off", "on|default: off", ""};
         QTest::newRow("emptied text") << "JOB_AUTHOR"
                                       << "" << QStringList{on, "Author", "|default: Operator 1", ""};
         QTest::newRow("as by default") << "JOB_AUTHOR"
