@@ -6,7 +6,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 skip()
 {
-    echo "Skipped: $1 is missing (Debian: apt-get install at-spi2-core dbus python3-pyatspi xauth xvfb)." >&2
+    echo "Skipped: $1 is missing (Debian: apt-get install at-spi2-core dbus python3-pyatspi xvfb)." >&2
     exit 77
 }
 
@@ -26,8 +26,7 @@ if [ "${1-}" != --inside ]; then
 fi
 
 shift
-exec 3<>"$HOME/display"
-Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp >"$HOME/xvfb.log" 2>&1 3>"$HOME/display" &
+Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp -noreset >"$HOME/xvfb.log" 2>&1 3>"$HOME/display" &
 server=$!
 trap 'kill "$server" 2>/dev/null || true' EXIT
 for _ in $(seq 100); do

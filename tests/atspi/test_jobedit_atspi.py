@@ -14,6 +14,8 @@ import time
 
 import pyatspi
 
+PROGRAM, DIRECTORY = sys.argv[1:]
+HEADLESS = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
 SECONDS = 30
 
 
@@ -74,6 +76,22 @@ def text(node):
     return entry.getText(0, entry.characterCount)
 
 
+def click(node):
+    """Brings the pointer to the node and presses it, as readers do where a node offers no action."""
+    area = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    pyatspi.Registry.generateMouseEvent(area.x + area.width // 2, area.y + area.height // 2, pyatspi.MOUSE_B1C)
+
+
+def enter():
+    pyatspi.Registry.generateKeyboardEvent(0xFF0D, None, pyatspi.KEY_SYM)
+
+
+def frequency(job):
+    """Of the tuner, as the file holds it."""
+    return subprocess.run([PROGRAM, "get", "--stored", job, "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY"],
+                          env=HEADLESS, capture_output=True, text=True).stdout.strip()
+
+
 def do(node, *names):
     """Does the first of the node's actions that goes by one of these names."""
     actions = node.queryAction()
@@ -85,11 +103,9 @@ def do(node, *names):
 
 
 def main():
-    program, directory = sys.argv[1:]
-    job = os.path.join(directory, "heard.job.xml")
-    subprocess.run([program, "new", job], check=True, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
-                   stdout=subprocess.DEVNULL)
-    editor = subprocess.Popen([program, job])
+    job = os.path.join(DIRECTORY, "heard.job.xml")
+    subprocess.run([PROGRAM, "new", job], check=True, env=HEADLESS, stdout=subprocess.DEVNULL)
+    editor = subprocess.Popen([PROGRAM, job])
     try:
         drive(job)
     finally:
@@ -103,16 +119,34 @@ def drive(job):
 
     tree = wait("the tree of nodes", lambda: find(window, pyatspi.ROLE_TREE, lambda name: name == "Nodes of the job"))
     check("the tree of nodes has the chains", tree.childCount > 100)
-    tuner = wait("the tuner chain", lambda: next(
-        (tree.getChildAtIndex(index + 2) for index in range(tree.childCount - 2)
-         if tree.getChildAtIndex(index).name == "CS_VOICE"), None))
-    check("the node below CS_VOICE is its task", tuner.name == "VOICE")
-    do(tuner, "Toggle", "Press", "toggle", "press") if False else tree.querySelection().selectChild(tuner.getIndexInParent())
+    words = wait("the filter", lambda: find(window, pyatspi.ROLE_TEXT, lambda name: name == "Filter of the nodes"))
+    words.queryEditableText().setTextContents("IPC_TUNER_HF")
+    node = wait("the tuner chain alone", lambda: tree.childCount < 20 and next(
+        (cell for cell in tree if cell.name == "TUNER" and shows(cell, pyatspi.STATE_SHOWING)), None))
+    click(node)
+    wait("the selection of the node", lambda: shows(node, pyatspi.STATE_SELECTED))
+    wait("the dialog of the node", lambda: find(
+        window, pyatspi.ROLE_LABEL, lambda name: name == "/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/"))
 
     field = wait("the field called Frequency", lambda: find(
         window, pyatspi.ROLE_TEXT, lambda name: name.startswith("Frequency"), pyatspi.STATE_SHOWING, pyatspi.STATE_ENABLED))
-    before = text(field)
-    check(f"the frequency is read as a number: {before}", before.replace(".", "").replace(",", "").isdigit())
+    unit = wait("the unit's combo box", lambda: next(
+        (node for node in nodes(window) if node.getRole() == pyatspi.ROLE_COMBO_BOX and "Unit" in labels(node)), None))
+    check(f"the frequency is read: {text(field)} {unit.name}", (text(field), unit.name) == ("10000", "kHz"))
+
+    click(field)
+    field.queryEditableText().setTextContents("7100.5")
+    enter()
+    undo = wait("the undo action's name", lambda: find(
+        window, pyatspi.ROLE_MENU_ITEM, lambda name: name.startswith("Undo") and "Frequency" in name))
+    check(f"the undo action says what it takes back: {undo.name}", "10 MHz -> 7.1005 MHz" in undo.name)
+    do(wait("Save", lambda: find(window, pyatspi.ROLE_MENU_ITEM, lambda name: name == "Save")), "Press")
+    wait("the frequency in the file", lambda: frequency(job) == "7100500")
+    check("what was entered stands in the file", True)
+
+    do(undo, "Press")
+    wait("the frequency before", lambda: text(field) == "10000")
+    check("the undo action brings the frequency back", frequency(job) == "7100500")
 
 
 if __name__ == "__main__":
