@@ -141,7 +141,8 @@ void TextEntry::PaintRefusal() const
     if (m_refusal.isEmpty())
         return;
     QPainter painter(GetWidget());
-    painter.setPen(QPen(QColor(204, 0, 0), 2));
+    const bool isDark = GetWidget()->palette().color(QPalette::Base).lightness() < 128;
+    painter.setPen(QPen(isDark ? QColor(255, 96, 96) : QColor(204, 0, 0), 2));
     painter.drawRect(GetWidget()->rect().adjusted(1, 1, -1, -1));
 }
 

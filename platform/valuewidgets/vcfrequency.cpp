@@ -1,6 +1,7 @@
 #include "valuewidgets/vcfrequency.h"
 
 #include "valuewidgets/guicentral.h"
+#include "valuewidgets/readername.h"
 #include "valuewidgets/vccomboboxclassic.h"
 #include "valuewidgets/vclineedit.h"
 
@@ -30,7 +31,7 @@ VCFrequency::VCFrequency(QWidget* parent, const QString& name)
     setObjectName(name);
     m_tune->setObjectName(QStringLiteral("Tune"));
     m_number->SuppressErrorMessage(true);
-    m_unit->setAccessibleName(tr("Unit"));
+    ReaderName::Set(*m_unit, tr("Unit"));
     for (int code = SuffixedDouble::Hertz; code <= SuffixedDouble::Giga; ++code)
         m_unit->addItem(SuffixedDouble::GetUnitText(SuffixedDouble::ESuffix(code)));
     connect(m_unit, &QComboBox::activated, this,

@@ -1,6 +1,7 @@
 #include "analysis/demodulatorpanelf7w.h"
 
 #include "keys/keys.h"
+#include "valuewidgets/readername.h"
 
 #include <QLabel>
 
@@ -15,7 +16,7 @@ void DemodulatorPanelF7W::BuildSpecificRows()
     rows.FloatSpin({5, 5}, QT_TR_NOOP("Baudrate channel B :"), BAUDRATE_1, 2, QT_TR_NOOP("Bd"));
     rows.Combo({6, 5}, QT_TR_NOOP("Switch channel to ACID :"), ACID_CH_SEL);
     QLabel* label = rows.Label({7, 5}, QT_TR_NOOP("Tone spacing (Hz) :"));
-    label->setBuddy(AddSpacingList({7, 6, 2, 2}, SEQ_TONESPACING, 3, 3, 1, 115));
+    ReaderName::FromLabel(*label, *AddSpacingList({7, 6, 2, 2}, SEQ_TONESPACING, 3, 3, 1, 115));
 }
 
 } // namespace TKE

@@ -1,6 +1,7 @@
 #include "analysis/demodulatorpanelfsk.h"
 
 #include "keys/keys.h"
+#include "valuewidgets/readername.h"
 
 #include <QLabel>
 
@@ -20,7 +21,7 @@ void DemodulatorPanelFSK::BuildSpecificRows()
     }
     ++row;
     QLabel* label = rows.Label({row, 5}, QT_TR_NOOP("Tone spacing (Hz) :"));
-    label->setBuddy(AddSpacingList({row, 6, 3, 2}, SEQ_TONESPACING, 3, 3, 1, 125));
+    ReaderName::FromLabel(*label, *AddSpacingList({row, 6, 3, 2}, SEQ_TONESPACING, 3, 3, 1, 125));
 }
 
 } // namespace TKE

@@ -1,5 +1,6 @@
 #include "framework/panelrows.h"
 
+#include "valuewidgets/readername.h"
 #include "valuewidgets/vccheckbox.h"
 #include "widgets/vccheckablegroupbox.h"
 
@@ -176,7 +177,7 @@ QWidget* PanelRows::WidgetAt(Cell cell) const
 void PanelRows::AccessibleName(Cell cell, const char* text)
 {
     if (QWidget* widget = WidgetAt(cell))
-        widget->setAccessibleName(m_panel.GetTranslation(QString::fromUtf8(text)));
+        ReaderName::Set(*widget, m_panel.GetTranslation(QString::fromUtf8(text)));
 }
 
 bool PanelRows::CheckList(Cell cell, const char* label, const QString& key, Span span)

@@ -6,6 +6,7 @@
 #include "jobmodel/parameter.h"
 #include "keys/keymanager.h"
 #include "value/tree.h"
+#include "valuewidgets/readername.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -216,7 +217,7 @@ void ParameterDlg::MakeBuddy(QLabel* label, const QLayoutItem* item)
 {
     QWidget* widget = item ? const_cast<QLayoutItem*>(item)->widget() : nullptr;
     if (label && widget)
-        label->setBuddy(widget->focusProxy() ? widget->focusProxy() : widget);
+        ReaderName::FromLabel(*label, *widget);
 }
 
 // A tab widget asks every page for its size, and hidden pages then shape the text of every label. Panels built alike are of one size, so

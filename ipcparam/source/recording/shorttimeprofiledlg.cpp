@@ -2,6 +2,7 @@
 
 #include "framework/panelrows.h"
 #include "keys/keys.h"
+#include "valuewidgets/readername.h"
 #include "valuewidgets/vccheckbox.h"
 #include "widgets/vclistboxnumeric.h"
 
@@ -97,8 +98,8 @@ void ShorttimeProfileDlg::BuildFrequencies()
     switches.CheckBox({4, 8}, "", USEFREQUENCYSETTBL);
     switches.AccessibleName({4, 8}, QT_TR_NOOP("Use the frequency list"));
     QLabel* label = rows.Label({4, 9}, QT_TR_NOOP("Freq. list [kHz] :"));
-    label->setBuddy(AddListBoxFromVT(Grid(), 4, 10, 5, 3, FREQUENCYSETTBL, 1, 0, 50, false,
-                                     {GetTranslation(QT_TR_NOOP("Frequency"))}, kiloHertz, false));
+    ReaderName::FromLabel(*label, *AddListBoxFromVT(Grid(), 4, 10, 5, 3, FREQUENCYSETTBL, 1, 0, 50, false,
+                                                    {GetTranslation(QT_TR_NOOP("Frequency"))}, kiloHertz, false));
 }
 
 void ShorttimeProfileDlg::SetEnabledDisabled()

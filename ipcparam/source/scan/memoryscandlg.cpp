@@ -2,6 +2,7 @@
 
 #include "framework/panelrows.h"
 #include "keys/keys.h"
+#include "valuewidgets/readername.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -122,7 +123,7 @@ void MemoryScanDlg::BuildChannel(QGridLayout& grid, int channel)
     for (int column = 1; column < grid.columnCount(); ++column)
     {
         const auto* header = static_cast<QLabel*>(grid.itemAtPosition(0, column)->widget());
-        grid.itemAtPosition(channel, column)->widget()->setAccessibleName(header->text() + u' ' + QString::number(channel));
+        ReaderName::Set(*grid.itemAtPosition(channel, column)->widget(), header->text() + u' ' + QString::number(channel));
     }
 }
 

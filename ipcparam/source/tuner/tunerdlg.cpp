@@ -27,8 +27,8 @@ void TunerDlg::BuildPanel()
     rows.Combo({0, 6}, QT_TR_NOOP("Decay :"), TUNER_HF_NB_AGCDECAY, QT_TR_NOOP("ms"));
     rows.Combo({1, 4}, QT_TR_NOOP("IFSource :"), TUNER_HF_NB_IFSOURCE);
     rows.IntSpin({1, 6}, QT_TR_NOOP("Value :"), TUNER_HF_NB_MGCVALUE, QT_TR_NOOP("dB"));
-    rows.CheckBox({2, 5, 1, 3}, QT_TR_NOOP("Preamplifier On/Off"), TUNER_HF_NB_PREAMPLIFIER_STATUS);
     rows.Combo({2, 0}, QT_TR_NOOP("IF bandwidth :"), TUNER_HF_NB_IFBANDWIDTH);
+    rows.CheckBox({2, 5, 1, 3}, QT_TR_NOOP("Preamplifier On/Off"), TUNER_HF_NB_PREAMPLIFIER_STATUS);
     rows.Combo({3, 0}, QT_TR_NOOP("Demodulation :"), TUNER_HF_NB_ANALOGDEMOD_METHOD);
     rows.Combo({4, 0}, QT_TR_NOOP("Output IF path :"), TUNER_HF_NB_OUTPUTIFPATH);
     rows.IntSpin({5, 0}, QT_TR_NOOP("IF shift :"), TUNER_HF_NB_IFSHIFT, QT_TR_NOOP("Hz"));

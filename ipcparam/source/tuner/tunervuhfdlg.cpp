@@ -30,11 +30,11 @@ void TunerVUHFDlg::BuildPanel()
 
     rows.Frequency({0, 0}, QT_TR_NOOP("Frequency :"), TUNER_VUHF_FREQUENCY, {2, 3});
     rows.Line({2, 0});
-    rows.Combo({3, 6}, QT_TR_NOOP("Gain :"), TUNER_VUHF_GAIN_CTRL_MODE);
-    rows.IntSpin({4, 6}, QT_TR_NOOP("Value :"), TUNER_VUHF_GAIN_CTRL_MGCGAIN, QT_TR_NOOP("dB"));
     rows.Combo({3, 0}, QT_TR_NOOP("IF bandwidth :"), TUNER_VUHF_IFBANDWIDTH);
     rows.CheckBox({3, 3}, QT_TR_NOOP("AFC"), TUNER_VUHF_AFC_ON);
     rows.Combo({4, 0}, QT_TR_NOOP("Demodulation :"), TUNER_VUHF_ANALOGDEMOD_METHOD);
+    rows.Combo({3, 6}, QT_TR_NOOP("Gain :"), TUNER_VUHF_GAIN_CTRL_MODE);
+    rows.IntSpin({4, 6}, QT_TR_NOOP("Value :"), TUNER_VUHF_GAIN_CTRL_MGCGAIN, QT_TR_NOOP("dB"));
     rows.Combo({5, 6}, QT_TR_NOOP("Measurement mode :"), TUNER_VUHF_MEAS_MODE);
     rows.IntSpin({6, 6}, QT_TR_NOOP("Measurement time :"), TUNER_VUHF_MEAS_TIME_VALUE, QT_TR_NOOP("µs"));
     rows.Line({7, 0}, 9);

@@ -1,0 +1,381 @@
+#include "editorfixture.h"
+#include "jobedit/chains.h"
+#include "jobedit/changemark.h"
+#include "jobedit/nightcolours.h"
+
+#include <QAccessible>
+#include <set>
+
+using namespace EditorTest;
+
+namespace
+{
+
+constexpr int mostSteps = 200; // of Tab within one editor
+
+enum class Opened
+{
+    JobForm,
+    StandAloneForm,
+    Panels,
+};
+
+/// What a screen reader finds at a widget.
+struct Heard
+{
+    explicit Heard(QWidget* widget)
+    {
+        QAccessibleInterface* found = QAccessible::queryAccessibleInterface(widget);
+        if (!found)
+            return;
+        role = found->role();
+        name = found->text(QAccessible::Name);
+        if (qobject_cast<QComboBox*>(widget)) // is called what it shows; readers take the name of its label
+        {
+            const auto labels = found->relations(QAccessible::Label);
+            name = labels.isEmpty() ? QString() : labels.constFirst().first->text(QAccessible::Name);
+        }
+        value = found->text(QAccessible::Value);
+        state = found->state();
+    }
+
+    QAccessible::Role role = QAccessible::NoRole;
+    QString name;
+    QString value;
+    QAccessible::State state;
+};
+
+bool IsEditor(const QWidget& widget)
+{
+    return widget.focusPolicy() & Qt::TabFocus && !widget.focusProxy() && !qobject_cast<const QScrollBar*>(&widget) &&
+           !qobject_cast<const QScrollArea*>(&widget);
+}
+
+/// The editors that stand for themselves: not those within another one, as the line edit of a spin box is.
+std::vector<QWidget*> EditorsIn(const QWidget& top)
+{
+    std::vector<QWidget*> editors;
+    for (QWidget* widget : top.findChildren<QWidget*>())
+    {
+        const QWidget* above = widget->parentWidget();
+        const bool isPart = qobject_cast<const QAbstractSpinBox*>(above) || qobject_cast<const QComboBox*>(above) ||
+                            qobject_cast<const QAbstractItemView*>(above) || qobject_cast<const QTabWidget*>(above);
+        if (widget->isVisible() && IsEditor(*widget) && !isPart)
+            editors.push_back(widget);
+    }
+    return editors;
+}
+
+QString Describe(const QWidget& widget)
+{
+    QStringList names{QString(widget.metaObject()->className()).section(':', -1)};
+    for (const QWidget* part = &widget; part; part = part->parentWidget())
+        if (!part->objectName().isEmpty() && !part->objectName().startsWith("qt_"))
+            names.insert(1, part->objectName());
+    return names.join('/');
+}
+
+/// How strongly two colours differ, from 1 to 21, as the guidelines for accessible web content count it.
+double Contrast(const QColor& first, const QColor& second)
+{
+    const auto luminance = [](const QColor& colour)
+    {
+        const auto linear = [](double part)
+        { return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const auto [low, high] = std::minmax({luminance(first), luminance(second)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+/// The strongest contrast of any pixel to the background.
+double MostContrast(const QImage& image, const QColor& background)
+{
+    double most = 1;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (const QColor colour = image.pixelColor(x, y); colour.alpha() > 200)
+                most = std::max(most, Contrast(colour, background));
+    return most;
+}
+
+} // namespace
+
+/// What somebody meets who hears the editor instead of seeing it, or goes through it by Tab, or sees little.
+class TestAccessibility : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_directory;
+    std::unique_ptr<Editor> m_editor;
+    QStringList m_faults;
+
+    void Verdict()
+    {
+        m_faults.removeDuplicates();
+        for (const QString& fault : m_faults)
+            qWarning("%s", qPrintable(fault));
+        QVERIFY(m_faults.isEmpty());
+    }
+
+    void Listen(const QString& where, QWidget& editor)
+    {
+        const Heard heard(&editor);
+        const QString what = where + ": " + Describe(editor) + ": ";
+        if (heard.name.trimmed().isEmpty())
+            m_faults << what + "has no name";
+        if (heard.name.contains('&'))
+            m_faults << what + "its name has the mark of a shortcut";
+        if (bool(heard.state.disabled) == editor.isEnabled())
+            m_faults << what + "is not told to be enabled or disabled";
+        const auto expect = [&](std::initializer_list<QAccessible::Role> roles)
+        {
+            if (std::ranges::find(roles, heard.role) == roles.end())
+                m_faults << what + "has the role " + QString::number(heard.role);
+        };
+        const auto says = [&](const QString& shown)
+        {
+            if (heard.value != shown)
+                m_faults << what + "says \"" + heard.value + "\" and shows \"" + shown + '"';
+        };
+        if (const auto* combo = qobject_cast<QComboBox*>(&editor))
+        {
+            expect({QAccessible::ComboBox});
+            says(combo->currentText());
+        }
+        else if (const auto* spin = qobject_cast<QAbstractSpinBox*>(&editor))
+        {
+            expect({QAccessible::SpinBox});
+            says(spin->text());
+        }
+        else if (const auto* line = qobject_cast<QLineEdit*>(&editor))
+        {
+            expect({QAccessible::EditableText});
+            says(line->text());
+            if (line->isReadOnly() != bool(heard.state.readOnly))
+                m_faults << what + "is not told to be read-only";
+        }
+        else if (const auto* button = qobject_cast<QAbstractButton*>(&editor))
+        {
+            expect({QAccessible::CheckBox, QAccessible::RadioButton, QAccessible::Button, QAccessible::ButtonMenu});
+            if (button->isCheckable() && button->isChecked() != bool(heard.state.checked))
+                m_faults << what + "is not told to be checked";
+        }
+        else if (const auto* box = qobject_cast<QGroupBox*>(&editor))
+        {
+            expect({QAccessible::CheckBox});
+            if (box->isChecked() != bool(heard.state.checked))
+                m_faults << what + "is not told to be checked";
+        }
+        else
+            expect({QAccessible::Table, QAccessible::Tree, QAccessible::List, QAccessible::PageTabList,
+                    QAccessible::EditableText, QAccessible::StaticText, QAccessible::Graphic, QAccessible::Client,
+                    QAccessible::Pane});
+    }
+
+    /// Presses Tab from the first editor on. Each that is enabled comes once, after those above it and left of it.
+    void GoThrough(const QString& where, QWidget& page, const std::vector<QWidget*>& editors)
+    {
+        QSet<QWidget*> open;
+        QWidget* first = nullptr;
+        for (QWidget* editor : editors)
+            if (const auto* radio = qobject_cast<QRadioButton*>(editor); // one of the group stands for it
+                editor->isEnabled() && (!radio || radio->isChecked()))
+            {
+                first = first ? first : editor;
+                open.insert(editor);
+            }
+        if (open.isEmpty())
+            return;
+        for (QWidget* before = first; (before = before->previousInFocusChain()) && page.isAncestorOf(before);)
+            if (open.contains(before))
+                first = before;
+        first->setFocus(Qt::TabFocusReason);
+        QWidget* last = nullptr;
+        QSet<QWidget*> met;
+        int steps = 0;
+        for (QWidget* focus = QApplication::focusWidget(); focus && page.isAncestorOf(focus);
+             focus = QApplication::focusWidget())
+        {
+            // Tab goes through the sections of a date and the cells of a list, and leaves behind the last.
+            const bool hasParts = qobject_cast<QDateTimeEdit*>(focus) || qobject_cast<QAbstractItemView*>(focus);
+            if (hasParts && focus == last && ++steps < mostSteps)
+            {
+                QTest::keyClick(focus, Qt::Key_Tab);
+                continue;
+            }
+            steps = 0;
+            if (met.contains(focus))
+            {
+                m_faults << where + ": " + Describe(*focus) + " comes twice";
+                break;
+            }
+            met.insert(focus);
+            open.remove(focus);
+            if (last && last->parentWidget() == focus->parentWidget())
+            {
+                const QPoint before = last->mapTo(&page, last->rect().center());
+                const QPoint here = focus->mapTo(&page, focus->rect().center());
+                const int line = focus->fontMetrics().height();
+                const bool isAbove = here.y() < before.y() - line / 2;
+                const bool isBeside = std::abs(here.y() - before.y()) <= line / 2;
+                if ((isAbove && here.x() < before.x() + line) || (isBeside && here.x() < before.x()))
+                    m_faults
+                        << QString("%1: from %2 Tab goes back to %3").arg(where, Describe(*last), Describe(*focus));
+            }
+            last = focus;
+            QTest::keyClick(focus, Qt::Key_Tab);
+        }
+        for (const QWidget* left : open)
+            m_faults << where + ": " + Describe(*left) + " is not reached by Tab";
+    }
+
+    /// Each dialog of each kind of node once, tab by tab.
+    void ForEachTab(Opened opened, const std::function<void(const QString& where, QWidget& page)>& visit)
+    {
+        std::set<QString> seen;
+        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        {
+            if (!seen.insert(node.type + QString::number(int(node.band))).second)
+                continue;
+            const std::unique_ptr<QTabWidget> dialog =
+                opened == Opened::Panels    ? MakePanels(node, FindDirectPanels(node), nullptr)
+                : opened == Opened::JobForm ? MakeDialog(node, Form::Job, nullptr)
+                                            : MakeDialog(node, Form::StandAlone, nullptr);
+            if (!dialog || dialog->count() == 0)
+                continue;
+            dialog->resize(dialog->sizeHint());
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+            for (int tab = 0; tab < dialog->count(); ++tab)
+            {
+                dialog->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                visit(node.type + '/' + dialog->tabText(tab), *dialog->currentWidget());
+            }
+        }
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QLocale::setDefault(QLocale::C);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory.path());
+        QAccessible::setActive(true);
+    }
+
+    void init()
+    {
+        m_faults.clear();
+        m_editor = std::make_unique<Editor>();
+        QVERIFY(m_editor->window.NewFromSample());
+    }
+
+    void cleanup()
+    {
+        NightColours::Switch(false);
+        m_editor.reset();
+        Tree::Instance()->Clear();
+    }
+
+    void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab_data()
+    {
+        QTest::addColumn<Opened>("opened");
+        QTest::addColumn<int>("atLeast");
+        QTest::newRow("job form") << Opened::JobForm << 500;
+        QTest::newRow("stand-alone form") << Opened::StandAloneForm << 500;
+        QTest::newRow("panels") << Opened::Panels << 50;
+    }
+    void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab()
+    {
+        QFETCH(Opened, opened);
+        QFETCH(int, atLeast);
+        size_t count = 0;
+        ForEachTab(opened,
+                   [&](const QString& where, QWidget& page)
+                   {
+                       const std::vector<QWidget*> editors = EditorsIn(page);
+                       for (QWidget* editor : editors)
+                           Listen(where, *editor);
+                       GoThrough(where, page, editors);
+                       count += editors.size();
+                   });
+        qInfo("%zu editors", count);
+        Verdict();
+        QVERIFY(count > size_t(atLeast));
+    }
+
+    void theWindowAndItsPanesSayWhatTheyAreAndHold()
+    {
+        for (QDockWidget* dock : m_editor->window.findChildren<QDockWidget*>())
+            dock->show();
+        m_editor->window.OfferHint();
+        m_editor->window.Nodes().SelectNode(tunerPath);
+        QCoreApplication::processEvents();
+        const std::vector<QWidget*> editors = EditorsIn(m_editor->window);
+        for (QWidget* editor : editors)
+            Listen("window", *editor);
+        for (const QDockWidget* dock : m_editor->window.findChildren<QDockWidget*>())
+            if (dock->windowTitle().isEmpty())
+                m_faults << Describe(*dock) + " has no title";
+        Verdict();
+        QVERIFY(editors.size() > 30);
+    }
+
+    void whatIsMarkedIsSeenInBothPalettes_data()
+    {
+        QTest::addColumn<bool>("night");
+        QTest::newRow("light") << false;
+        QTest::newRow("night") << true;
+    }
+    void whatIsMarkedIsSeenInBothPalettes()
+    {
+        QFETCH(bool, night);
+        NightColours::Switch(night);
+        QCoreApplication::processEvents(); // reaches the widgets
+        const QPalette palette = QApplication::palette();
+        const auto look = [&](const QString& what, const QImage& image, QPalette::ColorRole background)
+        {
+            if (const double contrast = MostContrast(image, palette.color(background)); contrast < 3)
+                m_faults << QString("%1 has a contrast of %2").arg(what).arg(contrast);
+        };
+        const auto mark = [&](bool fromSaved, bool fromDefault)
+        {
+            QImage image(ChangeMark::width, 20, QImage::Format_RGB32);
+            image.fill(palette.color(QPalette::Window));
+            QPainter painter(&image);
+            ChangeMark{fromSaved, fromDefault}.Paint(painter, image.rect(), palette);
+            return image;
+        };
+        look("the mark of a value that is not saved", mark(true, false), QPalette::Window);
+        look("the mark of a value that is not the default", mark(false, true), QPalette::Window);
+        for (const auto icon : {QStyle::SP_MessageBoxCritical, QStyle::SP_MessageBoxWarning})
+            look("a sign of the check", QApplication::style()->standardIcon(icon).pixmap(16).toImage(), QPalette::Base);
+
+        const QTreeView& nodes = *m_editor->window.Nodes().View();
+        const auto* model = nodes.model();
+        QImage dimmed(100, 20, QImage::Format_RGB32);
+        dimmed.fill(palette.color(QPalette::Base));
+        QPainter painter(&dimmed);
+        painter.fillRect(dimmed.rect(),
+                         model->index(0, 0, model->index(0, 0)).data(Qt::ForegroundRole).value<QBrush>());
+        painter.end();
+        look("a node without a dialog", dimmed, QPalette::Base);
+
+        m_editor->TypeFrequency("nonsense");
+        QLineEdit* field = m_editor->FrequencyField();
+        QTest::keyClick(field, Qt::Key_Return);
+        const QImage refused = field->grab().toImage();
+        const QColor frame = refused.pixelColor(refused.width() / 2, 0);
+        QVERIFY(frame.red() > frame.green() * 2);
+        for (const auto role : {QPalette::Window, QPalette::Base})
+            if (const double contrast = Contrast(frame, palette.color(role)); contrast < 3)
+                m_faults << QString("the frame of a refused entry has a contrast of %1").arg(contrast);
+        Verdict();
+    }
+};
+
+QTEST_MAIN(TestAccessibility)
+#include "test_accessibility.moc"
