@@ -5,9 +5,10 @@ if(NOT ROOT)
 endif()
 
 # A layer may include itself and the layers named here. The list goes from the bottom to the top.
-set(layers application value keys exciter jobmodel valuewidgets ipcparam jobedit)
+set(layers application value storage keys exciter jobmodel valuewidgets ipcparam jobedit)
 set(sees_application)
 set(sees_value application)
+set(sees_storage application value)
 set(sees_keys ${sees_value} value)
 set(sees_exciter ${sees_keys} keys)
 set(sees_jobmodel ${sees_exciter})

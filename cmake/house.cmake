@@ -6,6 +6,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-Wshadow=local)
     add_compile_options(-fpch-preprocess) # lets a compiler cache see through the compiled headers
 endif()
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    add_compile_options(-Wno-subobject-linkage) # takes each source for a header
+endif()
 if(IPCPARAM_WERROR)
     add_compile_options(-Werror)
 endif()
@@ -46,18 +49,19 @@ function(house_install target set)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} # until 1.0 any minor version may change the interface
-        DEFINE_SYMBOL "")
+        DEFINE_SYMBOL ""
+        IPCPARAM_OWN_STORAGE ${IPCPARAM_SHARED}) # a shared library leaves the storage to the program
     install(TARGETS ${target} EXPORT ${set}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 endfunction()
 
-# house_library(<target> [LINKS ...]): a library of the platform, of all sources in the current folder.
+# house_library(<target> [LINKS ...] [LINKS_PRIVATE ...]): a library of the platform, of all sources in the current folder.
 function(house_library target)
-    cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "LINKS;LINKS_PRIVATE" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
     add_library(${target} ${sources})
-    target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    target_link_libraries(${target} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_LINKS_PRIVATE})
     set_target_properties(${target} PROPERTIES OUTPUT_NAME ipcparam-${target})
     house_install(${target} platform)
     if(Qt6::Widgets IN_LIST ARG_LINKS)

@@ -19,6 +19,9 @@ namespace TKE
 ///
 /// Ownership: the tree owns nodes and values. What is removed is first out of reach of Find, then reports state 1, then
 /// is deleted; who hears of it may remove more, and nothing is deleted before the outermost removal ends.
+///
+/// A host may bring a storage of its own: what is not defined here makes up the library `storage`, and docs/storage.md
+/// says how to put another in its place.
 class Tree
 {
 public:
@@ -89,10 +92,8 @@ private:
         QStringView name;
     };
     static Place Split(QStringView path);
-    static bool DeleteSome(std::vector<std::unique_ptr<Node>>& branches);
     Node* EnsureNode(QStringView prefix);
     bool Insert(Node& node, std::unique_ptr<ValueBase> value);
-    ValueBase* Make(Node& node, const QString& name, const ValueDescriptor& descriptor);
     template <class V> V* Add(Node& node, std::unique_ptr<V> value)
     {
         V* raw = value.get();

@@ -8,7 +8,7 @@ namespace TKE
 
 /// A value whose content is a T. Format converts between content and text (and checks the range), Stream between
 /// content and the stored form of files.
-template <class T, class Format, class Stream> class Value final : public ValueBase
+template <class T, class Format, class Stream> class Q_DECL_EXPORT Value final : public ValueBase
 {
 public:
     using Content = T;

@@ -2,6 +2,7 @@
 
 #include "value/node.h"
 #include "value/value.h"
+#include "value/valueselection.h"
 
 #include <QCoreApplication>
 #include <array>
@@ -35,6 +36,30 @@ bool ValueDescriptor::Refuse(double number, QString* reason) const
         *reason = QCoreApplication::translate("TKE::ValueDescriptor", "%1 is more than %2")
                       .arg(shown(number), shown(*maximum));
     return false;
+}
+
+std::unique_ptr<ValueBase> ValueBase::Make(const QString& name, const ValueDescriptor& descriptor)
+{
+    switch (descriptor.kind)
+    {
+    case ValueKind::Bool:
+        return std::make_unique<BoolValue>(name, descriptor);
+    case ValueKind::Int:
+        return std::make_unique<IntValue>(name, descriptor);
+    case ValueKind::Double:
+        return std::make_unique<DoubleValue>(name, descriptor);
+    case ValueKind::Frequency:
+        return std::make_unique<FrequencyValue>(name, descriptor);
+    case ValueKind::Text:
+        return std::make_unique<TextValue>(name, descriptor);
+    case ValueKind::DateTime:
+        return std::make_unique<DateTimeValue>(name, descriptor);
+    case ValueKind::DoubleList:
+        return std::make_unique<DoubleListValue>(name, descriptor);
+    case ValueKind::Selection:
+        return std::make_unique<ValueSelection>(name, descriptor);
+    }
+    return nullptr;
 }
 
 QString ValueBase::GetPathName() const

@@ -5,6 +5,7 @@
 #include "value/valuedescriptor.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -41,9 +42,15 @@ using JournalHook = std::function<void(const JournalEntry&)>;
 /// after a write unless you know better.
 ///
 /// Lifetime: a value that goes away first reports state 1 (released), so that every holder forgets it.
-class ValueBase : public Observable
+///
+/// Exported by itself, since a library that hides what it does not export would else have a journal of its own.
+class Q_DECL_EXPORT ValueBase : public Observable
 {
 public:
+    /// A value of the type that the descriptor's kind asks for, with an empty content and outside the tree. What holds
+    /// for the constructor's arguments holds here. Null for a kind that there is not.
+    static std::unique_ptr<ValueBase> Make(const QString& name, const ValueDescriptor& descriptor);
+
     static void* operator new(size_t size) { return TreeMemory::Take(size); }
     static void operator delete(void* piece, size_t size) { TreeMemory::Give(piece, size); }
 

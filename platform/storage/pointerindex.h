@@ -1,6 +1,6 @@
 #pragma once
 
-#include "value/texthash.h"
+#include "storage/texthash.h"
 
 #include <memory>
 

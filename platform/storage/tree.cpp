@@ -1,7 +1,7 @@
 #include "value/tree.h"
 
+#include "storage/pointerindex.h"
 #include "value/idledisposal.h"
-#include "value/pointerindex.h"
 
 #include <QStringBuilder>
 #include <QVarLengthArray>
@@ -95,6 +95,23 @@ struct Tree::Index
     std::vector<std::unique_ptr<Node>> removedNodes;
     std::vector<std::unique_ptr<ValueBase>> removedValues;
 
+    // Some values or a node of the last branch. Whether there is more.
+    static bool DeleteSome(std::vector<std::unique_ptr<Node>>& branches)
+    {
+        constexpr size_t mostValues = 1000;
+        if (branches.empty())
+            return false;
+        auto* siblings = &branches;
+        while (!siblings->back()->m_nodes.empty())
+            siblings = &siblings->back()->m_nodes;
+        auto& values = siblings->back()->m_values;
+        if (values.size() > mostValues)
+            values.resize(values.size() - mostValues);
+        else
+            siblings->pop_back();
+        return true;
+    }
+
     // Of the look-up.
     void TakeOut(const Node& node)
     {
@@ -187,6 +204,8 @@ Node* Tree::CreateNode(QStringView path, const QString& type)
 
 bool Tree::Insert(Node& node, std::unique_ptr<ValueBase> value)
 {
+    if (!value)
+        return false;
     value->m_node = &node;
     const QStringView name = value->GetName();
     if (!m_index->values.Insert(value.get(), HashOfValue(node.m_hash, name),
@@ -207,54 +226,23 @@ ValueBase* Tree::CreateValue(Node& node, QStringView name, const ValueDescriptor
 {
     if (name.contains(u'/'))
         return CreateValue(QString(node.m_prefix % name), descriptor);
-    ValueBase* value = Make(node, Intern(name), descriptor);
-    if (value)
-        value->SetToDefault();
-    return value;
+    return Add(node, ValueBase::Make(Intern(name), descriptor));
 }
 
 ValueBase* Tree::CreateValue(Node& node, const QString& name, const ValueDescriptor& descriptor,
                              std::string_view content)
 {
-    ValueBase* value = Make(node, name, descriptor);
-    if (value)
-        value->SetStored(content);
-    return value;
+    auto value = ValueBase::Make(name, descriptor);
+    ValueBase* raw = value.get();
+    if (!Insert(node, std::move(value)))
+        return nullptr;
+    raw->SetStored(content);
+    return raw;
 }
 
 void Tree::Expect(const Node& node, const QString& name) const
 {
     m_index->values.Prefetch(HashOfValue(node.m_hash, name));
-}
-
-ValueBase* Tree::Make(Node& node, const QString& name, const ValueDescriptor& descriptor)
-{
-    const auto make = [&]<class V>(std::type_identity<V>) -> ValueBase*
-    {
-        auto value = std::make_unique<V>(name, descriptor);
-        ValueBase* raw = value.get();
-        return Insert(node, std::move(value)) ? raw : nullptr;
-    };
-    switch (descriptor.kind)
-    {
-    case ValueKind::Bool:
-        return make(std::type_identity<BoolValue>());
-    case ValueKind::Int:
-        return make(std::type_identity<IntValue>());
-    case ValueKind::Double:
-        return make(std::type_identity<DoubleValue>());
-    case ValueKind::Frequency:
-        return make(std::type_identity<FrequencyValue>());
-    case ValueKind::Text:
-        return make(std::type_identity<TextValue>());
-    case ValueKind::DateTime:
-        return make(std::type_identity<DateTimeValue>());
-    case ValueKind::DoubleList:
-        return make(std::type_identity<DoubleListValue>());
-    case ValueKind::Selection:
-        return make(std::type_identity<ValueSelection>());
-    }
-    return nullptr;
 }
 
 namespace
@@ -312,24 +300,7 @@ void Tree::ClearLater()
     auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(std::exchange(m_index->topNodes, {}));
     for (const auto& node : *remains)
         node->Release();
-    IdleDisposal::Add([remains] { return DeleteSome(*remains); });
-}
-
-// Some values or a node of the last branch. Whether there is more.
-bool Tree::DeleteSome(std::vector<std::unique_ptr<Node>>& branches)
-{
-    constexpr size_t mostValues = 1000;
-    if (branches.empty())
-        return false;
-    auto* siblings = &branches;
-    while (!siblings->back()->m_nodes.empty())
-        siblings = &siblings->back()->m_nodes;
-    auto& values = siblings->back()->m_values;
-    if (values.size() > mostValues)
-        values.resize(values.size() - mostValues);
-    else
-        siblings->pop_back();
-    return true;
+    IdleDisposal::Add([remains] { return Index::DeleteSome(*remains); });
 }
 
 void Tree::Reserve(size_t values)
