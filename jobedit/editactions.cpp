@@ -19,7 +19,7 @@ EditActions::EditActions(MainWindow& window) : QObject(&window), m_window(window
     m_redo->setObjectName("redo");
     m_undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    auto* acts = new UserActs(history, &history);
+    auto* acts = new UserActs(history, this);
     for (QAction* action : {m_undo, m_redo})
     {
         action->setShortcutContext(Qt::ApplicationShortcut);
