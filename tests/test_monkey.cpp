@@ -78,6 +78,7 @@ public:
             void (Monkey::*run)();
         };
         static constexpr std::array acts{
+            Act{"edit", 40, &Monkey::Edit},      Act{"structure", 5, &Monkey::Structure},
             Act{"key", 40, &Monkey::Key},        Act{"click", 25, &Monkey::Click},    Act{"wheel", 10, &Monkey::Wheel},
             Act{"node", 10, &Monkey::Node},      Act{"tab", 8, &Monkey::Tab},         Act{"undo", 8, &Monkey::Undo},
             Act{"redo", 5, &Monkey::Redo},       Act{"dock", 3, &Monkey::Dock},       Act{"form", 3, &Monkey::SwitchForm},
@@ -187,6 +188,47 @@ private:
         focus = focus ? focus : &Window();
         Note(QKeySequence(key).toString() + " to " + focus->metaObject()->className() + ' ' + focus->objectName());
         QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+    }
+    // A field of the dialog, as somebody who means it.
+    void Edit()
+    {
+        QList<QWidget*> fields;
+        const QTabWidget* dialog = Window().Dialog().GetDialog();
+        for (QWidget* widget : dialog ? dialog->findChildren<QWidget*>() : QList<QWidget*>())
+            if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
+                fields << widget;
+        if (fields.isEmpty())
+            return;
+        QPointer<QWidget> field = Any(fields);
+        Note(QString("%1 %2").arg(field->metaObject()->className(), field->objectName()));
+        field->setFocus();
+        if (Below(3) == 0)
+            QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        constexpr std::array keys{Qt::Key_Up,   Qt::Key_Down, Qt::Key_Space,  Qt::Key_1, Qt::Key_7,
+                                  Qt::Key_0,    Qt::Key_K,    Qt::Key_Period, Qt::Key_Minus,
+                                  Qt::Key_Home, Qt::Key_Tab,  Qt::Key_Return, Qt::Key_PageUp};
+        for (size_t count = 1 + Below(4); field && count-- > 0;)
+            QTest::keyClick(field, Any(keys));
+    }
+    void Structure()
+    {
+        Settle();
+        if (Window().Nodes().GetNodes().empty())
+            return;
+        const JobNode node = Any(Window().Nodes().GetNodes());
+        const QString name = "MONKEY " + QString::number(Below(30));
+        const size_t what = Below(5);
+        Note(QString::number(what) + ' ' + node.path);
+        const QString path = node.path.chopped(1);
+        QString reason;
+        if (what == 0)
+            Document().RemoveNode(path, &reason);
+        else if (what == 1)
+            Document().RenameNode(path, name, &reason);
+        else if (what == 2)
+            Document().AddNode(path, {.name = name, .type = "CS", .groups = {"G_TUNER_HF", "G_JOB"}}, &reason);
+        else
+            Document().DuplicateNode(path, name, &reason);
     }
     void Click()
     {
