@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         const NodeTemplate values(model, spec);
         Tree tree;
         for (const NodeTemplate::Entry& entry : values.GetEntries())
-            tree.CreateValue(QStringLiteral("/A/") + entry.name, *entry.descriptor);
+            tree.CreateValue(QStringLiteral("/A/") + *entry.name, *entry.descriptor);
     }
     return 0;
 }

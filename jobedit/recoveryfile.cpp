@@ -96,7 +96,7 @@ RecoveryBase RecoveryBase::Of(const QString& fileName)
 {
     RecoveryBase base{.file = fileName};
     QFile file(fileName);
-    if (fileName.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) // to open a pipe would wait
         return base;
     base.size = file.size();
     base.changed = QFileInfo(fileName).lastModified().toString(Qt::ISODateWithMs);
@@ -117,17 +117,21 @@ bool RecoveryBase::HasChanged() const
 
 RecoveryFile RecoveryFile::Read(const QString& fileName)
 {
-    RecoveryFile read;
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile)
-    {
-        ++read.damaged;
-        return read;
-    }
+    if (QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly) && file.size() <= longestFile)
+        return Read(file);
+    RecoveryFile unreadable;
+    unreadable.damaged = 1;
+    return unreadable;
+}
+
+RecoveryFile RecoveryFile::Read(QIODevice& device)
+{
+    RecoveryFile read;
     QSet<qint64> undone;
-    while (!file.atEnd())
+    while (!device.atEnd())
     {
-        const QByteArray line = file.readLine();
+        const QByteArray line = device.readLine();
         const auto object = line.endsWith('\n') ? ObjectOfLine(QByteArrayView(line).chopped(1)) : std::nullopt;
         if (const auto base = object ? BaseOf(*object) : std::nullopt)
         {

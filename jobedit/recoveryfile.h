@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+class QIODevice;
+
 namespace JOBEDIT
 {
 
@@ -53,6 +55,7 @@ struct RecoveryFile
 
     /// Never fails: what cannot be read counts as damaged.
     static RecoveryFile Read(const QString& fileName);
+    static RecoveryFile Read(QIODevice& device);
 
     static QByteArray LineOf(const RecoveryBase& base);
     static QByteArray LineOf(const RecoveryChange& change);

@@ -4,7 +4,6 @@
 #include "ipcparam/parameterdlg.h"
 #include "valuewidgets/valuelink.h"
 
-#include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 
@@ -84,7 +83,8 @@ bool UserActs::IsForJob(const QWidget& receiver, const QKeyEvent& event) const
     const QKeySequence keys(event.keyCombination());
     const bool isAction =
         std::any_of(m_actions.begin(), m_actions.end(),
-                    [&](const QAction* action) { return action->isEnabled() && action->shortcuts().contains(keys); });
+                    [&](const QPointer<QAction>& action)
+                    { return action && action->isEnabled() && action->shortcuts().contains(keys); });
     for (const QWidget* each = isAction ? &receiver : nullptr; each; each = each->parentWidget())
         if (qobject_cast<const TKE::ParameterDlg*>(each))
             return true;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 
-class QAction;
 class QKeyEvent;
 class QWidget;
 
@@ -35,7 +36,7 @@ private:
     void OnWheel(QWidget& receiver);
 
     EditHistory& m_history;
-    QList<QAction*> m_actions;
+    QList<QPointer<QAction>> m_actions; // which go with their menus, somewhat earlier
     QString m_field; // path of the value whose field had the key or the wheel
     int m_key = 0;   // 0: it was the wheel
     QElapsedTimer m_sinceWheel;

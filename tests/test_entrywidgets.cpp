@@ -1,6 +1,7 @@
 #include "application/errorhandler.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/guicentral.h"
+#include "valuewidgets/numericvalue.h"
 #include "valuewidgets/vcdatetimeedit.h"
 #include "valuewidgets/vcfrequency.h"
 #include "valuewidgets/vclineedit.h"
@@ -48,6 +49,9 @@ private slots:
         row("1e3", german, 1000);
         row(".5", german, 0.5);
         row("5,", german, 5);
+        const QLocale arabic(QLocale::Arabic, QLocale::Egypt);
+        row(arabic.toString(-7.5), arabic, -7.5); // with signs of its own, and a mark of direction
+        row(arabic.toString(1234567), arabic, 1234567);
         for (const char* text :
              {"1.234", "12.34.567", "1.2.3", "1.234,5,6", "1,234 5", "12 34", ",", "", "nan", "1e999", "0x10", "--1"})
             row(text, german, refused); // 1.234 is 1234 or 1,234
@@ -65,6 +69,30 @@ private slots:
             QCOMPARE(*number, expected);
         else if (!read)
             QVERIFY(!reason.isEmpty());
+    }
+
+    void whatNoValueCanHoldExactlyIsRefused_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("factor");
+        QTest::newRow("integer") << int(ValueKind::Int) << "2147483648" << 1.0;
+        QTest::newRow("frequency that ends the whole numbers") << int(ValueKind::Frequency) << "9223372036854775807" << 1.0;
+        QTest::newRow("frequency without end") << int(ValueKind::Frequency) << "1e300" << 0.3;
+        QTest::newRow("infinite after the factor") << int(ValueKind::Double) << "1e308" << 0.3;
+        QTest::newRow("infinite") << int(ValueKind::Double) << "1e999" << 1.0;
+    }
+    void whatNoValueCanHoldExactlyIsRefused()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, text);
+        QFETCH(double, factor);
+        Tree tree;
+        const ValueBase* value = tree.CreateValue(u"/A/value", ValueDescriptor::Plain(ValueKind(kind)));
+        double stored = 0;
+        QString reason;
+        QVERIFY(!NumericValue::Read(*value, text, factor, german, stored, reason));
+        QVERIFY(!reason.isEmpty());
     }
 
     void frequenciesAreReadAndShownInExactHertz_data()

@@ -26,6 +26,7 @@ bool IsBlankSeparator(char16_t c)
     case u'\u2009': // thin space
     case u'\u202f': // narrow no-break space
     case u'\u2019': // right quotation mark
+    case u'\u066c': // what groups Arabic digits
         return true;
     default:
         return false;
@@ -113,10 +114,16 @@ std::optional<Decimal> Decimal::Read(const QString& text, const QLocale& locale,
         return {};
     };
 
-    // Digits of any script, one kind of minus.
+    // Digits of any script, one kind of minus, the decimal point of Arabic digits as a dot. The marks of the writing
+    // direction, which come with a minus there, mean nothing.
     std::u16string typed;
     for (const QChar c : text.trimmed())
-        typed += c.isDigit() ? char16_t(u'0' + c.digitValue()) : c == u'\u2212' ? u'-' : c.unicode();
+    {
+        if (c.isDigit())
+            typed += char16_t(u'0' + c.digitValue());
+        else if (c.category() != QChar::Other_Format)
+            typed += c == u'\u2212' ? u'-' : c == u'\u066b' ? u'.' : c.unicode();
+    }
     if (typed.empty())
     {
         reason = Tr("A number is missing");

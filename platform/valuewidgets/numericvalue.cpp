@@ -30,6 +30,20 @@ bool IsWhole(const ValueBase& value)
     return value.GetKind() != ValueKind::Double;
 }
 
+// The largest number that a value of this kind holds and a double holds exactly.
+double LimitOf(const ValueBase& value)
+{
+    switch (value.GetKind())
+    {
+    case ValueKind::Int:
+        return std::numeric_limits<int>::max();
+    case ValueKind::Frequency:
+        return double(qint64(1) << std::numeric_limits<double>::digits);
+    default:
+        return std::numeric_limits<double>::infinity();
+    }
+}
+
 QString NotWhole(const QString& typed)
 {
     return QCoreApplication::translate("TKE::NumericValue", "\"%1\" is not a whole number").arg(typed);
@@ -50,6 +64,8 @@ std::optional<double> ToStored(const Decimal& shown, bool whole, double factor)
     if (!number)
         return {};
     const double stored = *number / factor;
+    if (!std::isfinite(stored))
+        return {};
     if (!whole)
         return stored;
     // A factor such as 0.3 does not divide exactly.
@@ -97,15 +113,13 @@ bool NumericValue::Set(ValueBase& value, double stored, const IObserver* exclude
 
 double NumericValue::GetMinimum(const ValueBase& value)
 {
-    const double kind =
-        value.GetKind() == ValueKind::Int ? std::numeric_limits<int>::min() : -std::numeric_limits<double>::infinity();
+    const double kind = value.GetKind() == ValueKind::Int ? std::numeric_limits<int>::min() : -LimitOf(value);
     return std::max(value.GetDescriptor().minimum.value_or(kind), kind);
 }
 
 double NumericValue::GetMaximum(const ValueBase& value)
 {
-    const double kind =
-        value.GetKind() == ValueKind::Int ? std::numeric_limits<int>::max() : std::numeric_limits<double>::infinity();
+    const double kind = LimitOf(value);
     return std::min(value.GetDescriptor().maximum.value_or(kind), kind);
 }
 
@@ -133,7 +147,8 @@ bool NumericValue::Read(const ValueBase& value, const QString& typed, double fac
     const auto number = ToStored(*shown, IsWhole(value), factor);
     if (!number)
     {
-        reason = NotWhole(text);
+        reason = IsWhole(value) ? NotWhole(text)
+                                : QCoreApplication::translate("TKE::NumericValue", "\"%1\" is too large").arg(text);
         return false;
     }
     stored = *number;
