@@ -30,7 +30,7 @@ constexpr qsizetype checksumSize = 4;
 constexpr qint64 hashedBytes = 64 * 1024;
 constexpr qint64 longestFile = qint64(1) << 30;
 
-QByteArray ChecksumOf(QByteArrayView json)
+QByteArray ChecksumOf(const QByteArray& json)
 {
     return QByteArray::number(qChecksum(json), 16).rightJustified(checksumSize, '0');
 }
@@ -41,14 +41,14 @@ QByteArray LineOfObject(const QJsonObject& object)
     return ChecksumOf(json) + ' ' + json + '\n';
 }
 
-std::optional<QJsonObject> ObjectOfLine(QByteArrayView line)
+std::optional<QJsonObject> ObjectOfLine(const QByteArray& line)
 {
-    if (line.size() < checksumSize + 2 || line[checksumSize] != ' ')
+    if (line.size() < checksumSize + 3 || line[checksumSize] != ' ' || !line.endsWith('\n'))
         return {};
-    const QByteArrayView json = line.sliced(checksumSize + 1);
-    if (ChecksumOf(json) != line.first(checksumSize))
+    const QByteArray json = line.mid(checksumSize + 1, line.size() - checksumSize - 2);
+    if (ChecksumOf(json) != line.left(checksumSize))
         return {};
-    const QJsonDocument document = QJsonDocument::fromJson(json.toByteArray());
+    const QJsonDocument document = QJsonDocument::fromJson(json);
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 
@@ -128,7 +128,7 @@ RecoveryFile RecoveryFile::Read(const QString& fileName)
     while (!file.atEnd())
     {
         const QByteArray line = file.readLine();
-        const auto object = line.endsWith('\n') ? ObjectOfLine(QByteArrayView(line).chopped(1)) : std::nullopt;
+        const auto object = ObjectOfLine(line);
         if (const auto base = object ? BaseOf(*object) : std::nullopt)
         {
             read.base = base;

@@ -15,7 +15,7 @@ namespace
 
 constexpr int areaHeight = 220; // pixels
 constexpr int groupsPerRow = 2;
-constexpr int listRows = 5; // grid rows that the row of a list takes
+constexpr int gridRowsOfList = 5; // grid rows that the row of a list takes
 constexpr int areaStretch = 100;
 constexpr int pageWidth = 720; // pixels, what a page of the host has room for at its least width
 
@@ -60,7 +60,7 @@ void WDEPanel::BuildChannels(const char* noun, std::initializer_list<const Param
         for (const Parameter* parameter : parameters)
         {
             BuildRow(grid, m_channelValues.emplace_back(this), *parameter, channelRow, 0, RowSettings(false));
-            channelRow += parameter->IsDoubleList() ? listRows : 1;
+            channelRow += parameter->IsDoubleList() ? gridRowsOfList : 1;
         }
     }
     SetBasePath(basePath);
