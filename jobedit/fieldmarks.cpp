@@ -19,7 +19,7 @@ namespace JOBEDIT
 namespace
 {
 
-const char* const settingsKey = "markChangedFields";
+const char* const markFieldsKey = "markChangedFields";
 
 } // namespace
 
@@ -27,7 +27,7 @@ FieldMarks::FieldMarks(MainWindow& window)
     : QObject(&window), m_window(window), m_action(window.ViewMenu()->addAction(tr("&Mark Changed Fields")))
 {
     m_action->setCheckable(true);
-    m_action->setChecked(QSettings().value(settingsKey, true).toBool());
+    m_action->setChecked(QSettings().value(markFieldsKey, true).toBool());
     m_action->setStatusTip(
         tr("A filled bar marks a field that differs from the saved file, an outlined one a field that differs from "
            "its default."));
@@ -62,7 +62,7 @@ void FieldMarks::Mark(QTabWidget* dialog)
 
 void FieldMarks::Slot_OnToggled(bool on)
 {
-    QSettings().setValue(settingsKey, on);
+    QSettings().setValue(markFieldsKey, on);
     for (MarkOverlay* overlay : m_window.findChildren<MarkOverlay*>())
         overlay->setVisible(on);
 }

@@ -11,7 +11,7 @@ namespace JOBEDIT
 namespace
 {
 
-const char* const settingsKey = "hint/unwanted";
+const char* const unwantedKey = "hint/unwanted";
 
 } // namespace
 
@@ -32,7 +32,7 @@ HintBar::HintBar(QWidget* parent) : QFrame(parent)
     auto* close = new QPushButton(tr("&Close"), this);
     for (QPushButton* button : {never, close})
         connect(button, &QPushButton::clicked, this, &QWidget::hide);
-    connect(never, &QPushButton::clicked, this, [] { QSettings().setValue(settingsKey, true); });
+    connect(never, &QPushButton::clicked, this, [] { QSettings().setValue(unwantedKey, true); });
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 3, 3, 3);
@@ -44,7 +44,7 @@ HintBar::HintBar(QWidget* parent) : QFrame(parent)
 
 void HintBar::Offer()
 {
-    setVisible(!QSettings().value(settingsKey, false).toBool());
+    setVisible(!QSettings().value(unwantedKey, false).toBool());
 }
 
 } // namespace JOBEDIT

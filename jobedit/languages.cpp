@@ -12,7 +12,7 @@ namespace JOBEDIT
 namespace
 {
 
-const char* const settingsKey = "language";
+const char* const languageKey = "language";
 
 } // namespace
 
@@ -35,12 +35,12 @@ Languages::Languages(QWidget* parent) : QMenu(parent)
 
 QString Languages::GetChoice()
 {
-    return QSettings().value(settingsKey).toString();
+    return QSettings().value(languageKey).toString();
 }
 
 void Languages::Keep(const QString& language)
 {
-    QSettings().setValue(settingsKey, language);
+    QSettings().setValue(languageKey, language);
 }
 
 void Languages::Apply(const QString& language)

@@ -11,7 +11,7 @@ namespace JOBEDIT
 namespace
 {
 
-const char* const settingsKey = "nightColours";
+const char* const nightColoursKey = "nightColours";
 
 QPalette NightPalette()
 {
@@ -37,12 +37,12 @@ QPalette NightPalette()
 
 bool NightColours::AreOn()
 {
-    return QSettings().value(settingsKey, false).toBool();
+    return QSettings().value(nightColoursKey, false).toBool();
 }
 
 void NightColours::Switch(bool on)
 {
-    QSettings().setValue(settingsKey, on);
+    QSettings().setValue(nightColoursKey, on);
     // Native styles draw their own colours; this one takes those it is given.
     if (on)
         QApplication::setStyle("Fusion");

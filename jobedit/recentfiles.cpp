@@ -10,7 +10,7 @@ namespace JOBEDIT
 namespace
 {
 
-const char* const settingsKey = "recentFiles";
+const char* const recentFilesKey = "recentFiles";
 
 } // namespace
 
@@ -23,7 +23,7 @@ RecentFiles::RecentFiles(QWidget* parent) : QMenu(parent)
 
 QStringList RecentFiles::GetFiles()
 {
-    return QSettings().value(settingsKey).toStringList();
+    return QSettings().value(recentFilesKey).toStringList();
 }
 
 void RecentFiles::Add(const QString& fileName)
@@ -32,14 +32,14 @@ void RecentFiles::Add(const QString& fileName)
     QStringList files = GetFiles();
     files.removeAll(file);
     files.prepend(file);
-    QSettings().setValue(settingsKey, files.mid(0, MaximumCount));
+    QSettings().setValue(recentFilesKey, QStringList(files.mid(0, MaximumCount)));
 }
 
 void RecentFiles::Remove(const QString& fileName)
 {
     QStringList files = GetFiles();
     files.removeAll(fileName);
-    QSettings().setValue(settingsKey, files);
+    QSettings().setValue(recentFilesKey, files);
 }
 
 void RecentFiles::Fill()
@@ -60,7 +60,7 @@ void RecentFiles::Fill()
     if (files.isEmpty())
         addAction(tr("No files yet"))->setEnabled(false);
     addSeparator();
-    addAction(tr("&Clear List"), this, [] { QSettings().remove(settingsKey); })->setEnabled(!files.isEmpty());
+    addAction(tr("&Clear List"), this, [] { QSettings().remove(recentFilesKey); })->setEnabled(!files.isEmpty());
 }
 
 } // namespace JOBEDIT

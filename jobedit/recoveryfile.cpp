@@ -43,7 +43,7 @@ QByteArray LineOfObject(const QJsonObject& object)
 
 std::optional<QJsonObject> ObjectOfLine(const QByteArray& line)
 {
-    if (line.size() < checksumSize + 3 || line[checksumSize] != ' ' || !line.endsWith('\n'))
+    if (line.size() < checksumSize + 3 || line.at(checksumSize) != ' ' || !line.endsWith('\n'))
         return {};
     const QByteArray json = line.mid(checksumSize + 1, line.size() - checksumSize - 2);
     if (ChecksumOf(json) != line.left(checksumSize))
@@ -75,7 +75,7 @@ std::optional<RecoveryBase> BaseOf(const QJsonObject& object)
 {
     if (object["recovery"].toInt() != 1)
         return {};
-    return RecoveryBase{object["file"].toString(), object["size"].toInteger(), object["changed"].toString(),
+    return RecoveryBase{object["file"].toString(), object["size"].toVariant().toLongLong(), object["changed"].toString(),
                         object["hash"].toString(), object["begun"].toString()};
 }
 
@@ -86,7 +86,7 @@ std::optional<RecoveryChange> ChangeOf(const QJsonObject& object)
         std::ranges::find_if(names, [&](const auto& each) { return name == QLatin1String(each.second); });
     if (found == names.end())
         return {};
-    return RecoveryChange{found->first, object["step"].toInteger(), object["path"].toString(),
+    return RecoveryChange{found->first, object["step"].toVariant().toLongLong(), object["path"].toString(),
                           object["text"].toString(), SpecOf(object["spec"].toObject())};
 }
 
