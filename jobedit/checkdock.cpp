@@ -54,16 +54,16 @@ CheckDock::CheckDock(MainWindow& window)
     m_status->hide();
     window.statusBar()->addPermanentWidget(m_status);
 
-    window.ToolsMenu()->addAction(tr("&Check Job"), QKeySequence(Qt::Key_F7), this,
-                                  [this]
-                                  {
-                                      show();
-                                      raise();
-                                      if (height() < leastHeight && !isFloating())
-                                          m_window.resizeDocks({this}, {leastHeight}, Qt::Vertical);
-                                      m_list->setFocus(Qt::ShortcutFocusReason);
-                                      Start();
-                                  });
+    const auto check = [this]
+    {
+        show();
+        raise();
+        if (height() < leastHeight && !isFloating())
+            m_window.resizeDocks({this}, {leastHeight}, Qt::Vertical);
+        m_list->setFocus(Qt::ShortcutFocusReason);
+        Start();
+    };
+    window.ToolsMenu()->addAction(tr("&Check Job"), this, check)->setShortcut(Qt::Key_F7);
     QAction* show = toggleViewAction();
     show->setText(tr("C&heck"));
     window.ViewMenu()->addAction(show);

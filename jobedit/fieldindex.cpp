@@ -34,7 +34,7 @@ quint8 RankInLabel(const QString& label, const QString& word)
         if (at == 0)
             return LabelBegins;
         else
-            rank = std::min<quint8>(rank, label[at - 1].isLetterOrNumber() ? LabelHolds : LabelWord);
+            rank = std::min<quint8>(rank, label.at(at - 1).isLetterOrNumber() ? LabelHolds : LabelWord);
     return rank;
 }
 
@@ -127,7 +127,8 @@ FieldIndex::Result FieldIndex::Find(const QString& text, qsizetype limit)
             if (result.paths.size() >= limit)
                 break;
         }
-    result.paths.resize(std::min(result.paths.size(), limit));
+    if (result.paths.size() > limit)
+        result.paths.erase(result.paths.begin() + limit, result.paths.end());
     return result;
 }
 

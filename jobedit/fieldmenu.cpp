@@ -31,7 +31,7 @@ void AddLine(QMenu& menu, const QString& line)
 {
     QString text = line.simplified();
     if (text.size() > longestLine)
-        text = text.first(longestLine - 1) + QChar(0x2026);
+        text = text.left(longestLine - 1) + QChar(0x2026);
     menu.addAction(Escaped(text))->setEnabled(false);
 }
 

@@ -59,7 +59,7 @@ FindBar::FindBar(MainWindow& window)
 
     window.installEventFilter(this);
     m_text->installEventFilter(this);
-    window.EditMenu()->addAction(tr("&Find Field..."), QKeySequence::Find, this, &FindBar::Open);
+    window.EditMenu()->addAction(tr("&Find Field..."), this, &FindBar::Open)->setShortcut(QKeySequence::Find);
     connect(m_text, &QLineEdit::textEdited, this, &FindBar::Search);
     connect(m_text, &QLineEdit::returnPressed, this, &FindBar::Go);
     connect(m_hits, &QTreeView::activated, this, &FindBar::Go);

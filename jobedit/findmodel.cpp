@@ -43,9 +43,9 @@ QVariant FindModel::data(const QModelIndex& index, int role) const
     case ColumnContent:
         return value ? FieldTexts::Content(*value) : QVariant();
     case ColumnNode:
-        return path.first(qMax<qsizetype>(slash, 0));
+        return path.left(qMax<qsizetype>(slash, 0));
     default:
-        return path.sliced(slash + 1);
+        return path.mid(slash + 1);
     }
 }
 

@@ -154,7 +154,7 @@ TKE::Node* LargeJob::Copy(const TKE::Node& source, const QString& parentPath, co
 
 void LargeJob::CopyValues(const TKE::Node& source, qsizetype prefix, const TKE::Node& copy)
 {
-    const QStringView place = QStringView(source.GetBasePath()).sliced(prefix);
+    const QStringView place = QStringView(source.GetBasePath()).mid(prefix);
     if (const TKE::Node* target = m_tree.FindNode(copy.GetBasePath() + place.toString()))
     {
         for (const auto& value : source.GetValues())

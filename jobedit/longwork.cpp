@@ -1,5 +1,7 @@
 #include "longwork.h"
 
+#include "application/qtcompat.h"
+
 #include <QApplication>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -139,7 +141,7 @@ bool LongWork::IsOwn(const QObject* object) const
 
 bool LongWork::IsOnPanel(const QEvent& press) const
 {
-    const QPoint place = static_cast<const QMouseEvent&>(press).globalPosition().toPoint();
+    const QPoint place = QtCompat::GlobalPlace(static_cast<const QMouseEvent&>(press)).toPoint();
     return m_panel && m_panel->rect().contains(m_panel->mapFromGlobal(place));
 }
 

@@ -82,7 +82,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     m_recovery = new RecoveryOffer(*this);
     new ValuesDock(*this);
     connect(new FileDrop(*this), &FileDrop::Dropped, this, &MainWindow::OpenFile);
-    m_helpMenu->addAction(tr("&Guide"), QKeySequence::HelpContents, this, [this] { GuideWindow::Open(this); });
+    m_helpMenu->addAction(tr("&Guide"), this, [this] { GuideWindow::Open(this); })->setShortcut(QKeySequence::HelpContents);
     m_helpMenu->addAction(tr("&About Job Editor"), this, &MainWindow::Slot_OnAbout);
     new FindBar(*this);
     new CheckDock(*this);
@@ -260,17 +260,17 @@ void MainWindow::MakePanes()
 void MainWindow::FillFileMenu()
 {
     QMenu* menu = m_fileMenu;
-    menu->addAction(tr("&New from Sample"), QKeySequence::New, this, &MainWindow::NewFromSample);
-    menu->addAction(tr("&Open..."), QKeySequence::Open, this, &MainWindow::Slot_OnOpen);
+    menu->addAction(tr("&New from Sample"), this, &MainWindow::NewFromSample)->setShortcut(QKeySequence::New);
+    menu->addAction(tr("&Open..."), this, &MainWindow::Slot_OnOpen)->setShortcut(QKeySequence::Open);
     auto* recent = new RecentFiles(menu);
     connect(recent, &RecentFiles::Chosen, this, &MainWindow::OpenFile);
     menu->addMenu(recent);
     menu->addAction(tr("Re&cover Edits..."), this, [this] { m_recovery->OfferAgain(); });
     menu->addSeparator();
-    menu->addAction(tr("&Save"), QKeySequence::Save, this, &MainWindow::Save);
-    menu->addAction(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this, &MainWindow::SaveAs);
+    menu->addAction(tr("&Save"), this, &MainWindow::Save)->setShortcut(QKeySequence::Save);
+    menu->addAction(tr("Save &As..."), this, &MainWindow::SaveAs)->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+    menu->addAction(tr("&Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL | Qt::Key_Q);
 }
 
 void MainWindow::FillNodeMenu()
@@ -280,12 +280,13 @@ void MainWindow::FillNodeMenu()
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::FillPanelMenu);
     connect(m_nodes, &NodePane::MenuRequested, menu, [menu](const QPoint& position) { menu->popup(position); });
     menu->addSeparator();
-    menu->addAction(tr("&Filter..."), QKeySequence(Qt::CTRL | Qt::Key_L), m_nodes->Filter(),
-                    [filter = m_nodes->Filter()]
-                    {
-                        filter->setFocus(Qt::ShortcutFocusReason);
-                        filter->selectAll();
-                    });
+    QAction* toFilter = menu->addAction(tr("&Filter..."), m_nodes->Filter(),
+                                        [filter = m_nodes->Filter()]
+                                        {
+                                            filter->setFocus(Qt::ShortcutFocusReason);
+                                            filter->selectAll();
+                                        });
+    toFilter->setShortcut(Qt::CTRL | Qt::Key_L);
 }
 
 void MainWindow::Slot_OnOpen()

@@ -12,10 +12,41 @@
 namespace JOBEDIT
 {
 
+namespace
+{
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+/// Keeps what is below an accepted node, as later versions do on demand.
+class Filter : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+    void setAutoAcceptChildRows(bool) {}
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        return QSortFilterProxyModel::filterAcceptsRow(row, parent) ||
+               (parent.isValid() && filterAcceptsRow(parent.row(), parent.parent()));
+    }
+};
+#else
+using Filter = QSortFilterProxyModel;
+#endif
+
+QSortFilterProxyModel* NewFilter(QObject* parent)
+{
+    auto* filter = new Filter(parent);
+    filter->setAutoAcceptChildRows(true);
+    return filter;
+}
+
+} // namespace
+
 NodePane::NodePane(QWidget* parent)
     : QWidget(parent)
     , m_model(new NodeTreeModel(this))
-    , m_filtered(new QSortFilterProxyModel(this))
+    , m_filtered(NewFilter(this))
     , m_filter(new QLineEdit(this))
     , m_view(new QTreeView(this))
 {
@@ -23,7 +54,6 @@ NodePane::NodePane(QWidget* parent)
     m_filtered->setFilterKeyColumn(-1);
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filtered->setRecursiveFilteringEnabled(true);
-    m_filtered->setAutoAcceptChildRows(true);
 
     m_filter->setObjectName("nodeFilter");
     m_filter->setPlaceholderText(tr("Filter by name or type"));

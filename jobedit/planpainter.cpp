@@ -248,7 +248,7 @@ void PlanPainter::PaintHatching(QPainter& painter, const QRectF& box) const
     // Lines rising to the right, each cut to the box. They start at multiples of the distance, so that they stay where
     // they are while the box moves through the picture's edge.
     constexpr double distance = 6.0;
-    QList<QLineF> lines;
+    QVector<QLineF> lines;
     const double height = box.height();
     for (double x = std::ceil((box.left() - height) / distance) * distance; x < box.right(); x += distance)
     {

@@ -1,5 +1,7 @@
 #include "planview.h"
 
+#include "application/qtcompat.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
@@ -276,7 +278,7 @@ void PlanView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return event->ignore();
-    m_pressed = event->position().toPoint();
+    m_pressed = QtCompat::Place(*event).toPoint();
     m_pressedRange = GetRange();
     m_pressedTop = verticalScrollBar()->value();
     m_dragging = false;
@@ -286,7 +288,7 @@ void PlanView::mouseMoveEvent(QMouseEvent* event)
 {
     if (!(event->buttons() & Qt::LeftButton))
         return event->ignore();
-    const QPoint moved = event->position().toPoint() - m_pressed;
+    const QPoint moved = QtCompat::Place(*event).toPoint() - m_pressed;
     if (!m_dragging && moved.manhattanLength() < QApplication::startDragDistance())
         return;
     if (!m_dragging)
@@ -302,12 +304,12 @@ void PlanView::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return event->ignore();
     viewport()->unsetCursor();
-    const PlanLane* lane = m_dragging ? nullptr : m_painter.LaneOf(RowAt(event->position().toPoint()));
+    const PlanLane* lane = m_dragging ? nullptr : m_painter.LaneOf(RowAt(QtCompat::Place(*event).toPoint()));
     m_dragging = false;
     if (!lane)
         return;
     const QString path = lane->path; // who hears of it may bring a new plan
-    SelectRow(RowAt(event->position().toPoint()));
+    SelectRow(RowAt(QtCompat::Place(*event).toPoint()));
     emit NodeChosen(path);
 }
 

@@ -32,7 +32,7 @@ void RecentFiles::Add(const QString& fileName)
     QStringList files = GetFiles();
     files.removeAll(file);
     files.prepend(file);
-    QSettings().setValue(recentFilesKey, files.mid(0, MaximumCount));
+    QSettings().setValue(recentFilesKey, QStringList(files.mid(0, MaximumCount)));
 }
 
 void RecentFiles::Remove(const QString& fileName)

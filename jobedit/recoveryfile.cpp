@@ -30,7 +30,7 @@ constexpr qsizetype checksumSize = 4;
 constexpr qint64 hashedBytes = 64 * 1024;
 constexpr qint64 longestFile = qint64(1) << 30;
 
-QByteArray ChecksumOf(QByteArrayView json)
+QByteArray ChecksumOf(const QByteArray& json)
 {
     return QByteArray::number(qChecksum(json), 16).rightJustified(checksumSize, '0');
 }
@@ -41,14 +41,14 @@ QByteArray LineOfObject(const QJsonObject& object)
     return ChecksumOf(json) + ' ' + json + '\n';
 }
 
-std::optional<QJsonObject> ObjectOfLine(QByteArrayView line)
+std::optional<QJsonObject> ObjectOfLine(const QByteArray& line)
 {
-    if (line.size() < checksumSize + 2 || line[checksumSize] != ' ')
+    if (line.size() < checksumSize + 3 || line.at(checksumSize) != ' ' || !line.endsWith('\n'))
         return {};
-    const QByteArrayView json = line.sliced(checksumSize + 1);
-    if (ChecksumOf(json) != line.first(checksumSize))
+    const QByteArray json = line.mid(checksumSize + 1, line.size() - checksumSize - 2);
+    if (ChecksumOf(json) != line.left(checksumSize))
         return {};
-    const QJsonDocument document = QJsonDocument::fromJson(json.toByteArray());
+    const QJsonDocument document = QJsonDocument::fromJson(json);
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 
@@ -75,7 +75,7 @@ std::optional<RecoveryBase> BaseOf(const QJsonObject& object)
 {
     if (object["recovery"].toInt() != 1)
         return {};
-    return RecoveryBase{object["file"].toString(), object["size"].toInteger(), object["changed"].toString(),
+    return RecoveryBase{object["file"].toString(), object["size"].toVariant().toLongLong(), object["changed"].toString(),
                         object["hash"].toString(), object["begun"].toString()};
 }
 
@@ -86,7 +86,7 @@ std::optional<RecoveryChange> ChangeOf(const QJsonObject& object)
         std::ranges::find_if(names, [&](const auto& each) { return name == QLatin1String(each.second); });
     if (found == names.end())
         return {};
-    return RecoveryChange{found->first, object["step"].toInteger(), object["path"].toString(),
+    return RecoveryChange{found->first, object["step"].toVariant().toLongLong(), object["path"].toString(),
                           object["text"].toString(), SpecOf(object["spec"].toObject())};
 }
 
@@ -131,8 +131,7 @@ RecoveryFile RecoveryFile::Read(QIODevice& device)
     QSet<qint64> undone;
     while (!device.atEnd())
     {
-        const QByteArray line = device.readLine();
-        const auto object = line.endsWith('\n') ? ObjectOfLine(QByteArrayView(line).chopped(1)) : std::nullopt;
+        const auto object = ObjectOfLine(device.readLine());
         if (const auto base = object ? BaseOf(*object) : std::nullopt)
         {
             read.base = base;

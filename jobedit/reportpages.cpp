@@ -220,7 +220,7 @@ void ReportPages::AddCells(const std::vector<Cell>& cells, bool isMarked)
     for (const Cell& cell : cells)
     {
         lines.push_back(LinesOf(cell));
-        most = std::max(most, lines.back().size());
+        most = std::max<qsizetype>(most, lines.back().size());
         height = std::max(height, LineHeight(cell.font));
     }
     // What fits on a page is not torn; a longer text goes on line by line.

@@ -24,11 +24,11 @@ ReuseActions::ReuseActions(MainWindow& window) : QObject(&window), m_window(wind
 {
     QMenu* menu = window.EditMenu();
     menu->addSeparator();
-    menu->addAction(tr("Copy &Tab's Parameters"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this,
-                    &ReuseActions::CopyTab);
+    menu->addAction(tr("Copy &Tab's Parameters"), this, &ReuseActions::CopyTab)
+        ->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     QAction* copy = menu->addAction(tr("Copy C&hain's Parameters"), this, &ReuseActions::CopyChain);
-    QAction* paste = menu->addAction(tr("Past&e Parameters into Selected Chains"),
-                                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), this, &ReuseActions::Paste);
+    QAction* paste = menu->addAction(tr("Past&e Parameters into Selected Chains"), this, &ReuseActions::Paste);
+    paste->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
     window.NodeMenu()->addSeparator();
     window.NodeMenu()->addActions({copy, paste});
     m_presetMenu = menu->addMenu(tr("Preset&s"));

@@ -1,6 +1,7 @@
 #include "useracts.h"
 
 #include "edithistory.h"
+#include "application/qtcompat.h"
 #include "ipcparam/parameterdlg.h"
 #include "valuewidgets/valuelink.h"
 
@@ -80,7 +81,7 @@ bool UserActs::eventFilter(QObject* receiver, QEvent* event)
 
 bool UserActs::IsForJob(const QWidget& receiver, const QKeyEvent& event) const
 {
-    const QKeySequence keys(event.keyCombination());
+    const QKeySequence keys(QtCompat::Keys(event));
     const bool isAction =
         std::any_of(m_actions.begin(), m_actions.end(),
                     [&](const QPointer<QAction>& action)

@@ -31,9 +31,8 @@ ViewActions::ViewActions(MainWindow& window) : QObject(&window), m_window(window
     connect(languages, &Languages::Chosen, &window, &MainWindow::LanguageChosen);
     menu->addMenu(languages);
     menu->addSeparator();
-    menu->addAction(MainWindow::tr("&Next Pane"), QKeySequence(Qt::Key_F6), this, [this] { MovePane(1); });
-    menu->addAction(MainWindow::tr("&Previous Pane"), QKeySequence(Qt::SHIFT | Qt::Key_F6), this,
-                    [this] { MovePane(-1); });
+    menu->addAction(MainWindow::tr("&Next Pane"), this, [this] { MovePane(1); })->setShortcut(Qt::Key_F6);
+    menu->addAction(MainWindow::tr("&Previous Pane"), this, [this] { MovePane(-1); })->setShortcut(Qt::SHIFT | Qt::Key_F6);
 }
 
 void ViewActions::AddForms()
@@ -43,8 +42,8 @@ void ViewActions::AddForms()
     auto* forms = new QActionGroup(menu);
     const auto addForm = [&](const QString& text, Qt::Key key, Form form)
     {
-        QAction* action =
-            menu->addAction(text, QKeySequence(Qt::CTRL | key), dialog, [dialog, form] { dialog->SetForm(form); });
+        QAction* action = menu->addAction(text, dialog, [dialog, form] { dialog->SetForm(form); });
+        action->setShortcut(Qt::CTRL | key);
         action->setCheckable(true);
         action->setChecked(dialog->GetForm() == form);
         forms->addAction(action);

@@ -31,7 +31,7 @@ inline QString Prefix(bool vuhf)
 inline QHash<QString, QWidget*> EditorsOf(const QWidget& panel)
 {
     QHash<QString, QWidget*> editors;
-    for (QWidget* widget : panel.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+    for (QWidget* widget : panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (!widget->objectName().isEmpty())
             editors.insert(widget->objectName(), widget);
     return editors;

@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY2(findings[0].text.contains(says), qPrintable(findings[0].text));
         QCOMPARE(findings[0].severity == FileError::Severity::Error, isError);
         const qsizetype slash = path.lastIndexOf('/');
-        QVERIFY(findings[0].path.startsWith(path.first(slash)));
+        QVERIFY(findings[0].path.startsWith(path.left(slash)));
         QVERIFY(!findings[0].label.isEmpty());
 
         Value(findings[0].path)->SetState(stDisabled);

@@ -278,7 +278,7 @@ private Q_SLOTS:
         dialog->resize(dialog->sizeHint());
         QTRY_VERIFY(panel->mask().isEmpty());
         QVERIFY(panel->y() >= 40);
-        for (QScrollBar* bar : dialog->findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
+        for (QScrollBar* bar : dialog->findChildren<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly))
             QVERIFY(!bar->isVisible());
     }
 

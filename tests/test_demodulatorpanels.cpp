@@ -22,7 +22,7 @@ Place PlaceOf(const QWidget& panel, QWidget* widget)
 QList<Place> LinesOf(const QWidget& panel, QFrame::Shape shape)
 {
     QList<Place> places;
-    for (QLabel* label : panel.findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+    for (QLabel* label : panel.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         if (label->frameShape() == shape)
             places << PlaceOf(panel, label);
     return places;

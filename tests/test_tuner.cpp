@@ -68,7 +68,7 @@ private slots:
         const auto panel = Make();
         const Grid grid(*panel);
         QSet<QPair<int, int>> taken;
-        for (QWidget* widget : panel->findChild<QGroupBox*>()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        for (QWidget* widget : panel->findChild<QGroupBox*>()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         {
             const auto* label = qobject_cast<QLabel*>(widget);
             if (label && label->frameShape() != QFrame::NoFrame)

@@ -121,7 +121,7 @@ bool CommandJob::IsMatch(const QString& pattern, const QString& path) const
     return Matches(pattern, path) ||
            std::any_of(m_tops.begin(), m_tops.end(),
                        [&](const QString& top)
-                       { return path.startsWith(top) && Matches(pattern, QStringView(path).sliced(top.size())); });
+                       { return path.startsWith(top) && Matches(pattern, QStringView(path).mid(top.size())); });
 }
 
 void CommandJob::Collect(const TKE::Node& node, std::vector<TKE::ValueBase*>& values)

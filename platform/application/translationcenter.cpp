@@ -28,7 +28,12 @@ bool TranslationCenter::Install(const QLocale& locale)
     // By name and not by locale: the latter also tries the user's second and third language before the untranslated
     // texts.
     const QString language = locale.name();
-    Load(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString qtCatalogues = QLibraryInfo::location(QLibraryInfo::TranslationsPath); // path() with Qt 6
+#else
+    const QString qtCatalogues = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+    Load(QStringLiteral("qtbase_") + language, qtCatalogues);
     return Load(QStringLiteral("ipcparam_") + language, QStringLiteral(":/translations"));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "application/qtcompat.h"
 #include "jobmodel/jobmodel.h"
 
 #include <QStringList>

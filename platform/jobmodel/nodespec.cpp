@@ -12,7 +12,7 @@ QString NodeSpec::NameFault(bool top) const
         return QCoreApplication::translate("TKE::NodeSpec", "The name of the node is missing");
     QStringView path = name;
     if (top && path.startsWith(u'/'))
-        path = path.sliced(1);
+        path = path.mid(1);
     for (const QStringView segment : path.split(u'/'))
     {
         if (segment.isEmpty() || segment == u"." || segment == u"..")

@@ -109,8 +109,8 @@ void NodeTemplate::AddParameter(const Parameter& parameter, int channel, const N
         return;
     entry.descriptor = &parameter.GetValueDescriptor(channel);
     entry.defaultText = entry.descriptor->defaultText.toStdString();
-    entry.name = &Tree::Intern(QStringView(paths.tree).sliced(slash + 1));
-    entry.home = HomeOf(QStringView(paths.tree).first(slash + 1), paths.absolute);
+    entry.name = &Tree::Intern(QStringView(paths.tree).mid(slash + 1));
+    entry.home = HomeOf(QStringView(paths.tree).left(slash + 1), paths.absolute);
     entry.slot = quint32(m_homes[entry.home].size++);
     entry.startsDisabled = parameter.StartsDisabled();
     entry.isPlain = std::all_of(entry.fileName.begin(), entry.fileName.end(),

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLatin1StringView>
+#include "application/qtcompat.h"
+
 #include <QString>
 
 /// @file

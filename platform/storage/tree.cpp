@@ -67,7 +67,7 @@ struct Tree::Index
                           [&](const Node& node)
                           {
                               const QStringView prefix = node.m_prefix;
-                              return prefix.size() == prefixSize && Same(prefix.first(path.size()), path);
+                              return prefix.size() == prefixSize && Same(prefix.left(path.size()), path);
                           });
     }
     ValueBase* Find(const Node& node, QStringView name, quint64 hash) const
@@ -151,7 +151,7 @@ Tree::Place Tree::Split(QStringView path)
     qsizetype end = path.size();
     while (end > 0 && path[end - 1] != u'/')
         --end;
-    return {path.first(end), path.sliced(end)};
+    return {path.left(end), path.mid(end)};
 }
 
 ValueBase* Tree::FindValue(QStringView path) const

@@ -14,7 +14,7 @@ void Node::Release()
 QStringView Node::GetName() const
 {
     const QStringView path = QStringView(m_prefix).chopped(m_prefix.isEmpty() ? 0 : 1);
-    return path.sliced(path.lastIndexOf(u'/') + 1);
+    return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
 } // namespace TKE

@@ -139,7 +139,7 @@ std::optional<Decimal> Decimal::Read(const QString& text, const QLocale& locale,
     if (const size_t e = typed.find_first_of(u"eE"); e != std::u16string::npos)
     {
         bool ok = false;
-        number.m_exponent = QStringView(typed).sliced(qsizetype(e) + 1).toInt(&ok);
+        number.m_exponent = QStringView(typed).mid(qsizetype(e) + 1).toInt(&ok);
         if (!ok || std::abs(number.m_exponent) > 1000)
             return refuse();
         typed.erase(e);

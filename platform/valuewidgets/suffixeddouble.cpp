@@ -55,16 +55,16 @@ bool SuffixedDouble::FromText(const QString& text, ESuffix unit, const QLocale& 
 {
     const QString typed = text.trimmed();
     qsizetype letters = 0;
-    while (letters < typed.size() && typed[typed.size() - 1 - letters].isLetter())
+    while (letters < typed.size() && typed.at(typed.size() - 1 - letters).isLetter())
         ++letters;
     if (letters > 0)
     {
-        const auto named = ReadUnit(typed.last(letters));
+        const auto named = ReadUnit(typed.right(letters));
         if (!named)
         {
             reason =
                 QCoreApplication::translate("TKE::SuffixedDouble", "\"%1\" is no unit of frequency (Hz, kHz, MHz, GHz)")
-                    .arg(typed.last(letters));
+                    .arg(typed.right(letters));
             return false;
         }
         unit = *named;

@@ -62,7 +62,7 @@ QString VCLineEdit::NumberAsText(double stored) const
 {
     QString number = Decimal::ToText(std::abs(stored * m_format->factor), m_format->decimals, locale());
     const qsizetype width = m_format->digits + (m_format->decimals > 0 ? m_format->decimals + 1 : 0);
-    number = number.rightJustified(width, locale().zeroDigit().front());
+    number = number.rightJustified(width, QString(locale().zeroDigit()).front());
     return m_format->prefix + (stored < 0 ? locale().negativeSign() : QString()) + number + m_format->suffix;
 }
 

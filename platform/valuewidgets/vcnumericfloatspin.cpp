@@ -166,7 +166,7 @@ QSize VCNumericFloatSpin::sizeHint() const
 {
     static HintCache shared;
     const auto length = [this](double limit) { return std::isfinite(limit) ? Shown(limit).size() : 10 + decimals(); };
-    const qsizetype characters = std::min(std::max(length(m_minimum), length(m_maximum)), longestHint);
+    const qsizetype characters = std::min<qsizetype>(std::max(length(m_minimum), length(m_maximum)), longestHint);
     const size_t look = size_t(characters) * 16 + size_t(buttonSymbols()) * 2 + size_t(hasFrame());
     return shared.Get(*this, look,
                       [&]

@@ -97,7 +97,7 @@ void DemodulatorDlg::ChainTabOrder()
     if (!before)
         return;
     // A widget made later comes last in the window; behind the top row is where this one belongs.
-    for (QWidget* widget : m_currentPanel->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+    for (QWidget* widget : m_currentPanel->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
     {
         if (!(widget->focusPolicy() & Qt::TabFocus))
             continue;

@@ -225,7 +225,7 @@ void ParameterDlg::MakeBuddy(QLabel* label, const QLayoutItem* item)
 QSize ParameterDlg::CachedHint(bool minimum) const
 {
     static QHash<size_t, QSize> hints;
-    const size_t look = qHashMulti(size_t(minimum), font(), style()->name(), logicalDpiX(), layoutDirection());
+    const size_t look = qHashMulti(size_t(minimum), font(), style()->objectName(), logicalDpiX(), layoutDirection());
     const size_t key = qHashMulti(look, m_signature, objectName());
     if (!isVisible())
     {

@@ -29,8 +29,8 @@ namespace
 
 constexpr Qt::Alignment rightCentred = Qt::AlignRight | Qt::AlignVCenter;
 constexpr Qt::Alignment leftCentred = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr int horizontalLine = QFrame::HLine | QFrame::Sunken;
-constexpr int verticalLine = QFrame::VLine | QFrame::Sunken;
+constexpr int horizontalLine = int(QFrame::HLine) | QFrame::Sunken;
+constexpr int verticalLine = int(QFrame::VLine) | QFrame::Sunken;
 
 // The frequency up to which the display unit is kHz, and up to which it is MHz (Hz).
 constexpr double kiloHertzLimit = 20000000.0;

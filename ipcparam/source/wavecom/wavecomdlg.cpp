@@ -58,7 +58,7 @@ QString CompositeKeyOf(const QString& modeName)
 
 QWidget* WidgetAt(const QGridLayout& grid, int row, int column)
 {
-    const QLayoutItem* item = grid.itemAtPosition(row, column);
+    QLayoutItem* item = grid.itemAtPosition(row, column);
     return item ? item->widget() : nullptr;
 }
 
