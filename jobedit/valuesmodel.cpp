@@ -71,9 +71,13 @@ QModelIndex ValuesModel::IndexOf(const QString& path) const
         return {};
     const auto branch = quint32(found - branches.begin());
     if (node == path)
-        return m_listing.isFlat || !branch
-                   ? QModelIndex()
-                   : createIndex(int(branches[found->parent].rowCount + found->position), 0, quintptr(found->parent));
+    {
+        const ValueListing::Branch& above = branches[found->parent];
+        // A branch without any row is not shown.
+        const bool isShown =
+            branch && found->position < above.branches.size() && above.branches[found->position] == branch;
+        return isShown ? createIndex(int(above.rowCount + found->position), 0, quintptr(found->parent)) : QModelIndex();
+    }
     // A flat list is sorted, the values of a branch stand together in a tree.
     const ValueListing::Branch& within = m_listing.isFlat ? branches.front() : *found;
     for (quint32 row = 0; row < within.rowCount; ++row)

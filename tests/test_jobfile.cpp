@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <sys/stat.h>
 
 using namespace TKE;
 
@@ -158,6 +159,8 @@ private slots:
         QTest::newRow("unknown item") << Job("<Value name=\"TUNER_HF_NB_GAIN_CTRL_METHOD\">77</Value>");
         QTest::newRow("newer version") << Job({}).replace("version=\"1\">", "version=\"2\" new=\"\">");
         QTest::newRow("values after nodes") << Job("<Node name=\"B\" type=\"\"/>" + Mgc("61"));
+        QTest::newRow("names of any kind") << Job(
+            "<Node name=\"a&#9;b&#10;&#13;\" type=\"&lt;\"/><Node name=\"\\..\\ \" type=\"\"/><Node name=\"\xE2\x80\xAE\" type=\"\"/>");
         QTest::newRow("stray text") << Job("stray" + Mgc("61") + "\xC3\xA4 &gt;&#13;");
     }
     void whatNobodyEditsKeepsItsBytes()
@@ -278,8 +281,24 @@ private slots:
         row("two bytes a character", QByteArray("\xFF\xFE<\0J\0o\0b\0/\0>\0", 14), 1, 1, nullptr, "UTF-16");
         row("document type", "<!DOCTYPE Job [<!ENTITY a \"b\">]>\n<Job version=\"1\">&a;</Job>", 1, 0, nullptr,
             "document type");
+        row("entities that grow",
+            "<!DOCTYPE Job [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
+            "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\">]>\n<Job version=\"1\">&c;</Job>",
+            1, 0, nullptr, "document type");
+        row("entity from outside", "<!DOCTYPE Job SYSTEM \"file:///dev/zero\">\n<Job version=\"1\"/>", 1, 0, nullptr,
+            "document type");
+        row("entity that nobody describes", Job(Mgc("&a;")), 3, 0, nullptr, "well-formed");
+        row("infinite", Job("\n" + Mgc("inf")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "inf");
+        row("beyond any number", Job("\n" + Mgc("1e999")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "1e999");
+        row("node upwards in a path", "<Job version=\"1\"><Node name=\"/Jobs/../A\" type=\"\"/></Job>", 1, 18, nullptr,
+            "..");
+        row("node with two names", Job("\n<Node name=\"B/C\" type=\"\"/>"), 4, 1, "/B/C", "more than one");
+        row("less than no count", Job({}, "count=\"-1\""), 3, 3, "", "-1");
+        row("count without end in digits", Job({}, "count=\"99999999999999999999\""), 3, 3, "", "99999999999999999999");
+        row("zero bytes", QByteArray(100000, '\0'), 1, 1, nullptr, "well-formed");
         row("depth of nodes", Job(QByteArray("<Node name=\"B\" type=\"\">").repeated(100000)), 3, 0, nullptr, "deep");
         row("depth of the unknown", Job(QByteArray("<x>").repeated(100000)), 3, 0, nullptr, "deep");
+        row("depth of a million", Job(QByteArray("<x>").repeated(1000000)), 3, 0, nullptr, "deep");
         row("length of an attribute", Job("<x a=\"" + QByteArray(9000000, 'a') + "\"/>"), 3, 0, nullptr, "longer");
         row("length of a text", Job(Mgc(QByteArray(17000000, 'a'))), 0, 0, "", "longer");
     }
@@ -318,6 +337,56 @@ private slots:
         QVERIFY(!m_error.reason.isEmpty());
         QVERIFY(JobFile::Check(m_directory.path()).first().IsError());
         QVERIFY(!m_job->Save(&m_error)); // there is nothing to save to
+    }
+
+    void whatIsNoFileIsRefusedAtOnce_data()
+    {
+        QTest::addColumn<QString>("name");
+        QVERIFY(mkfifo(qPrintable(Path("pipe")), 0600) == 0);
+        QVERIFY(QFile::link(Path("pipe"), Path("link to a pipe")));
+        for (const QString& name : {Path("pipe"), Path("link to a pipe"), m_directory.path(), QString("/dev/zero"),
+                                    QString("/dev/tty"), QString()})
+            QTest::newRow(qPrintable(QFileInfo(name).fileName())) << name;
+    }
+    void whatIsNoFileIsRefusedAtOnce()
+    {
+        QFETCH(QString, name);
+        QVERIFY(Load(Job(Mgc("61"))));
+        QVERIFY(!m_job->Load(name, &m_error)); // nor does it wait for what a pipe may bring
+        QVERIFY(!m_error.reason.isEmpty());
+        QCOMPARE(m_error.file, name);
+        QVERIFY(JobFile::Check(name).first().IsError());
+        if (!name.startsWith("/dev"))
+            QVERIFY(!m_job->SaveAs(name, &m_error));
+        QVERIFY(!m_error.reason.isEmpty());
+        QCOMPARE(m_job->ToUtf8(), Job(Mgc("61")));
+        QCOMPARE(m_job->GetFileName(), Path("a.job.xml"));
+    }
+
+    void aFileCutOffAnywhereChangesNothing()
+    {
+        const QByteArray whole = ReadAll(":/models/sample.job.xml");
+        const qsizetype end = whole.lastIndexOf('>');
+        QVERIFY(Load(Job(Mgc("61"))));
+        for (qsizetype size = 0; size <= end; size += size < 200 || size > end - 20 ? 1 : 61)
+        {
+            QVERIFY2(!Load(whole.first(size)), qPrintable(QString::number(size)));
+            QVERIFY(m_error.line > 0 && !m_error.reason.isEmpty());
+        }
+        QCOMPARE(m_job->ToUtf8(), Job(Mgc("61")));
+        QVERIFY(Load(whole));
+    }
+
+    void aSmallFileMakesNoMoreValuesThanMemoryHolds()
+    {
+        QByteArray nodes;
+        for (int node = 0; node < 400; ++node)
+            nodes += "<Node name=\"" + QByteArray::number(node) + "\" type=\"\" groups=\"G_WDE_RASTER\" count=\"1000\"/>\n";
+        m_job->SetMostValues(20000);
+        QVERIFY(!Load(Job("\n" + nodes)));
+        QVERIFY2(m_error.reason.contains("values"), qPrintable(m_error.ToText()));
+        QVERIFY(m_error.line > 3);
+        QVERIFY(!Value("/Jobs/A/0"));
     }
 
     void checkingFindsEverythingAndTouchesNothing()
@@ -457,6 +526,11 @@ private slots:
         QVERIFY(QFileInfo(Path("link.job.xml")).isSymLink());
         QCOMPARE(ReadBack("target.job.xml"), Job(Mgc("62")));
         QCOMPARE(ReadBack("link.job.xml~"), Job(Mgc("61")));
+        // One that leads nowhere yet, too.
+        QVERIFY(QFile::remove(Path("target.job.xml")));
+        QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
+        QVERIFY(QFileInfo(Path("link.job.xml")).isSymLink());
+        QCOMPARE(ReadBack("target.job.xml"), Job(Mgc("62")));
     }
 
     void aChangeOnDiskIsSeen()

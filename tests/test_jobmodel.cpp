@@ -152,16 +152,33 @@ private slots:
         row("Parameter name='P' kind='int' at='M' default='0' min='3'", "less");
         row("Parameter name='P' kind='int' at='M' default='5' min='9' max='3'", "max");
         row("Parameter name='P' kind='int' at='M' default='5' min='3x'", "3x");
+        for (const char* number : {"nan", "inf", "-inf", "1e999"})
+            for (const char* limit : {"min", "max", "step"})
+                row("Parameter name='P' kind='double' at='M' default='5' " + QByteArray(limit) + "='" + number + "'", limit);
+        row("Parameter name='P' kind='double' at='M' default='inf'", "default");
+        row("Parameter name='P' kind='int' at='M' default='5' precision='-1'", "precision");
+        row("Parameter name='P' kind='list' at='M' default='5' rows='2000000000'", "2000000000");
+        row("Parameter name='P' kind='int' at='M' default='99999999999'", "default");
         row("Parameter name='P' kind='int' at='Q' default='5'", "at");
         row("Parameter name='P' kind='int' at='N' default='5'", "perChannel");
         row("Parameter name='P' kind='int' at='M' default='5' control='7'", "control");
         row("Parameter name='P' kind='int' at='M' default='5' defaultPerChannel='5*n'", "5*n");
+        row("Parameter name='P' kind='frequency' at='M' default='5' defaultPerChannel='5+9223372036854775807*(n-1)'",
+            "9223372036854775807");
+        row("Parameter name='P' kind='int' at='M' default='5' defaultPerChannel='5+3000000*(n-1)'", "3000000");
         row("Parameter name='FIRST' kind='int' at='M' default='1'", "twice");
         row("Rule target='LAST' source='NOWHERE' equals='1'", "NOWHERE");
         row("Rule target='LAST' source='FIRST' equals='on'", "on");
         row("Colour", "Colour");
         QTest::newRow("cut off") << Parameters({}).chopped(22) << "well-formed" << 5;
         QTest::newRow("empty") << QByteArray() << "well-formed" << 0; // none of the rest is there
+        QTest::newRow("entities that grow")
+            << QByteArray("<!DOCTYPE JobModel [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"
+                          "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>")
+            << "document type" << 0;
+        QTest::newRow("attribute of megabytes")
+            << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>" << "longer" << 0;
+        QTest::newRow("no UTF-8") << QByteArray("<JobModel version=\"1\">\n\xE4\xE4</JobModel>") << "UTF-8" << 0;
         QTest::newRow("another root") << QByteArray("<Job version=\"1\"/>") << "Job" << 0;
         QTest::newRow("no group") << QByteArray("<JobModel version=\"1\"/>") << "no group" << 0;
     }

@@ -26,6 +26,17 @@ bool Fail(FileError* error, const QString& file, const QString& reason)
     return false;
 }
 
+// Opens it for reading, unless it is no file: to open a pipe would wait, and a device may go on for ever.
+bool Open(QFile& file, FileError* error)
+{
+    const QFileInfo info(file.fileName());
+    if (info.isDir())
+        return Fail(error, file.fileName(), JobFile::tr("This is a directory"));
+    if (info.exists() && !info.isFile())
+        return Fail(error, file.fileName(), JobFile::tr("This is no file but a pipe or a device"));
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || Fail(error, file.fileName(), file.errorString());
+}
+
 // Makes the current generation of `fileName` its backup, too. An older backup stays until the new one is whole.
 bool BackUp(const QString& fileName, QString& reason)
 {
@@ -75,11 +86,7 @@ bool JobFile::Load(const QString& fileName, FileError* error)
 {
     const Stamp stamp = StampOf(fileName);
     QFile file(fileName);
-    if (QFileInfo(fileName).isDir())
-        return Fail(error, fileName, tr("This is a directory"));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return Fail(error, fileName, file.errorString());
-    if (!Read(file, fileName, error))
+    if (!Open(file, error) || !Read(file, fileName, error))
         return false;
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_stamp = stamp;
@@ -115,6 +122,7 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error
         const JournalPause pause(m_tree);
         JobReader reader(fresh, m_tree, *layout, *GetModel(), shownName, JobReader::Purpose::Load);
         reader.SetProgress(m_progress);
+        reader.SetMostValues(m_mostValues);
         if (!reader.Read(device))
         {
             const auto& errors = reader.GetErrors();
@@ -141,6 +149,8 @@ bool JobFile::Save(FileError* error)
 
 bool JobFile::SaveAs(const QString& fileName, FileError* error)
 {
+    if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
+        return Fail(error, fileName, tr("There is something that is no file"));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Fail(error, fileName, file.errorString());
@@ -205,11 +215,7 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         model = JobModel::Load();
     FileError error;
     QFile file(fileName);
-    if (QFileInfo(fileName).isDir())
-        Fail(&error, fileName, tr("This is a directory"));
-    else if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        Fail(&error, fileName, file.errorString());
-    if (!error.reason.isEmpty())
+    if (!Open(file, &error))
         return {error};
 
     Tree tree;
@@ -219,6 +225,7 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         const JournalPause pause(tree);
         JobReader reader(tree, tree, *layout, *model, fileName, JobReader::Purpose::Check);
         reader.SetProgress(progress);
+        reader.SetMostValues(mostValues);
         reader.Read(file);
         errors = reader.GetErrors();
     }

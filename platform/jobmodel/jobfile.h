@@ -57,6 +57,9 @@ public:
     void SetModel(std::shared_ptr<const JobModel> model);
     const std::shared_ptr<const JobModel>& GetModel();
 
+    /// Files with more values are refused: a few letters may ask for thousands of them.
+    void SetMostValues(size_t values) { m_mostValues = values; }
+
     bool Load(const QString& fileName, FileError* error = nullptr);
     /// A new job like the compiled-in sample; it has no file name.
     bool LoadSample(FileError* error = nullptr);
@@ -65,7 +68,8 @@ public:
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
 
     /// Saves to the file that was loaded or saved last. The previous generation stays as "<file>~". Overwrites what
-    /// changed on disk meanwhile: ask GetDiskState before.
+    /// changed on disk meanwhile: ask GetDiskState before. A symbolic link stays one: what it leads to is replaced, and
+    /// the previous generation stands beside the link, under the name that the user knows.
     bool Save(FileError* error = nullptr);
     bool SaveAs(const QString& fileName, FileError* error = nullptr);
     /// The bytes that saving would write.
@@ -109,6 +113,7 @@ public:
     void VisitNodes(const NodeVisitor& visit) const;
 
 private:
+    static constexpr size_t mostValues = 10'000'000; // ten times what a large job has; some gigabytes
     struct Stamp
     {
         qint64 size = -1; // -1: no file
@@ -123,6 +128,7 @@ private:
     std::unique_ptr<JobLayout> m_layout;
     FileErrors m_warnings;
     Progress m_progress;
+    size_t m_mostValues = mostValues;
     QString m_fileName;
     Stamp m_stamp;
     std::unique_ptr<QLockFile> m_lock;

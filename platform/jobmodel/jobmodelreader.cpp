@@ -1,10 +1,12 @@
 #include "jobmodel/jobmodelreader.h"
 
+#include "jobmodel/nodespec.h"
 #include "value/format.h"
 #include "value/tree.h"
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace TKE
@@ -58,6 +60,15 @@ template <class Table> auto FindName(const Table& table, const char* name)
     const auto found =
         std::find_if(table.begin(), table.end(), [&](const auto& row) { return name && row.name == name; });
     return found != table.end() ? &*found : nullptr;
+}
+
+constexpr int mostRows = 1000; // of one parameter in a panel, and columns
+
+// Whether the default of every channel there may be is a number of that kind.
+bool IsWithinKind(ValueKind kind, qint64 first, qint64 step)
+{
+    const double furthest = std::abs(double(first)) + NodeSpec::maximumCount * std::abs(double(step));
+    return furthest < (kind == ValueKind::Int ? std::numeric_limits<int>::max() : 9e15);
 }
 
 bool IsNumber(ValueKind kind)
@@ -227,9 +238,13 @@ bool JobModelReader::ReadNumbers(Attributes attributes, Parameter& parameter)
     if (!ReadNumber(attributes, "min", minimum) || !ReadNumber(attributes, "max", maximum) ||
         !ReadNumber(attributes, "step", descriptor.step) || !ReadNumber(attributes, "precision", descriptor.precision))
         return false;
-    if (minimum == minimum)
+    // "nan" and "inf" are numbers to the reader, too.
+    for (const auto& [name, number] : {std::pair("min", minimum), std::pair("max", maximum), std::pair("step", descriptor.step)})
+        if (Find(attributes, name) && !std::isfinite(number))
+            return Refuse(name, Find(attributes, name));
+    if (Find(attributes, "min"))
         descriptor.minimum = minimum;
-    if (maximum == maximum)
+    if (Find(attributes, "max"))
         descriptor.maximum = maximum;
     if (minimum > maximum)
         return Refuse("max", Find(attributes, "max"));
@@ -246,6 +261,9 @@ bool JobModelReader::ReadRow(Attributes attributes, Parameter& parameter)
         !ReadNumber(attributes, "rows", parameter.m_rowCount) ||
         !ReadNumber(attributes, "columns", parameter.m_columnCount))
         return false;
+    for (const auto& [name, count] : {std::pair("rows", parameter.m_rowCount), std::pair("columns", parameter.m_columnCount)})
+        if (Find(attributes, name) && (count < 0 || count > mostRows))
+            return Refuse(name, Find(attributes, name));
     if (control < 0 || control > int(ControlType::Frequency))
         return Refuse("control", Find(attributes, "control"));
     parameter.m_controlType = ControlType(control);
@@ -317,7 +335,7 @@ bool JobModelReader::ReadDefault(Attributes attributes, Parameter& parameter)
     if (!whole || plus == std::string_view::npos || times == std::string_view::npos || times < plus ||
         times + 6 != expression.size() || !Stored::Read(expression.substr(0, plus), first, nullptr) ||
         !Stored::Read(expression.substr(plus + 1, times - plus - 1), parameter.m_channelStep, nullptr) ||
-        descriptor.defaultText != QString::number(first))
+        descriptor.defaultText != QString::number(first) || !IsWithinKind(descriptor.kind, first, parameter.m_channelStep))
         return Refuse("defaultPerChannel", perChannel);
     return true;
 }

@@ -183,6 +183,12 @@ void JobReader::StartNode(Attributes attributes)
     node->values = m_layout.TemplateFor(m_model, node->spec);
     for (const QString& group : node->values->GetUnknownGroups())
         ReportWarning(PathOf(node->spec.name), tr("The group \"%1\" is unknown").arg(group));
+    if (m_tree.ValueCount() + node->values->GetEntries().size() > m_mostValues)
+    {
+        ReportError(PathOf(node->spec.name), tr("The job has more than %1 values").arg(m_mostValues));
+        m_unknownDepth = 1;
+        return;
+    }
 
     node->lead = TakeGap(PieceBegin());
     node->startTag = Source(PieceBegin(), PieceEnd());

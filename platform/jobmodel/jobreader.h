@@ -3,6 +3,8 @@
 #include "jobmodel/joblayout.h"
 #include "jobmodel/xmlreader.h"
 
+#include <limits>
+
 namespace TKE
 {
 
@@ -23,6 +25,8 @@ public:
     /// afterwards.
     JobReader(Tree& tree, Tree& finalTree, JobLayout& layout, const JobModel& model, const QString& shownName,
               Purpose purpose);
+
+    void SetMostValues(size_t values) { m_mostValues = values; }
 
 private:
     // A node whose end tag is yet to come.
@@ -60,6 +64,7 @@ private:
     std::vector<OpenNode> m_open; // the root first
     qint64 m_taken = 0;           // the file is in the layout up to here
     size_t m_room = 0;            // values that the tree has room for
+    size_t m_mostValues = std::numeric_limits<size_t>::max();
     int m_unknownDepth = 0;       // how deep in an unknown element
 
     // The value being read.
