@@ -21,7 +21,7 @@ constexpr int roundsOfCorrection = 4;
 class EndOfAct : public QEvent
 {
 public:
-    explicit EndOfAct(quint64 act) : QEvent(QEvent::User), act(act) {}
+    explicit EndOfAct(quint64 ended) : QEvent(QEvent::User), act(ended) {}
     const quint64 act;
 };
 

@@ -34,6 +34,8 @@ struct PlanMark
     qint64 from;
     qint64 to;
     qint64 frequency; ///< the middle of a tuned bandwidth; -1 for a range
+
+    bool Meets(double low, double high) const { return double(from) <= high && low <= double(to); }
 };
 
 /// All that one chain does, in the order in which it is painted.

@@ -92,7 +92,7 @@ std::vector<const PlanMark*> PlanPainter::MarksAt(int row, double hertz, double 
     std::vector<const PlanMark*> found;
     if (const PlanLane* lane = LaneOf(row))
         for (const PlanMark& mark : lane->marks)
-            if (mark.from - reach <= hertz && hertz <= mark.to + reach && FrequencyPlan::IsOn(*lane, mark, m_band))
+            if (mark.Meets(hertz - reach, hertz + reach) && FrequencyPlan::IsOn(*lane, mark, m_band))
                 found.push_back(&mark);
     return found;
 }
@@ -192,7 +192,7 @@ void PlanPainter::PaintRow(QPainter& painter, const QRectF& area, const PlanScal
                                  QPointF(scale.XOf(tick.hertz), area.bottom()));
         painter.setRenderHint(QPainter::Antialiasing);
         for (const PlanMark& mark : lane.marks)
-            if (FrequencyPlan::IsOn(lane, mark, m_band) && mark.to >= scale.from && mark.from <= scale.to)
+            if (FrequencyPlan::IsOn(lane, mark, m_band) && mark.Meets(scale.from, scale.to))
                 PaintMark(painter, field, scale, mark);
         if (current)
         {

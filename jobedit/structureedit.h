@@ -22,7 +22,7 @@ public:
         Duplicate,
     };
 
-    StructureEdit(Kind kind, const QString& path) : kind(kind), path(WithoutSlash(path)) {}
+    StructureEdit(Kind ofKind, const QString& atPath) : kind(ofKind), path(WithoutSlash(atPath)) {}
 
     bool Undo(TKE::JobFile& file);
     bool Redo(TKE::JobFile& file);

@@ -37,6 +37,9 @@ struct JobNode
             Text,  ///< index into `texts`
             Node,  ///< index into `nodes`
         };
+        static constexpr quint32 maxIndex = (1U << 30) - 1; // of elements of at least four bytes: out of a file's reach
+        Piece(Kind itsKind, size_t itsIndex) : kind(itsKind), index(itsIndex & maxIndex) {}
+
         Kind kind : 2;
         quint32 index : 30;
     };
@@ -69,7 +72,7 @@ struct JobNode
     /// The blanks before a new element in this node, and those before an end tag that the node had no need of so far.
     std::string NewLead() const;
     std::string OwnLead() const;
-    void Add(Piece::Kind kind, size_t index) { content.push_back({kind, quint32(index)}); }
+    void Add(Piece::Kind kind, size_t index) { content.emplace_back(kind, index); }
 };
 
 /// A job as its file holds it.

@@ -253,7 +253,7 @@ Node* JobStructure::Duplicate(QStringView path, const QString& name, QString* re
     JobNode& copy = *copied;
     const auto piece = std::ranges::find_if(parent.content, [&](const JobNode::Piece& each)
                                             { return each.kind == JobNode::Piece::Node && each.index == original; });
-    parent.content.insert(piece + 1, {JobNode::Piece::Node, quint32(parent.nodes.size())});
+    parent.content.emplace(piece + 1, JobNode::Piece::Node, parent.nodes.size());
     parent.nodes.push_back(std::move(copied));
     size_t next = 0;
     Node* made = Make(copy, contents, next);
