@@ -1,6 +1,6 @@
 #!/bin/bash
-# make_docs.sh BUILD: makes the documents that are made from sources, and fails when one of them is out of step: BUILD/docs/formats.html,
-# the pictures of the user guide, and the reference where doxygen is installed.
+# make_docs.sh BUILD: puts all documents into BUILD/docs, with what is made from sources: the formats, the pictures of the user guide, and
+# the reference where doxygen is installed. Fails when one of them is out of step.
 set -euo pipefail
 build=$(realpath "$1")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -10,7 +10,7 @@ mkdir -p "$docs"
 bad=0
 cmake/make_formats.py "$docs/formats.html" || bad=1
 
-# The guide shows these dialogs: name of the picture, entry of `jobedit render`, beginning of the file that it writes.
+# picture NAME ENTRY FILE: one of the dialogs that `jobedit render` shows for ENTRY.
 rendered=$docs/rendered
 rm -rf "$rendered" "$docs/pictures"
 mkdir -p "$docs/pictures"
@@ -22,22 +22,18 @@ picture()
     cp "${files[0]}" "$docs/pictures/$1.png"
 }
 picture tuner TunerNBDlg TunerNBDlg_IPC_TUNER_HF_job_1 || bad=1
-picture scan TunerNBDlg TunerNBDlg_IPC_TUNER_HF_job_2 || bad=1
-picture job JobDlg JobDlg_JOB || bad=1
 QT_QPA_PLATFORM=offscreen "$build/jobedit/jobedit" new "$docs/sample.job.xml" --force >/dev/null
 QT_QPA_PLATFORM=offscreen "$build/jobedit/jobedit" plan "$docs/sample.job.xml" --out "$docs/pictures/plan.png" >/dev/null || bad=1
 rm -rf "$rendered" "$docs/sample.job.xml"
 
-# What the guide shows and what is made are the same.
-for name in $(grep -oP '\(pictures/\K[a-z]+(?=\.png\))' docs/userguide.md); do
-    [ -s "$docs/pictures/$name.png" ] || { echo "docs/userguide.md: there is no picture $name." >&2; bad=1; }
-done
+# The guide says by comments where its pictures go, so that it reads well without them too.
 cp docs/*.md docs/*.svg docs/*.png "$docs"
+sed -E 's/^<!-- picture ([a-z]+): (.*) -->$/![\2](pictures\/\1.png)/' docs/userguide.md > "$docs/userguide.md"
 
 # Links between the documents lead somewhere.
 for file in "$docs"/*.md; do
     for link in $(grep -oP '\]\(\K[^)#:]+(?=[)#])' "$file"); do
-        [ -e "$docs/$link" ] || [ -e "docs/$link" ] || { echo "$(basename "$file"): $link is not there." >&2; bad=1; }
+        [ -e "$docs/$link" ] || { echo "$(basename "$file"): $link is not there." >&2; bad=1; }
     done
 done
 

@@ -324,6 +324,23 @@ private Q_SLOTS:
         QVERIFY(editors.size() > 30);
     }
 
+    void aRefusedEntrySaysWhyUntilItIsTakenBack()
+    {
+        m_editor->TypeFrequency("7100000");
+        QLineEdit* field = m_editor->FrequencyField();
+        QTest::keyClick(field, Qt::Key_Return);
+        const auto description = [&]
+        { return QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description); };
+        QTRY_VERIFY(description().contains("saved file")); // a mark has been set
+        const QString marked = description();
+        m_editor->TypeFrequency("nonsense");
+        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(!field->toolTip().isEmpty());
+        QCOMPARE(description(), field->toolTip());
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(description(), marked);
+    }
+
     void whatIsMarkedIsSeenInBothPalettes_data()
     {
         QTest::addColumn<bool>("night");
