@@ -326,7 +326,7 @@ private Q_SLOTS:
 
     void aRefusedEntrySaysWhyUntilItIsTakenBack()
     {
-        m_editor->TypeFrequency("7100000");
+        m_editor->TypeFrequency("7.1M");
         QLineEdit* field = m_editor->FrequencyField();
         QTest::keyClick(field, Qt::Key_Return);
         const auto description = [&]
