@@ -324,6 +324,62 @@ private Q_SLOTS:
         QVERIFY(editors.size() > 30);
     }
 
+    void everyDialogThatACommandOpensSaysWhatItIsAndHolds_data()
+    {
+        QTest::addColumn<QString>("command");
+        for (const char* command : {"Add Chain...", "Rename...", "Duplicate...", "Manage Presets...", "Report...",
+                                    "Compare with Saved...", "Guide", "About Job Editor"})
+            QTest::newRow(command) << command;
+    }
+    void everyDialogThatACommandOpensSaysWhatItIsAndHolds()
+    {
+        QFETCH(QString, command);
+        m_editor->window.Nodes().SelectNode(tunerPath.chopped(int(qstrlen("TUNER/"))));
+        QVERIFY(m_editor->window.SaveTo(m_directory.filePath("a.job.xml")));
+        size_t count = 0;
+        QTimer reader;
+        reader.callOnTimeout(
+            [&]
+            {
+                for (QWidget* window : QApplication::topLevelWidgets())
+                    if (auto* dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())
+                    {
+                        const std::vector<QWidget*> editors = EditorsIn(*dialog);
+                        count += editors.size();
+                        for (QWidget* editor : editors)
+                            Listen(command, *editor);
+                        if (dialog->windowTitle().isEmpty())
+                            m_faults << "the dialog has no title";
+                        dialog->reject();
+                    }
+            });
+        reader.start(10);
+        for (QMenu* menu : m_editor->window.findChildren<QMenu*>())
+            emit menu->aboutToShow();
+        for (QAction* action : m_editor->window.findChildren<QAction*>())
+            if (action->text().remove('&') == command && count == 0)
+                action->trigger();
+        QTRY_VERIFY2(count > 0, "no dialog has come up");
+        Verdict();
+    }
+
+    void aRefusedEntrySaysWhyUntilItIsTakenBack()
+    {
+        m_editor->TypeFrequency("7.1M");
+        QLineEdit* field = m_editor->FrequencyField();
+        QTest::keyClick(field, Qt::Key_Return);
+        const auto description = [&]
+        { return QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description); };
+        QTRY_VERIFY(description().contains("saved file")); // a mark has been set
+        const QString marked = description();
+        m_editor->TypeFrequency("nonsense");
+        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(!field->toolTip().isEmpty());
+        QCOMPARE(description(), field->toolTip());
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(description(), marked);
+    }
+
     void whatIsMarkedIsSeenInBothPalettes_data()
     {
         QTest::addColumn<bool>("night");

@@ -120,10 +120,12 @@ void TextEntry::ShowText(const QString& text)
 void TextEntry::Refuse(const QString& reason)
 {
     if (m_refusal.isEmpty())
+    {
         m_toolTip = GetWidget()->toolTip();
+        m_description = GetWidget()->accessibleDescription();
+    }
     m_refusal = reason;
-    GetWidget()->setToolTip(reason);
-    GetWidget()->update();
+    Explain(reason, reason);
     OnRefused(reason);
 }
 
@@ -132,8 +134,15 @@ void TextEntry::Accept()
     if (m_refusal.isEmpty())
         return;
     m_refusal.clear();
-    GetWidget()->setToolTip(m_toolTip);
-    GetWidget()->update();
+    Explain(m_toolTip, m_description);
+}
+
+void TextEntry::Explain(const QString& toolTip, const QString& description)
+{
+    QWidget* widget = GetWidget();
+    widget->setToolTip(toolTip);
+    widget->setAccessibleDescription(description); // tells readers
+    widget->update();
 }
 
 void TextEntry::PaintRefusal() const

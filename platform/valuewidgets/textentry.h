@@ -12,7 +12,7 @@ namespace TKE
 
 /// A value link whose widget is typed into. Return and leaving the field write what was typed, Escape shows again what
 /// the tree holds. An entry that cannot be taken stays as it was typed, marked by a red frame and with the reason as
-/// tool tip; the value is left alone.
+/// tool tip and for assistive technology; the value is left alone.
 class TextEntry : public ValueLink
 {
 public:
@@ -67,10 +67,12 @@ private:
     void Restore();
     void ShowText(const QString& text);
     void Accept();
+    void Explain(const QString& toolTip, const QString& description);
 
     QString m_shown; // what the field was given to show; anything else in it is an edit
     QString m_refusal;
-    QString m_toolTip; // the widget's own, while that of the refusal stands in its place
+    QString m_toolTip; // the widget's own, while those of the refusal stand in their place
+    QString m_description;
 };
 
 } // namespace TKE
