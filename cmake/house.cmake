@@ -6,6 +6,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-Wshadow=local)
     add_compile_options(-fpch-preprocess) # lets a compiler cache see through the compiled headers
 endif()
+# The packages are built several sources at once, so names in anonymous namespaces are unique in their target.
 if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-Wno-subobject-linkage) # takes each source for a header
 endif()

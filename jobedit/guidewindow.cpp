@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 // The guide stands in a static library. The macro wants to be outside of any namespace.
-static void InitResources()
+static void InitGuide()
 {
     Q_INIT_RESOURCE(jobedit_docs);
 }
@@ -25,7 +25,7 @@ void GuideWindow::Open(QWidget* parent)
 
 GuideWindow::GuideWindow(QWidget* parent) : QDialog(parent)
 {
-    InitResources();
+    InitGuide();
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Guide"));
     QFile file(":/docs/userguide.md");

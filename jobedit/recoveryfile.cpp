@@ -17,15 +17,15 @@ namespace JOBEDIT
 namespace
 {
 
-using Kind = RecoveryChange::Kind;
+using ChangeKind = RecoveryChange::Kind;
 
-constexpr std::array<std::pair<Kind, const char*>, 7> names{{{Kind::Value, "value"},
-                                                             {Kind::Add, "add"},
-                                                             {Kind::Remove, "remove"},
-                                                             {Kind::Rename, "rename"},
-                                                             {Kind::Duplicate, "duplicate"},
-                                                             {Kind::Undo, "undo"},
-                                                             {Kind::Redo, "redo"}}};
+constexpr std::array<std::pair<ChangeKind, const char*>, 7> names{{{ChangeKind::Value, "value"},
+                                                                   {ChangeKind::Add, "add"},
+                                                                   {ChangeKind::Remove, "remove"},
+                                                                   {ChangeKind::Rename, "rename"},
+                                                                   {ChangeKind::Duplicate, "duplicate"},
+                                                                   {ChangeKind::Undo, "undo"},
+                                                                   {ChangeKind::Redo, "redo"}}};
 constexpr qsizetype checksumSize = 4;
 constexpr qint64 hashedBytes = 64 * 1024;
 constexpr qint64 longestFile = qint64(1) << 30;
@@ -140,9 +140,9 @@ RecoveryFile RecoveryFile::Read(QIODevice& device)
         const auto change = object ? ChangeOf(*object) : std::nullopt;
         if (!change)
             ++read.damaged;
-        else if (change->kind == Kind::Undo)
+        else if (change->kind == ChangeKind::Undo)
             undone.insert(change->step);
-        else if (change->kind == Kind::Redo)
+        else if (change->kind == ChangeKind::Redo)
             undone.remove(change->step);
         else
             read.changes.push_back(*change);
@@ -163,13 +163,13 @@ QByteArray RecoveryFile::LineOf(const RecoveryBase& base)
 
 QByteArray RecoveryFile::LineOf(const RecoveryChange& change)
 {
-    const auto name = std::ranges::find(names, change.kind, &std::pair<Kind, const char*>::first);
+    const auto name = std::ranges::find(names, change.kind, &std::pair<ChangeKind, const char*>::first);
     QJsonObject object{{"kind", name->second}, {"step", change.step}};
     if (!change.path.isNull())
         object["path"] = change.path;
     if (!change.text.isNull())
         object["text"] = change.text;
-    if (change.kind == Kind::Add)
+    if (change.kind == ChangeKind::Add)
         object["spec"] = ObjectOf(change.spec);
     return LineOfObject(object);
 }

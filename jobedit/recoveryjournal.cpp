@@ -20,27 +20,27 @@ namespace
 constexpr int delay = 500;             // ms from an edit to its writing
 constexpr size_t recordsAtOnce = 5000; // so that the window goes on working meanwhile
 
-const QString suffix = QStringLiteral(".edits");
+const QString editsSuffix = QStringLiteral(".edits");
 
-using Kind = RecoveryChange::Kind;
+using ChangeKind = RecoveryChange::Kind;
 
 RecoveryChange Forth(qint64 step, const EditChange& change)
 {
     if (!change.structure)
-        return {Kind::Value, step, change.path, change.after};
+        return {ChangeKind::Value, step, change.path, change.after};
     const StructureEdit& edit = *change.structure;
     switch (edit.kind)
     {
     case StructureEdit::Kind::Add:
-        return {Kind::Add, step, edit.other, {}, edit.spec};
+        return {ChangeKind::Add, step, edit.other, {}, edit.spec};
     case StructureEdit::Kind::Remove:
-        return {Kind::Remove, step, edit.path};
+        return {ChangeKind::Remove, step, edit.path};
     case StructureEdit::Kind::Rename:
-        return {Kind::Rename, step, edit.path, edit.name};
+        return {ChangeKind::Rename, step, edit.path, edit.name};
     case StructureEdit::Kind::Duplicate:
         break;
     }
-    return {Kind::Duplicate, step, edit.other, edit.name};
+    return {ChangeKind::Duplicate, step, edit.other, edit.name};
 }
 
 } // namespace
@@ -77,7 +77,7 @@ QStringList RecoveryJournal::FindAbandoned()
 {
     QStringList found;
     const QDir directory(Directory());
-    for (const QFileInfo& info : directory.entryInfoList({'*' + suffix}, QDir::Files, QDir::Time))
+    for (const QFileInfo& info : directory.entryInfoList({'*' + editsSuffix}, QDir::Files, QDir::Time))
         if (Lock(info.filePath()))
             found << info.filePath();
     return found;
@@ -121,9 +121,9 @@ void RecoveryJournal::Slot_OnUndone(const EditStep& step)
 {
     const auto number = qint64(step.number);
     if (m_steps.contains(number))
-        Keep({.kind = Kind::Undo, .step = number});
+        Keep({.kind = ChangeKind::Undo, .step = number});
     else if (m_steps.contains(-number))
-        Keep({.kind = Kind::Redo, .step = -number});
+        Keep({.kind = ChangeKind::Redo, .step = -number});
     else
         KeepBack(step);
 }
@@ -132,9 +132,9 @@ void RecoveryJournal::Slot_OnRedone(const EditStep& step)
 {
     const auto number = qint64(step.number);
     if (m_steps.contains(-number))
-        Keep({.kind = Kind::Undo, .step = -number});
+        Keep({.kind = ChangeKind::Undo, .step = -number});
     else if (m_steps.contains(number))
-        Keep({.kind = Kind::Redo, .step = number});
+        Keep({.kind = ChangeKind::Redo, .step = number});
     else
         for (const EditChange& change : step.changes)
             Keep(Forth(number, change));
@@ -148,7 +148,7 @@ void RecoveryJournal::KeepBack(const EditStep& step)
     {
         if (!change.structure)
         {
-            Keep({Kind::Value, number, change.path, change.before});
+            Keep({ChangeKind::Value, number, change.path, change.before});
             continue;
         }
         const StructureEdit& edit = *change.structure;
@@ -156,10 +156,10 @@ void RecoveryJournal::KeepBack(const EditStep& step)
         {
         case StructureEdit::Kind::Add:
         case StructureEdit::Kind::Duplicate:
-            Keep({Kind::Remove, number, edit.path});
+            Keep({ChangeKind::Remove, number, edit.path});
             break;
         case StructureEdit::Kind::Rename:
-            Keep({Kind::Rename, number, edit.other, edit.oldName});
+            Keep({ChangeKind::Rename, number, edit.other, edit.oldName});
             break;
         case StructureEdit::Kind::Remove:
             KeepNode(number, edit.path + '/');
@@ -175,7 +175,7 @@ void RecoveryJournal::KeepNode(qint64 step, const QString& path)
     {
         for (const auto& value : node.GetValues())
             if (const QString text = value->GetStoredText(); text != value->GetDescriptor().defaultText)
-                Keep({Kind::Value, step, value->GetPathName(), text});
+                Keep({ChangeKind::Value, step, value->GetPathName(), text});
         for (const auto& below : node.GetNodes())
             keepValues(*below);
     };
@@ -183,7 +183,7 @@ void RecoveryJournal::KeepNode(qint64 step, const QString& path)
         [&](const QString& nodePath, const TKE::NodeSpec& spec, const QString& parentPath)
         {
             if (nodePath.startsWith(path))
-                Keep({Kind::Add, step, parentPath, {}, spec});
+                Keep({ChangeKind::Add, step, parentPath, {}, spec});
         });
     if (const TKE::Node* node = TKE::Tree::Instance()->FindNode(path))
         keepValues(*node);
@@ -195,14 +195,14 @@ void RecoveryJournal::Keep(RecoveryChange change)
         return;
     m_steps.insert(change.step);
     // Of a value that changes again and again in one step, only the last content is written.
-    if (change.kind != Kind::Value || (!m_waiting.empty() && m_waiting.back().step != change.step))
+    if (change.kind != ChangeKind::Value || (!m_waiting.empty() && m_waiting.back().step != change.step))
         m_positions.clear();
-    const auto known = change.kind == Kind::Value ? m_positions.constFind(change.path) : m_positions.constEnd();
+    const auto known = change.kind == ChangeKind::Value ? m_positions.constFind(change.path) : m_positions.constEnd();
     if (known != m_positions.constEnd())
         m_waiting[*known].text = change.text;
     else
     {
-        if (change.kind == Kind::Value)
+        if (change.kind == ChangeKind::Value)
             m_positions.insert(change.path, m_waiting.size());
         m_waiting.push_back(std::move(change));
     }
@@ -224,7 +224,7 @@ bool RecoveryJournal::Open()
     name +=
         QStringLiteral("-%1-%2").arg(QCoreApplication::applicationPid()).arg(QRandomGenerator::global()->generate());
     QDir().mkpath(Directory());
-    const QString fileName = Directory() + '/' + name + suffix;
+    const QString fileName = Directory() + '/' + name + editsSuffix;
     m_lock = Lock(fileName); // first: a file without a lock is one that was left behind
     m_file = std::make_unique<QFile>(fileName);
     m_base.begun = QDateTime::currentDateTime().toString(Qt::ISODate);

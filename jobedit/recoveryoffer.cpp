@@ -21,7 +21,7 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int roundsOfCorrection = 3;
+constexpr int correctionRounds = 3;
 
 } // namespace
 
@@ -202,7 +202,7 @@ QStringList RecoveryOffer::Apply(const RecoveryFile& edits)
             failures << tr("%1: %2").arg(change.path, reason);
     }
     // Panels may have made choices of their own meanwhile.
-    for (int round = 0; round < roundsOfCorrection; ++round)
+    for (int round = 0; round < correctionRounds; ++round)
         for (auto each = contents.constBegin(); each != contents.constEnd(); ++each)
             if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(each.key()))
                 value->SetStoredText(each.value());

@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int resolution = 300;
-constexpr double margin = 15.0; // mm
+constexpr double pageMargin = 15.0; // mm
 
 // Columns, of the width of the page.
 constexpr double labelLeft = 0.012;
@@ -74,7 +74,7 @@ bool ReportPages::Write(QIODevice& device)
     QPdfWriter writer(&device);
     writer.setResolution(resolution);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
+    writer.setPageMargins(QMarginsF(pageMargin, pageMargin, pageMargin, pageMargin), QPageLayout::Millimeter);
     writer.setTitle(m_content.GetTitle());
     writer.setCreator(QCoreApplication::applicationName());
     return Print(writer);

@@ -25,10 +25,10 @@ const TKE::Node* FindChild(const TKE::Node& node, QStringView name)
     return found != nodes.end() ? found->get() : nullptr;
 }
 
-class Comparison
+class JobComparison
 {
 public:
-    Comparison(const TKE::Tree& left, const TKE::Tree& right) : m_left(left), m_right(right) {}
+    JobComparison(const TKE::Tree& left, const TKE::Tree& right) : m_left(left), m_right(right) {}
 
     void Compare(const TKE::Node& left, const TKE::Node& right)
     {
@@ -119,7 +119,7 @@ int Diff(Call& call)
     CommandJob left, right;
     if (!left.Load(call.GetArgument(0), call) || !right.Load(call.GetArgument(1), call))
         return esFinding;
-    Comparison comparison(left.GetTree(), right.GetTree());
+    JobComparison comparison(left.GetTree(), right.GetTree());
     if (call.Has("node"))
     {
         const QString leftPath = call.GetValue("node");

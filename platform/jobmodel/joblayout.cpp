@@ -113,24 +113,19 @@ std::shared_ptr<const NodeTemplate> JobLayout::TemplateFor(const JobModel& model
     return known;
 }
 
-namespace
+void JobNode::EndRules()
 {
-
-void EndRules(JobNode& node)
-{
-    node.rules.reset();
-    for (const auto& below : node.nodes)
+    rules.reset();
+    for (const auto& below : nodes)
     {
         if (below)
-            EndRules(*below);
+            below->EndRules();
     }
 }
 
-} // namespace
-
 void JobLayout::DisposeLater(std::unique_ptr<JobLayout> layout)
 {
-    EndRules(layout->root);
+    layout->root.EndRules();
     IdleDisposal::Add(
         [remains = std::shared_ptr<JobLayout>(std::move(layout))]
         {

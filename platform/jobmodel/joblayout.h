@@ -72,6 +72,8 @@ struct JobNode
     /// The blanks before a new element in this node, and those before an end tag that the node had no need of so far.
     std::string NewLead() const;
     std::string OwnLead() const;
+    /// From now on the states of the values, here and below, follow nothing.
+    void EndRules();
     void Add(Piece::Kind kind, size_t index) { content.emplace_back(kind, index); }
 };
 

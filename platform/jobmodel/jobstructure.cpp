@@ -33,16 +33,6 @@ void SetPath(JobNode& node, const QString& path)
     }
 }
 
-void EndRules(JobNode& node)
-{
-    node.rules.reset();
-    for (const auto& below : node.nodes)
-    {
-        if (below)
-            EndRules(*below);
-    }
-}
-
 std::unique_ptr<JobNode> CopyOf(const JobNode& node)
 {
     auto copy = std::make_unique<JobNode>();
@@ -173,7 +163,7 @@ std::shared_ptr<TakenNode> JobStructure::Take(QStringView path, QString* reason)
     taken->slot = size_t(place - siblings.begin());
     taken->node = std::move(*place);
     // The rules end before the values do.
-    EndRules(*taken->node);
+    taken->node->EndRules();
     m_tree.RemoveBranch(taken->node->path);
     return taken;
 }

@@ -10,7 +10,7 @@ namespace TKE
 namespace
 {
 
-constexpr qint64 blockSize = 64 * 1024;
+constexpr qint64 readSize = 64 * 1024;
 constexpr qint64 longestPiece = 4 * 1024 * 1024; // of one tag or comment
 constexpr qint64 tickMs = 10;
 constexpr int deepest = 256;
@@ -173,8 +173,8 @@ bool XmlReader::ReadBlock(QIODevice& device)
     m_window.erase(0, size_t(m_keepFrom - m_windowBegin));
     m_windowBegin = m_keepFrom;
     const size_t kept = m_window.size();
-    m_window.resize(kept + blockSize);
-    const qint64 count = device.read(m_window.data() + kept, blockSize);
+    m_window.resize(kept + readSize);
+    const qint64 count = device.read(m_window.data() + kept, readSize);
     m_window.resize(kept + size_t(std::max<qint64>(count, 0)));
     if (count < 0)
     {
@@ -232,7 +232,7 @@ void XmlReader::Locate(QIODevice& device)
     std::stable_sort(order.begin(), order.end(),
                      [&](size_t left, size_t right) { return m_offsets[left] < m_offsets[right]; });
 
-    std::string block(size_t(blockSize), '\0');
+    std::string block(size_t(readSize), '\0');
     qint64 offset = 0;
     qint64 line = 1;
     qint64 column = 1;
@@ -245,7 +245,7 @@ void XmlReader::Locate(QIODevice& device)
             m_errors[qsizetype(*next)].column = column;
         }
     };
-    for (qint64 count = 0; next != order.end() && (count = device.read(block.data(), blockSize)) > 0;)
+    for (qint64 count = 0; next != order.end() && (count = device.read(block.data(), readSize)) > 0;)
     {
         TellProgress(FileEnd());
         for (const char byte : std::string_view(block).substr(0, size_t(count)))

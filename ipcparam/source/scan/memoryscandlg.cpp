@@ -16,7 +16,7 @@ using namespace Keys;
 namespace
 {
 
-constexpr int areaHeight = 180; // pixels
+constexpr int listHeight = 180; // pixels
 
 // The columns of the channels.
 constexpr const char* headers[] = {
@@ -92,7 +92,7 @@ void MemoryScanDlg::BuildChannels()
     auto* area = new QScrollArea(rows.Box());
     area->setObjectName(QStringLiteral("MEMORYSCAN_CHANNELS"));
     area->setWidgetResizable(true);
-    area->setMinimumHeight(areaHeight);
+    area->setMinimumHeight(listHeight);
     static_cast<QGridLayout*>(rows.Box()->layout())->addWidget(area, 0, 0);
     rows.AccessibleName({0, 0}, title);
 
