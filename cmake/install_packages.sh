@@ -1,9 +1,11 @@
 #!/bin/bash
-# Installs those packages of packages.txt that are missing. Does nothing, and needs no rights, when all are there.
+# install_packages.sh [LIST...]: installs those packages of the lists (packages.txt, if none is named) that are missing. Does nothing, and
+# needs no rights, when all are there.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-mapfile -t wanted < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$here/packages.txt")
+[ $# -gt 0 ] || set -- "$here/packages.txt"
+mapfile -t wanted < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$@")
 
 if ! command -v dpkg-query >/dev/null; then
     echo "This is no Debian system. Make sure that it has the equivalents of: ${wanted[*]}" >&2
