@@ -112,6 +112,7 @@ function(house_test name)
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} ${QT}::Test)
     house_precompile(${name})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # it is one source
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300

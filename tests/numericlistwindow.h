@@ -96,3 +96,5 @@ inline QList<QAction*> OpenMenu(QAbstractItemView* list)
 }
 
 } // namespace NumericListTest
+
+Q_DECLARE_METATYPE(NumericListTest::Way)

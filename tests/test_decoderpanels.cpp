@@ -5,6 +5,8 @@
 #include "panelgrid.h"
 #include "widgetfixture.h"
 
+#include <map>
+
 using namespace TKE;
 using namespace TKE::Keys;
 using namespace PanelTest;
@@ -39,8 +41,8 @@ private slots:
 
     void morseInAnyLetterCaseHasItsOwnAlphabet()
     {
-        const QHash<QString, bool> names{{"MORSE", true}, {"Morse", true}, {"MORSE 2", false}, {"", false}};
-        for (const auto& [name, isMorse] : names.asKeyValueRange())
+        const std::map<QString, bool> names{{"MORSE", true}, {"Morse", true}, {"MORSE 2", false}, {"", false}};
+        for (const auto& [name, isMorse] : names)
         {
             Demodulation()->SetItems({{1, name}, {2, "something else"}});
             Demodulation()->SelectKey(1);

@@ -158,7 +158,7 @@ private slots:
         QVERIFY(spin);
         for (int turn = 0; turn < 4; ++turn)
         {
-            QWheelEvent wheel(QPointF(5, 5), spin->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+            QWheelEvent wheel(QPointF(5, 5), spin->mapToGlobal(QPoint(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
                               Qt::NoModifier, Qt::NoScrollPhase, false);
             QApplication::sendEvent(spin, &wheel);
             QTest::qWait(1);

@@ -11,6 +11,8 @@
 using namespace TKE;
 using namespace WidgetFixture;
 
+Q_DECLARE_METATYPE(TKE::ValueKind)
+
 class TestEntryWidgets : public QObject
 {
     Q_OBJECT

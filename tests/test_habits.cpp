@@ -39,7 +39,7 @@ QChar MnemonicOf(QString text)
 {
     text.remove("&&");
     const qsizetype mark = text.indexOf('&');
-    return mark < 0 || mark + 1 == text.size() ? QChar() : text[mark + 1].toLower();
+    return mark < 0 || mark + 1 == text.size() ? QChar() : text.at(mark + 1).toLower();
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <QTranslator>
 
 #include <climits>
+#include <map>
 
 using namespace TKE;
 
@@ -199,8 +200,8 @@ private slots:
         host->ExciterDlg(1, false);
         QCOMPARE(host->Wanted(), "21 22"); // no such value
         auto* value = Tree::Instance()->CreateValue<ValueSelection>(tdsPath + Keys::ExciterMode);
-        const QHash<int, QString> kinds{{-1, ""}, {2, ""}, {3, " 23"}, {7, " 23"}, {8, " 24"}, {10, " 24"}, {11, ""}};
-        for (const auto& [mode, row] : kinds.asKeyValueRange())
+        const std::map<int, QString> kinds{{-1, ""}, {2, ""}, {3, " 23"}, {7, " 23"}, {8, " 24"}, {10, " 24"}, {11, ""}};
+        for (const auto& [mode, row] : kinds)
         {
             value->SetStoredText(QString::number(mode));
             host->ExciterDlg(1, true);

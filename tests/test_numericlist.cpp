@@ -26,6 +26,9 @@ struct Edit
 
 } // namespace
 
+Q_DECLARE_METATYPE(Look)
+Q_DECLARE_METATYPE(Edit)
+
 class TestNumericList : public QObject
 {
     Q_OBJECT

@@ -191,6 +191,8 @@ using Act = void (*)(Stage&);
 
 } // namespace
 
+Q_DECLARE_METATYPE(Act)
+
 class test_observable : public QObject
 {
     Q_OBJECT

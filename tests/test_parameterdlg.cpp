@@ -13,6 +13,7 @@
 
 #include <QTest>
 #include <QtWidgets>
+#include <map>
 
 using namespace TKE;
 
@@ -344,10 +345,10 @@ private Q_SLOTS:
             return numbers;
         };
         // The slots that single resources answer, the last two of them without switches only.
-        const QHash<int, QList<int>> slotsOf{{5, {2, 4, 11}}, {8, {9, 12}}, {10, {7}}, {13, {6, 8}},
+        const std::map<int, QList<int>> slotsOf{{5, {2, 4, 11}}, {8, {9, 12}}, {10, {7}}, {13, {6, 8}},
                                              {18, {3, 5}},    {20, {}},     {34, {1}}, {38, {0, 2, 11}},
                                              {39, {2, 11}},   {41, {0}}};
-        for (const auto& [resource, slotNumbers] : slotsOf.asKeyValueRange())
+        for (const auto& [resource, slotNumbers] : slotsOf)
         {
             AvailableResources resources;
             resources.SetResource(resource, true);
@@ -359,7 +360,7 @@ private Q_SLOTS:
                 options.SetGate(gate, true);
             options.SetSwitch(4, true);
             QList<int> gated = slotNumbers;
-            gated.removeIf([](int slot) { return slot > 9; });
+            gated.erase(std::remove_if(gated.begin(), gated.end(), [](int slot) { return slot > 9; }), gated.end());
             QCOMPARE(answers(options), gated);
         }
         TKEOptions options;

@@ -24,7 +24,7 @@ public:
     QString translate(const char*, const char* source, const char*, int) const override
     {
         const QString text = QString::fromUtf8(source);
-        return u'‹' + text + QString(qsizetype(text.size() * 0.35), '~') + u'›';
+        return QChar(u'‹') + text + QString(qsizetype(text.size() * 0.35), '~') + QChar(u'›');
     }
     bool isEmpty() const override { return false; }
 };
@@ -63,6 +63,8 @@ bool Fits(const QWidget& widget)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(JOBEDIT::Form)
 
 class TestPseudoTranslation : public QObject
 {

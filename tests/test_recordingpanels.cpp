@@ -63,6 +63,8 @@ void MapAndFill(const PanelKind& kind)
 
 } // namespace
 
+Q_DECLARE_METATYPE(const PanelKind*)
+
 class TestRecordingPanels : public QObject
 {
     Q_OBJECT

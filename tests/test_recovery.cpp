@@ -257,7 +257,7 @@ private slots:
         for (int round = 0; round < 300; ++round)
         {
             QByteArray damaged = whole;
-            damaged[qsizetype(random() % quint32(damaged.size()))] = char(random());
+            damaged[int(random() % quint32(damaged.size()))] = char(random());
             if (damaged == whole)
                 continue;
             WriteAll(name, damaged);

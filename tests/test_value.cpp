@@ -51,6 +51,9 @@ const ValueDescriptor modes = Modes(true);
 
 } // namespace
 
+Q_DECLARE_METATYPE(TKE::ValueKind)
+Q_DECLARE_METATYPE(TKE::ValueDescriptor)
+
 class test_value : public QObject
 {
     Q_OBJECT

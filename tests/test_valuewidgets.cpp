@@ -108,7 +108,11 @@ struct Bound
     QWidget* widget;
 };
 
+using Act = std::function<void(Window&, QWidget*)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(std::shared_ptr<Act>)
 
 class TestValueWidgets : public QObject
 {
@@ -270,7 +274,6 @@ private slots:
 
     void aWidgetMayBeDeletedByItsOwnWrite_data()
     {
-        using Act = std::function<void(Window&, QWidget*)>;
         QTest::addColumn<size_t>("index");
         QTest::addColumn<std::shared_ptr<Act>>("act");
         const auto row = [](const char* name, const char* subject, Act act)
@@ -333,7 +336,7 @@ private slots:
     }
     void aWidgetMayBeDeletedByItsOwnWrite()
     {
-        QFETCH(std::shared_ptr<std::function<void(Window&, QWidget*)>>, act);
+        QFETCH(std::shared_ptr<Act>, act);
         Bound bound;
         Counter rebuild([&] { delete bound.window.panel; });
         bound.value->Attach(&rebuild);

@@ -121,7 +121,7 @@ template <class Field> void Enter(Field* field, const QString& text)
 
 inline void Wheel(QWidget* widget)
 {
-    const QPointF at = widget->rect().center();
+    const QPoint at = widget->rect().center();
     QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                       false);
     QApplication::sendEvent(widget, &event);

@@ -47,6 +47,9 @@ inline quint16 qChecksum(const QByteArray& data)
     return qChecksum(data.constData(), uint(data.size()));
 }
 
+// Of Qt Test.
+#define QVERIFY_THROWS_EXCEPTION(type, ...) QVERIFY_EXCEPTION_THROWN(__VA_ARGS__, type)
+
 #endif
 
 namespace QtCompat
