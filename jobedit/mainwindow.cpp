@@ -14,7 +14,6 @@
 #include "fieldmarks.h"
 #include "fieldmenu.h"
 #include "messagelist.h"
-#include "nightcolours.h"
 #include "nodeactions.h"
 #include "nodepane.h"
 #include "panelwindow.h"
