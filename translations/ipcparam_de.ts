@@ -4185,6 +4185,14 @@ Ersetzen?</translation>
         <source>Cancelled</source>
         <translation>Abgebrochen</translation>
     </message>
+    <message>
+        <source>This is no file but a pipe or a device</source>
+        <translation>Dies ist keine Datei, sondern eine Pipe oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>There is something that is no file</source>
+        <translation>Dort ist etwas, das keine Datei ist</translation>
+    </message>
 </context>
 <context>
     <name>TKE::JobModelReader</name>
@@ -4302,6 +4310,10 @@ Ersetzen?</translation>
     <message>
         <source>The value occurs twice</source>
         <translation>Der Wert kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>The job has more than %1 values</source>
+        <translation>Der Auftrag hat mehr als %1 Werte</translation>
     </message>
 </context>
 <context>
@@ -4458,6 +4470,10 @@ Ersetzen?</translation>
     <message>
         <source>%1 is more than %2</source>
         <translation>%1 ist größer als %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large</source>
+        <translation>„%1“ ist zu groß</translation>
     </message>
 </context>
 <context>
