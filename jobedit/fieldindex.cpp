@@ -2,6 +2,7 @@
 
 #include "fieldtexts.h"
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <algorithm>
 #include <map>
@@ -70,8 +71,8 @@ FieldIndex::Result FieldIndex::Find(const QString& text, qsizetype limit)
     const QStringList words = text.toCaseFolded().split(separators, Qt::SkipEmptyParts).mid(0, mostWords);
     if (words.isEmpty())
         return {};
-    if (m_nodes.empty() || m_valueCount != m_tree.ValueCount())
-        Build();
+    while (Prepare())
+        ;
 
     std::vector<Ranks> ranks(m_fields.size());
     for (size_t field = 0; field < m_fields.size(); ++field)
@@ -132,24 +133,45 @@ FieldIndex::Result FieldIndex::Find(const QString& text, qsizetype limit)
     return result;
 }
 
-void FieldIndex::Build()
+void FieldIndex::Begin()
 {
+    m_isBegun = true;
     m_fields.clear();
     m_shapes.clear();
     m_shapesBySize.clear();
     m_fieldNumbers.clear();
     m_nodes.clear();
     m_valueCount = m_tree.ValueCount();
+    m_pending.clear();
     for (const TKE::Node* top : m_tree.GetTopNodes())
-        Add(*top);
+        Collect(*top);
+    std::ranges::reverse(m_pending);
 }
 
-void FieldIndex::Add(const TKE::Node& node)
+void FieldIndex::Collect(const TKE::Node& node)
 {
     if (!node.GetValues().empty())
-        m_nodes.push_back({node.GetBasePath(), node.GetBasePath().toCaseFolded(), ShapeOf(node)});
+        m_pending << node.GetBasePath();
     for (const auto& below : node.GetNodes())
-        Add(*below);
+        Collect(*below);
+}
+
+bool FieldIndex::Prepare()
+{
+    constexpr qint64 sliceMs = 10;
+    constexpr int nodesAtOnce = 16;
+    if (!m_isBegun || m_valueCount != m_tree.ValueCount())
+        Begin();
+    QElapsedTimer time;
+    time.start();
+    while (!m_pending.isEmpty() && !time.hasExpired(sliceMs))
+        for (int count = 0; count < nodesAtOnce && !m_pending.isEmpty(); ++count)
+        {
+            const QString path = m_pending.takeLast();
+            if (const TKE::Node* node = m_tree.FindNode(path))
+                m_nodes.push_back({path, path.toCaseFolded(), ShapeOf(*node)});
+        }
+    return !m_pending.isEmpty();
 }
 
 quint32 FieldIndex::ShapeOf(const TKE::Node& node)

@@ -12,7 +12,8 @@ namespace JOBEDIT
 /// the unit or the path of the node.
 ///
 /// What matches is decided once for each kind of field and for each node, so that the time does not grow with the
-/// number of values. The index is made at the first search, and anew when the tree has other nodes since.
+/// number of values. The index is made ahead in slices (Prepare), the rest of it at the first search, and anew when the
+/// tree has other nodes since.
 class FieldIndex
 {
 public:
@@ -27,8 +28,10 @@ public:
 
     /// The first `limit` fields. A text that is the path of a value gives that value first; without a word, nothing.
     Result Find(const QString& text, qsizetype limit);
+    /// Makes a part of the index, which takes a few milliseconds. False when nothing is left to do.
+    bool Prepare();
     /// Nodes have come, gone or been renamed. A change of the number of values is noticed without.
-    void Invalidate() { m_nodes.clear(); }
+    void Invalidate() { m_isBegun = false; }
 
 private:
     using Ranks = std::vector<quint8>; // per word
@@ -54,13 +57,15 @@ private:
         quint32 shape;
     };
 
-    void Build();
-    void Add(const TKE::Node& node);
+    void Begin();
+    void Collect(const TKE::Node& node);
     quint32 ShapeOf(const TKE::Node& node);
     bool HasShape(const TKE::Node& node, const Shape& shape) const;
 
     const TKE::Tree& m_tree;
+    bool m_isBegun = false;
     size_t m_valueCount = 0;
+    QStringList m_pending; // paths of nodes that are still to be looked at, last first
     std::vector<Field> m_fields;
     std::vector<Shape> m_shapes;
     QMultiHash<size_t, quint32> m_shapesBySize;

@@ -68,10 +68,19 @@ FindBar::FindBar(MainWindow& window)
     const auto forget = [this]
     {
         m_index.Invalidate();
+        m_prepare.start();
         hide();
     };
     connect(&window.Document(), &JobDocument::Replaced, this, forget);
     connect(&window.Document(), &JobDocument::NodesChanged, this, forget);
+    m_prepare.setInterval(0);
+    connect(&m_prepare, &QTimer::timeout, this,
+            [this]
+            {
+                if (!m_index.Prepare())
+                    m_prepare.stop();
+            });
+    m_prepare.start(); // a window may be made for a job that is open already
 }
 
 void FindBar::Open()

@@ -4,6 +4,7 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <QTimer>
 
 class QLabel;
 class QLineEdit;
@@ -41,6 +42,7 @@ private:
 
     MainWindow& m_window;
     FieldIndex m_index;
+    QTimer m_prepare; ///< makes the index while nothing else is to do
     FindModel* m_model;
     QLineEdit* m_text;
     QTreeView* m_hits;
