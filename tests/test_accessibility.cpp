@@ -101,6 +101,8 @@ double MostContrast(const QImage& image, const QColor& background)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Opened)
+
 /// What somebody meets who hears the editor instead of seeing it, or goes through it by Tab, or sees little.
 class TestAccessibility : public QObject
 {

@@ -370,7 +370,7 @@ private slots:
         QVERIFY(Load(Job(Mgc("61"))));
         for (qsizetype size = 0; size <= end; size += size < 200 || size > end - 20 ? 1 : 61)
         {
-            QVERIFY2(!Load(whole.first(size)), qPrintable(QString::number(size)));
+            QVERIFY2(!Load(whole.left(size)), qPrintable(QString::number(size)));
             QVERIFY(m_error.line > 0 && !m_error.reason.isEmpty());
         }
         QCOMPARE(m_job->ToUtf8(), Job(Mgc("61")));

@@ -165,30 +165,35 @@ private:
         return {int(Below(size_t(widget.width()))), int(Below(size_t(widget.height())))};
     }
 
+    struct Shortcut
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+    };
     void Key()
     {
-        static const QList<QKeyCombination> keys = []
+        static const QList<Shortcut> keys = []
         {
-            QList<QKeyCombination> list;
+            QList<Shortcut> list;
             for (const auto key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right,
                                    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_Return,
                                    Qt::Key_Escape, Qt::Key_Space, Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Insert,
                                    Qt::Key_Minus, Qt::Key_Comma, Qt::Key_Period, Qt::Key_K, Qt::Key_M, Qt::Key_E,
                                    Qt::Key_Z, Qt::Key_F2, Qt::Key_F3, Qt::Key_F6, Qt::Key_F7, Qt::Key_Menu})
-                list << QKeyCombination(key);
+                list << Shortcut{key, Qt::NoModifier};
             for (int digit = 0; digit < 10; ++digit)
-                list << QKeyCombination(Qt::Key(Qt::Key_0 + digit));
+                list << Shortcut{Qt::Key(Qt::Key_0 + digit), Qt::NoModifier};
             for (const auto key : {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y, Qt::Key_F, Qt::Key_S,
                                    Qt::Key_D, Qt::Key_L, Qt::Key_Tab, Qt::Key_PageDown, Qt::Key_1, Qt::Key_2})
-                list << QKeyCombination(Qt::ControlModifier, key);
+                list << Shortcut{key, Qt::ControlModifier};
             return list;
         }();
-        const QKeyCombination key = Any(keys);
+        const auto [key, modifiers] = Any(keys);
         QWidget* focus = QApplication::activePopupWidget();
         focus = focus ? focus : QApplication::focusWidget();
         focus = focus ? focus : &Window();
-        Note(QKeySequence(key).toString() + " to " + focus->metaObject()->className() + ' ' + focus->objectName());
-        QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+        Note(QKeySequence(int(modifiers) | key).toString() + " to " + focus->metaObject()->className() + ' ' + focus->objectName());
+        QTest::keyClick(focus, key, modifiers);
     }
     // A field of the dialog, as somebody who means it.
     void Edit()
