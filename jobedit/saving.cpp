@@ -94,11 +94,15 @@ bool Saving::MayReplace(const QString& fileName)
         return MayOverwrite();
     TKE::FileErrors errors;
     {
-        LongWork work(tr("Looking into %1").arg(QFileInfo(fileName).fileName()), &m_window);
+        const QString title = tr("Looking into %1").arg(QFileInfo(fileName).fileName());
+        LongWork work(title, &m_window);
         errors = TKE::JobFile::Check(fileName, m_document.GetModel(),
                                      [&](qint64 done, qint64 all) { return work.Progress(done, all); });
         if (work.WasCancelled())
+        {
+            m_window.statusBar()->showMessage(MainWindow::tr("%1: cancelled, nothing has changed").arg(title), 5000);
             return false;
+        }
     }
     const auto fault = std::ranges::find_if(errors, &TKE::FileError::IsError);
     if (fault == errors.end())
