@@ -76,7 +76,7 @@ int main(int argc, char** argv)
     Bench::Register({18, "ms to find one word in a million", Amount, 50, 20}, 25, [] { return Finding("gain"); });
     Bench::Register({19, "ms to find three words and a path", Amount, 50, 20}, 25,
                     [] { return Finding("frequency hz cs_ 1"); });
-    Bench::Register({20, "ms to make the index, in slices", Amount, 1000, 300}, 5, MakingTheIndex);
+    Bench::Register({20, "ms to make the index in slices", Amount, 1000, 300}, 5, MakingTheIndex);
     const int status = Bench::Run(argc, argv);
     std::printf("%zu values\n", Large().tree.ValueCount());
     return status;
