@@ -1,6 +1,6 @@
 #!/bin/bash
-# make_docs.sh BUILD: puts all documents into BUILD/docs, with what is made from sources: the formats, the pictures of the user guide, and
-# the reference where doxygen is installed. Fails when one of them is out of step.
+# make_docs.sh BUILD [--keep]: puts all documents into BUILD/docs, with what is made from sources: the formats, the pictures of the guides,
+# and the reference where doxygen is installed. Fails when one of them is out of step. --keep puts the pictures into docs/pictures too.
 set -euo pipefail
 build=$(realpath "$1")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -10,25 +10,30 @@ mkdir -p "$docs"
 bad=0
 cmake/make_formats.py "$docs/formats.html" || bad=1
 
-# picture NAME ENTRY FILE: one of the dialogs that `jobedit render` shows for ENTRY.
-rendered=$docs/rendered
-rm -rf "$rendered" "$docs/pictures"
-mkdir -p "$docs/pictures"
-picture()
-{
-    QT_QPA_PLATFORM=offscreen "$build/jobedit/jobedit" render --out "$rendered/$2" --entry "$2" >/dev/null
-    local files=("$rendered/$2/$3"*.png)
-    [ -s "${files[0]}" ] || { echo "jobedit render --entry $2 gave no $3." >&2; return 1; }
-    cp "${files[0]}" "$docs/pictures/$1.png"
-}
-picture tuner TunerNBDlg TunerNBDlg_IPC_TUNER_HF_job_1 || bad=1
-QT_QPA_PLATFORM=offscreen "$build/jobedit/jobedit" new "$docs/sample.job.xml" --force >/dev/null
-QT_QPA_PLATFORM=offscreen "$build/jobedit/jobedit" plan "$docs/sample.job.xml" --out "$docs/pictures/plan.png" >/dev/null || bad=1
-rm -rf "$rendered" "$docs/sample.job.xml"
+# The pictures of the guides, as the program draws them now. Those kept in docs/pictures follow by --keep.
+rm -rf "$docs/pictures"
+for language in en de; do
+    mkdir -p "$docs/pictures/$language"
+    XDG_CONFIG_HOME=$docs/settings XDG_DATA_HOME=$docs/settings QT_QPA_PLATFORM=offscreen \
+        "$build/jobedit/jobedit" render --guide --language "$language" --out "$docs/pictures/$language" >/dev/null 2>"$docs/render.log" ||
+        { cat "$docs/render.log" >&2; bad=1; }
+    for picture in "$docs/pictures/$language"/*.png; do
+        kept=docs/pictures/$language/$(basename "$picture")
+        if [ "${2:-}" = --keep ]; then
+            install -D -m 644 "$picture" "$kept"
+        elif ! cmp -s "$picture" "$kept"; then
+            echo "$kept shows something else than the program; cmake/make_docs.sh BUILD --keep renews it."
+        fi
+    done
+done
+rm -rf "$docs/settings" "$docs/render.log"
 
-# The guide says by comments where its pictures go, so that it reads well without them too.
-cp docs/*.md docs/*.svg docs/*.png "$docs"
-sed -E 's/^<!-- picture ([a-z]+): (.*) -->$/![\2](pictures\/\1.png)/' docs/userguide.md > "$docs/userguide.md"
+cp docs/*.md docs/*.svg "$docs"
+
+# Both guides say the same: headings, rows, points and pictures in the same order.
+outline() { grep -oP '^(#+|\||- |!)' "$1"; }
+diff <(outline docs/userguide.md) <(outline docs/userguide_de.md) >/dev/null ||
+    { echo "docs/userguide_de.md is not built like docs/userguide.md." >&2; bad=1; }
 
 # Links between the documents lead somewhere.
 for file in "$docs"/*.md; do

@@ -1,6 +1,7 @@
 #include "frequencyplan.h"
 
 #include "keys/keymanager.h"
+#include "keys/keys.h"
 #include "value/tree.h"
 
 #include <QLocale>
@@ -15,6 +16,7 @@ namespace
 {
 
 using Kind = PlanMark::Kind;
+namespace Keys = TKE::Keys;
 
 enum class Shape : quint8
 {
@@ -27,7 +29,7 @@ enum class Shape : quint8
 /// A value that decides whether a mark is in use: a boolean (0 or 1) or a selection by its key.
 struct Condition
 {
-    const char* key = nullptr;
+    QLatin1StringView key{};
     int wanted = 1;
 };
 
@@ -37,56 +39,52 @@ struct Source
     Kind kind;
     Shape shape;
     const char* text;
-    const char* first;
-    const char* second = nullptr;
+    QLatin1StringView first;
+    QLatin1StringView second{};
     Condition switchedOn = {};
     Condition chosen = {};
 };
 
-#define TEXT(text) QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", text)
-
 // Of each kind in the order of painting: what is wide lies below what is narrow.
 // clang-format off
 constexpr Source sources[] = {
-    {Kind::Wideband, Shape::Single, TEXT("Wideband reception"), "TUNER_WB_HF_FREQUENCY", "TUNER_WB_HF_BANDWIDTH"},
-    {Kind::Wideband, Shape::Single, TEXT("Wideband reception, second channel"), "TUNER_WB_HF_CH2_FREQUENCY", "TUNER_WB_HF_CH2_BANDWIDTH"},
-    {Kind::Wideband, Shape::Single, TEXT("Wideband reception"), "TUNER_WB_VUHF_FREQUENCY", "TUNER_WB_VUHF_BANDWIDTH"},
-    {Kind::Wideband, Shape::Single, TEXT("Wideband reception, second channel"), "TUNER_WB_VUHF_CH2_FREQUENCY", "TUNER_WB_VUHF_CH2_BANDWIDTH"},
-    {Kind::Wideband, Shape::Single, TEXT("Panorama"), "TUNER_WBRX_HF_FREQUENCY", "TUNER_WBRX_HF_SPAN"},
-    {Kind::Wideband, Shape::Single, TEXT("Panorama"), "TUNER_WBRX_VUHF_FREQUENCY", "TUNER_WBRX_VUHF_SPAN"},
-    {Kind::Range, Shape::Ranges, TEXT("Receiver scan"), "WBRXSCAN_SEQ_FREQ_RANGE", nullptr, {"WBRXSCAN_STATUS"}},
-    {Kind::Range, Shape::Ranges, TEXT("Surveyed range"), "SURVEILLANCE_SEQ_FREQ_RANGE"},
-    {Kind::Range, Shape::Range, TEXT("Scan"), "SCAN_START_FREQUENCY", "SCAN_STOP_FREQUENCY", {"SCAN_STATUS"}, {"SCAN_TYPE", 0}},
-    {Kind::Range, Shape::Range, TEXT("Detected range"), "Range{n}/RasterRangeStart", "Range{n}/RasterRangeStop", {"Range{n}/RasterRangeActive"}},
-    {Kind::Range, Shape::Range, TEXT("Profile limits"), "MINFREQUENCY", "MAXFREQUENCY", {"USEFREQUENCY"}},
-    {Kind::Transmitter, Shape::Single, TEXT("Wideband exciter"), "WdeCenterFrequency", "WdeBandwidth"},
-    {Kind::Transmitter, Shape::Range, TEXT("Exciter scan"), "ExciterScanStartFrequency", "ExciterScanStopFrequency"},
-    {Kind::Excluded, Shape::Ranges, TEXT("Excluded from the receiver scan"), "WBRXSCAN_SEQ_EXCL_FREQ_RANGE", nullptr, {"WBRXSCAN_STATUS"}},
-    {Kind::Excluded, Shape::Ranges, TEXT("Excluded from the scan"), "SCAN_SEQ_EXCL_FREQ_RANGE", nullptr, {"SCAN_STATUS"}},
-    {Kind::Excluded, Shape::Ranges, TEXT("Excluded from detection"), "DDC_DETECTCONV_SEQ_EXCL_FREQ_RANGE"},
-    {Kind::Excluded, Shape::Ranges, TEXT("Excluded from detection"), "DDC_DETECTSHORT_SEQ_EXCL_FREQ_RANGE"},
-    {Kind::Excluded, Shape::Frequencies, TEXT("Reserved, never sent on"), "WdeReservedFrequencies"},
-    {Kind::Excluded, Shape::Frequencies, TEXT("Excluded from detection"), "Range{n}/RasterRangeExcluded", nullptr, {"Range{n}/RasterRangeActive"}},
-    {Kind::Tuned, Shape::Single, TEXT("Receive frequency"), "TUNER_HF_NB_FREQUENCY", "TUNER_HF_NB_IFBANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Receive frequency"), "TUNER_VUHF_FREQUENCY", "TUNER_VUHF_IFBANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Receive frequency"), "TUNER_EXT_FREQUENCY", "TUNER_EXT_IFBANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Receive frequency"), "TUNER_WBRX_HF_FREQUENCY", "TUNER_WBRX_HF_IFBANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Receive frequency"), "TUNER_WBRX_VUHF_FREQUENCY", "TUNER_WBRX_VUHF_IFBANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Channel frequency"), "TUNER_DDC_FREQUENCY", "TUNER_DDC_BANDWIDTH"},
-    {Kind::Tuned, Shape::Single, TEXT("Channel frequency, second channel"), "TUNER_DDC_CH2_FREQUENCY", "TUNER_DDC_CH2_BANDWIDTH"},
-    {Kind::Channel, Shape::Single, TEXT("Memory channel"), "MEMORYSCAN_HF_CH{n}_FREQUENCY", "MEMORYSCAN_HF_CH{n}_IFBANDWIDTH", {"MEMORYSCAN_HF_CH{n}_STATUS"}},
-    {Kind::Channel, Shape::Single, TEXT("Memory channel"), "MEMORYSCAN_VUHF_CH{n}_FREQUENCY", "MEMORYSCAN_VUHF_CH{n}_IFBANDWIDTH", {"MEMORYSCAN_VUHF_CH{n}_STATUS"}},
-    {Kind::Channel, Shape::Single, TEXT("Detected channel"), "Channel{n}/SingleChannelFrequency", "Channel{n}/SingleChannelBandwidth", {"Channel{n}/SingleChannelActive"}},
-    {Kind::Channel, Shape::Frequencies, TEXT("Scan list"), "SCAN_SEQ_FREQUENCY", nullptr, {"SCAN_STATUS"}, {"SCAN_TYPE", 1}},
-    {Kind::Channel, Shape::Frequencies, TEXT("Hop set"), "FREQUENCYSETTBL", nullptr, {"USEFREQUENCYSETTBL"}},
-    {Kind::Transmitter, Shape::Single, TEXT("Generator"), "SmuFrequency"},
-    {Kind::Transmitter, Shape::Frequencies, TEXT("Exciter scan list"), "ExciterScanFrequencies"},
-    {Kind::Transmitter, Shape::Single, TEXT("Exciter channel"), "Channel{n}/WdeChannelFrequency", nullptr, {"Channel{n}/WdeChannelActive"}},
-    {Kind::Transmitter, Shape::Single, TEXT("Simulated emitter"), "Emitter{n}/EmitterFrequency", nullptr, {"Emitter{n}/EmitterActive"}},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Wideband reception"), Keys::TUNER_WB_HF_FREQUENCY, Keys::TUNER_WB_HF_BANDWIDTH},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Wideband reception, second channel"), Keys::TUNER_WB_HF_CH2_FREQUENCY, Keys::TUNER_WB_HF_CH2_BANDWIDTH},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Wideband reception"), Keys::TUNER_WB_VUHF_FREQUENCY, Keys::TUNER_WB_VUHF_BANDWIDTH},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Wideband reception, second channel"), Keys::TUNER_WB_VUHF_CH2_FREQUENCY, Keys::TUNER_WB_VUHF_CH2_BANDWIDTH},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Panorama"), Keys::TUNER_WBRX_HF_FREQUENCY, Keys::TUNER_WBRX_HF_SPAN},
+    {Kind::Wideband, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Panorama"), Keys::TUNER_WBRX_VUHF_FREQUENCY, Keys::TUNER_WBRX_VUHF_SPAN},
+    {Kind::Range, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receiver scan"), Keys::WBRXSCAN_SEQ_FREQ_RANGE, {}, {Keys::WBRXSCAN_STATUS}},
+    {Kind::Range, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Surveyed range"), Keys::SURVEILLANCE_SEQ_FREQ_RANGE},
+    {Kind::Range, Shape::Range, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Scan"), Keys::SCAN_START_FREQUENCY, Keys::SCAN_STOP_FREQUENCY, {Keys::SCAN_STATUS}, {Keys::SCAN_TYPE, 0}},
+    {Kind::Range, Shape::Range, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Detected range"), QLatin1StringView{"Range{n}/RasterRangeStart"}, QLatin1StringView{"Range{n}/RasterRangeStop"}, {QLatin1StringView{"Range{n}/RasterRangeActive"}}},
+    {Kind::Range, Shape::Range, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Profile limits"), Keys::MINFREQUENCY, Keys::MAXFREQUENCY, {Keys::USEFREQUENCY}},
+    {Kind::Transmitter, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Wideband exciter"), Keys::WdeCenterFrequency, Keys::WdeBandwidth},
+    {Kind::Transmitter, Shape::Range, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Exciter scan"), Keys::ExciterScanStartFrequency, Keys::ExciterScanStopFrequency},
+    {Kind::Excluded, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Excluded from the receiver scan"), Keys::WBRXSCAN_SEQ_EXCL_FREQ_RANGE, {}, {Keys::WBRXSCAN_STATUS}},
+    {Kind::Excluded, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Excluded from the scan"), Keys::SCAN_SEQ_EXCL_FREQ_RANGE, {}, {Keys::SCAN_STATUS}},
+    {Kind::Excluded, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Excluded from detection"), Keys::DDC_DETECTCONV_SEQ_EXCL_FREQ_RANGE},
+    {Kind::Excluded, Shape::Ranges, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Excluded from detection"), Keys::DDC_DETECTSHORT_SEQ_EXCL_FREQ_RANGE},
+    {Kind::Excluded, Shape::Frequencies, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Reserved, never sent on"), Keys::WdeReservedFrequencies},
+    {Kind::Excluded, Shape::Frequencies, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Excluded from detection"), QLatin1StringView{"Range{n}/RasterRangeExcluded"}, {}, {QLatin1StringView{"Range{n}/RasterRangeActive"}}},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receive frequency"), Keys::TUNER_HF_NB_FREQUENCY, Keys::TUNER_HF_NB_IFBANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receive frequency"), Keys::TUNER_VUHF_FREQUENCY, Keys::TUNER_VUHF_IFBANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receive frequency"), Keys::TUNER_EXT_FREQUENCY, Keys::TUNER_EXT_IFBANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receive frequency"), Keys::TUNER_WBRX_HF_FREQUENCY, Keys::TUNER_WBRX_HF_IFBANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Receive frequency"), Keys::TUNER_WBRX_VUHF_FREQUENCY, Keys::TUNER_WBRX_VUHF_IFBANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Channel frequency"), Keys::TUNER_DDC_FREQUENCY, Keys::TUNER_DDC_BANDWIDTH},
+    {Kind::Tuned, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Channel frequency, second channel"), Keys::TUNER_DDC_CH2_FREQUENCY, Keys::TUNER_DDC_CH2_BANDWIDTH},
+    {Kind::Channel, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Memory channel"), QLatin1StringView{"MEMORYSCAN_HF_CH{n}_FREQUENCY"}, QLatin1StringView{"MEMORYSCAN_HF_CH{n}_IFBANDWIDTH"}, {QLatin1StringView{"MEMORYSCAN_HF_CH{n}_STATUS"}}},
+    {Kind::Channel, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Memory channel"), QLatin1StringView{"MEMORYSCAN_VUHF_CH{n}_FREQUENCY"}, QLatin1StringView{"MEMORYSCAN_VUHF_CH{n}_IFBANDWIDTH"}, {QLatin1StringView{"MEMORYSCAN_VUHF_CH{n}_STATUS"}}},
+    {Kind::Channel, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Detected channel"), QLatin1StringView{"Channel{n}/SingleChannelFrequency"}, QLatin1StringView{"Channel{n}/SingleChannelBandwidth"}, {QLatin1StringView{"Channel{n}/SingleChannelActive"}}},
+    {Kind::Channel, Shape::Frequencies, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Scan list"), Keys::SCAN_SEQ_FREQUENCY, {}, {Keys::SCAN_STATUS}, {Keys::SCAN_TYPE, 1}},
+    {Kind::Channel, Shape::Frequencies, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Hop set"), Keys::FREQUENCYSETTBL, {}, {Keys::USEFREQUENCYSETTBL}},
+    {Kind::Transmitter, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Generator"), Keys::SmuFrequency},
+    {Kind::Transmitter, Shape::Frequencies, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Exciter scan list"), Keys::ExciterScanFrequencies},
+    {Kind::Transmitter, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Exciter channel"), QLatin1StringView{"Channel{n}/WdeChannelFrequency"}, {}, {QLatin1StringView{"Channel{n}/WdeChannelActive"}}},
+    {Kind::Transmitter, Shape::Single, QT_TRANSLATE_NOOP("JOBEDIT::FrequencyPlan", "Simulated emitter"), QLatin1StringView{"Emitter{n}/EmitterFrequency"}, {}, {QLatin1StringView{"Emitter{n}/EmitterActive"}}},
 };
 // clang-format on
-
-#undef TEXT
 
 /// The marks of nodes, one node after another.
 class Finder
@@ -96,7 +94,7 @@ public:
     {
         m_firstKeys.reserve(std::size(sources));
         for (const Source& source : sources)
-            m_firstKeys.push_back({NameOf(source.first, 1), QLatin1StringView(source.first).contains(numberMark)});
+            m_firstKeys.push_back({NameOf(source.first, 1), source.first.contains(numberMark)});
     }
 
     const std::vector<PlanMark>& Find(const TKE::Node& node)
@@ -127,15 +125,15 @@ private:
 
     const Source& Row() const { return sources[m_index]; }
 
-    static QString NameOf(const char* key, int number)
+    static QString NameOf(QLatin1StringView key, int number)
     {
-        const QString name = QString::fromLatin1(key).replace(numberMark, QString::number(number));
+        const QString name = QString(key).replace(numberMark, QString::number(number));
         return TKE::KeyManager::Instance()->GetFullNameByKey(name);
     }
 
-    const TKE::ValueBase* ValueOf(const char* key, int number) const
+    const TKE::ValueBase* ValueOf(QLatin1StringView key, int number) const
     {
-        return key ? m_tree.FindValue(*m_node, NameOf(key, number)) : nullptr;
+        return !key.isEmpty() ? m_tree.FindValue(*m_node, NameOf(key, number)) : nullptr;
     }
 
     static std::optional<qint64> NumberOf(const TKE::ValueBase* value)

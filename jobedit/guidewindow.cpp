@@ -13,6 +13,28 @@ static void InitGuide()
 namespace JOBEDIT
 {
 
+namespace
+{
+
+constexpr int pictureWidth = 720;
+
+/// Shows the pictures as wide as the text.
+class GuideBrowser : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        if (type != QTextDocument::ImageResource)
+            return QTextBrowser::loadResource(type, name);
+        const QImage picture(":/docs/" + name.path());
+        return picture.scaledToWidth(pictureWidth, Qt::SmoothTransformation);
+    }
+};
+
+} // namespace
+
 void GuideWindow::Open(QWidget* parent)
 {
     auto* guide = parent->findChild<GuideWindow*>();
@@ -28,15 +50,16 @@ GuideWindow::GuideWindow(QWidget* parent) : QDialog(parent)
     InitGuide();
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Guide"));
-    QFile file(":/docs/userguide.md");
-    auto* browser = new QTextBrowser(this);
+    //: The file of the guide in the language of the translation.
+    QFile file(":/docs/" + tr("userguide.md"));
+    auto* browser = new GuideBrowser(this);
     browser->setAccessibleName(tr("Guide"));
     if (file.open(QIODevice::ReadOnly))
         browser->setMarkdown(QString::fromUtf8(file.readAll()));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(browser);
-    resize(760, 640);
+    resize(pictureWidth + 60, 640);
 }
 
 } // namespace JOBEDIT

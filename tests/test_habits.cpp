@@ -171,7 +171,9 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_F1);
         const auto guides = m_window->findChildren<GuideWindow*>();
         QCOMPARE(guides.size(), 1);
-        QVERIFY(guides.first()->findChild<QTextBrowser*>()->toPlainText().contains("guide for operators"));
+        auto* browser = guides.first()->findChild<QTextBrowser*>();
+        QVERIFY(browser->toPlainText().contains("guide for operators"));
+        QVERIFY(browser->document()->resource(QTextDocument::ImageResource, QUrl("pictures/en/plan.png")).isValid());
         QTest::keyClick(guides.first(), Qt::Key_Escape);
         QVERIFY(!guides.first()->isVisible());
     }

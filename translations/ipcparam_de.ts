@@ -480,7 +480,7 @@
     </message>
     <message>
         <source>Only the dialogs of this entry point or panel.</source>
-        <translation>Nur die Dialoge dieses Einstiegs oder Feldes.</translation>
+        <translation>Nur die Dialoge dieses Einstiegs oder Panels.</translation>
     </message>
     <message>
         <source>job (when absent) or standalone.</source>
@@ -541,6 +541,10 @@
     <message>
         <source>Writes even what is open in another editor.</source>
         <translation>Schreibt auch, was in einem anderen Editor geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Pictures of the editor itself, as its guide shows them.</source>
+        <translation>Bilder des Editors selbst, wie seine Anleitung sie zeigt.</translation>
     </message>
 </context>
 <context>
@@ -733,7 +737,7 @@
     </message>
     <message>
         <source>There are no panels for %1 in this form.</source>
-        <translation>Für %1 gibt es in dieser Form keine Felder.</translation>
+        <translation>Für %1 gibt es in dieser Form keine Panels.</translation>
     </message>
     <message>
         <source>%1 has no parameters of its own to edit. Select a node that is not dimmed.</source>
@@ -1021,12 +1025,113 @@
         <source>%1 (switched off)</source>
         <translation>%1 (ausgeschaltet)</translation>
     </message>
+    <message>
+        <source>Wideband reception, second channel</source>
+        <translation>Breitbandempfang, zweiter Kanal</translation>
+    </message>
+    <message>
+        <source>Panorama</source>
+        <translation>Panorama</translation>
+    </message>
+    <message>
+        <source>Receiver scan</source>
+        <translation>Suchlauf des Empfängers</translation>
+    </message>
+    <message>
+        <source>Surveyed range</source>
+        <translation>Überwachter Bereich</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchlauf</translation>
+    </message>
+    <message>
+        <source>Detected range</source>
+        <translation>Bereich des Detektors</translation>
+    </message>
+    <message>
+        <source>Profile limits</source>
+        <translation>Grenzen des Profils</translation>
+    </message>
+    <message>
+        <source>Wideband exciter</source>
+        <translation>Breitband-Erreger</translation>
+    </message>
+    <message>
+        <source>Exciter scan</source>
+        <translation>Suchlauf des Erregers</translation>
+    </message>
+    <message>
+        <source>Excluded from the receiver scan</source>
+        <translation>Vom Suchlauf des Empfängers ausgenommen</translation>
+    </message>
+    <message>
+        <source>Excluded from the scan</source>
+        <translation>Vom Suchlauf ausgenommen</translation>
+    </message>
+    <message>
+        <source>Excluded from detection</source>
+        <translation>Von der Detektion ausgenommen</translation>
+    </message>
+    <message>
+        <source>Reserved, never sent on</source>
+        <translation>Reserviert, nie belegt</translation>
+    </message>
+    <message>
+        <source>Receive frequency</source>
+        <translation>Empfangsfrequenz</translation>
+    </message>
+    <message>
+        <source>Channel frequency</source>
+        <translation>Kanalfrequenz</translation>
+    </message>
+    <message>
+        <source>Channel frequency, second channel</source>
+        <translation>Kanalfrequenz, zweiter Kanal</translation>
+    </message>
+    <message>
+        <source>Memory channel</source>
+        <translation>Speicherkanal</translation>
+    </message>
+    <message>
+        <source>Detected channel</source>
+        <translation>Kanal des Detektors</translation>
+    </message>
+    <message>
+        <source>Scan list</source>
+        <translation>Suchliste</translation>
+    </message>
+    <message>
+        <source>Hop set</source>
+        <translation>Sprungvorrat</translation>
+    </message>
+    <message>
+        <source>Generator</source>
+        <translation>Generator</translation>
+    </message>
+    <message>
+        <source>Exciter scan list</source>
+        <translation>Suchliste des Erregers</translation>
+    </message>
+    <message>
+        <source>Exciter channel</source>
+        <translation>Kanal des Erregers</translation>
+    </message>
+    <message>
+        <source>Simulated emitter</source>
+        <translation>Simulierter Sender</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::GuideWindow</name>
     <message>
         <source>Guide</source>
         <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>userguide.md</source>
+        <extracomment>The file of the guide in the language of the translation.</extracomment>
+        <translation>userguide_de.md</translation>
     </message>
 </context>
 <context>
@@ -1175,7 +1280,7 @@
     </message>
     <message>
         <source>Open &amp;Panel</source>
-        <translation>&amp;Feld öffnen</translation>
+        <translation>Panel &amp;öffnen</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1819,6 +1924,18 @@ Typ: %2</translation>
         <source>%1 pictures in %2</source>
         <translation>%1 Bilder in %2</translation>
     </message>
+    <message>
+        <source>The sample job could not be made.</source>
+        <translation>Der Beispielauftrag konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The sample job has no %1.</source>
+        <translation>Der Beispielauftrag hat kein %1.</translation>
+    </message>
+    <message>
+        <source>The editor did not come to rest.</source>
+        <translation>Der Editor kam nicht zur Ruhe.</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::ReportActions</name>
@@ -1979,7 +2096,7 @@ Typ: %2</translation>
     </message>
     <message>
         <source>Chains and panels</source>
-        <translation>Ketten und Felder</translation>
+        <translation>Ketten und Panels</translation>
     </message>
     <message>
         <source>Values</source>

@@ -1,6 +1,7 @@
 #include "render.h"
 
 #include "command.h"
+#include "guidepictures.h"
 #include "jobdocument.h"
 
 namespace JOBEDIT
@@ -21,6 +22,9 @@ int RunRender(Call& call)
     if (call.Has("form") && form != QLatin1String("job") && form != QLatin1String("standalone"))
         return call.Misuse(Commands::tr("--form is job or standalone."));
 
+    if (call.Has("guide"))
+        return MakeGuidePictures(JobDocument::ConfiguredModel(), call.GetValue("out"), call.Out(), call.Errors()) ? esGood
+                                                                                                                  : esFinding;
     JobDocument document(JobDocument::ConfiguredModel());
     TKE::FileError error;
     const QString file = call.GetArgument(0);
@@ -43,7 +47,8 @@ Command MakeRender()
             .draws = true,
             .options = {{"out", Commands::tr("Directory that the pictures go into."), "DIR"},
                         {"entry", Commands::tr("Only the dialogs of this entry point or panel."), "NAME"},
-                        {"form", Commands::tr("job (when absent) or standalone."), "FORM"}},
+                        {"form", Commands::tr("job (when absent) or standalone."), "FORM"},
+                        {"guide", Commands::tr("Pictures of the editor itself, as its guide shows them.")}},
             .run = RunRender};
 }
 
