@@ -103,6 +103,15 @@ private Q_SLOTS:
                  QStringLiteral("Abbrechen"));
         QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040500"));
         QVERIFY2(FrequencyField()->text().contains("7040,5"), qPrintable(FrequencyField()->text()));
+        // And why the platform refuses a content.
+        const auto refusal = [](QLatin1StringView key, const QString& text)
+        {
+            QString reason;
+            return Tree::Instance()->FindValue(tunerPath + key)->SetFromText(text, nullptr, &reason) ? QString() : reason;
+        };
+        QVERIFY(refusal(Keys::TUNER_HF_NB_FREQUENCY, "1").contains("ist kleiner als"));
+        QVERIFY(refusal(Keys::TUNER_HF_NB_FREQUENCY, "99999999999").contains(QStringLiteral("ist größer als")));
+        QVERIFY(refusal(Keys::TUNER_HF_NB_IFSHIFT, "wenig").contains("keine ganze Zahl"));
 
         Choose("English");
         QCOMPARE(MenuTitles().first(), QStringLiteral("File"));
