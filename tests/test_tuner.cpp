@@ -96,7 +96,7 @@ private slots:
             QCOMPARE(placeOf(TUNER_VUHF_SQUELCH_THRESHOLD).column, 1);
             QCOMPARE(placeOf(TUNER_VUHF_SQUELCHMODE).row, placeOf(TUNER_VUHF_SQUELCH_THRESHOLD).row);
             QCOMPARE(placeOf(TUNER_VUHF_FREQUENCY).columns, 3);
-            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 5, 14, 1})); // down to the last row
+            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 5, 12, 1})); // down to the last row
         }
         else
         {
@@ -105,7 +105,7 @@ private slots:
             QCOMPARE(placeOf(TUNER_HF_NB_AUDIOFORMAT).columns, 2);
             QCOMPARE(panel->findChild<QCheckBox*>(TUNER_HF_NB_WIDEBAND_PREAMPLIFIER_STATUS)->text(),
                      panel->findChild<QCheckBox*>(TUNER_HF_NB_PREAMPLIFIER_STATUS)->text());
-            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 3, 16, 1}));
+            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 3, 17, 1}));
         }
     }
 };
