@@ -20,6 +20,7 @@
 #include "ipcparam/shorttimeprofileheaderdlg.h"
 #include "ipcparam/sigtrackingcontroldlg.h"
 #include "ipcparam/wavecomdlg.h"
+#include "keys/keymanager.h"
 #include "recording/surveillancedlg.h"
 #include "scan/memoryscandlg.h"
 #include "scan/scandlg.h"
@@ -232,21 +233,28 @@ class TestPanelRows : public QObject
     Q_OBJECT
 
 private slots:
+    // Every value at every place where a panel may look for it.
     void initTestCase()
     {
         ExciterTest::FillTree();
-        // Every value at every place where a panel may look for it.
         for (const auto& group : JobModel::Load()->GetGroups())
             for (const auto& parameter : group->GetParameters())
-                for (const char* node : {"", "../", "TDSSpectralZoom/", "WAVECOM_DEMODULATOR_HF/", "Data/",
-                                         "Data/WAVECOM_DEMODULATOR_HF/"})
-                    for (int n = 1; n <= (parameter->IsPerChannel() ? 2 : 1); ++n)
-                        Tree::Instance()->CreateValue(
-                            QDir::cleanPath(basePath + node) + '/' +
-                                QString(parameter->GetUniqueParameterName()).replace("{n}", QString::number(n)),
-                            parameter->GetValueDescriptor(n));
+                for (int n = 1; n <= (parameter->IsPerChannel() ? 2 : 1); ++n)
+                {
+                    const QString key = QString(parameter->GetUniqueParameterName()).replace("{n}", QString::number(n));
+                    KeyManager::Instance()->Register(key, "full/" + key);
+                    for (const char* node :
+                         {"", "../", "full/", "../full/", "TDSSpectralZoom/full/", "WAVECOM_DEMODULATOR_HF/", "Data/",
+                          "Data/full/", "Data/WAVECOM_DEMODULATOR_HF/"})
+                        Tree::Instance()->CreateValue(QDir::cleanPath(basePath + node) + '/' + key,
+                                                      parameter->GetValueDescriptor(n));
+                }
     }
-    void cleanupTestCase() { Tree::Instance()->Clear(); }
+    void cleanupTestCase()
+    {
+        KeyManager::Instance()->Clear();
+        Tree::Instance()->Clear();
+    }
 
     void everythingStandsInItsPlace_data()
     {
@@ -269,7 +277,9 @@ private slots:
         const QString name = QString::fromUtf8(QTest::currentDataTag());
         const Panel panel = Make(name.section(", ", 0, 0), {name.section(", ", 1)});
         QVERIFY(panel);
-        QCOMPARE(Describe(*panel, prefix).join('\n'), rows.join('\n'));
+        const QStringList described = Describe(*panel, prefix);
+        for (qsizetype i = 0; i < qMax(described.size(), rows.size()); ++i)
+            QCOMPARE(described.value(i), rows.value(i));
     }
 };
 
