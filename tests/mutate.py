@@ -46,7 +46,7 @@ TESTS = {
     "ipcparam/source/recording": ["panelrows", "recordingpanels"],
     "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host"],
     "ipcparam/source/tuner": ["panelrows", "tuner", "headerpanels", "host"],
-    "ipcparam/source/wavecom": ["wavecom"],
+    "ipcparam/source/wavecom": ["panelrows", "wavecom"],
     "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets"],
 }
 

@@ -103,25 +103,6 @@ private slots:
         QVERIFY(!panel);
     }
 
-    void theClassifierShowsTheClassesThatItsFormOffers()
-    {
-        for (const bool symbols : {false, true})
-        {
-            const ClassificatorDlg panel(basePath, true, symbols, false, nullptr, false);
-            const QSet<QString> names = BoundNames(panel);
-            QCOMPARE(names.size(), symbols ? 7 : 8);
-            QCOMPARE(names.contains(CLASSIFIER_DDC_SYMBOL_RECOGNITION), symbols);
-            QCOMPARE(names.contains(CLASSIFIER_DDC_PSK_MODULATION), !symbols);
-            // The units of the segmentation stand differently.
-            QVERIFY(Grid(panel).LabelAt(1, 2)->alignment() & Qt::AlignLeft);
-            QVERIFY(Grid(panel).LabelAt(2, 2)->alignment() & Qt::AlignRight);
-
-            const ClassificatorDlg segmentation(basePath, true, symbols, true, nullptr, false);
-            QCOMPARE(BoundNames(segmentation).size(), 3);
-            QCOMPARE(Grid(segmentation).PlaceOfLine(QFrame::VLine), Place{});
-        }
-    }
-
     void theClassifierDisablesTheFrequencyOffsetUnlessItIsKept()
     {
         ValueBase* offset = ValueOf(DEMODULATOR_HF_DDC_FREQUENCYOFFSET);

@@ -229,18 +229,23 @@ private Q_SLOTS:
         QCOMPARE(written, QStringList());
     }
 
-    void thePanelGrowsWithTheDialog()
+    void thePanelKeepsItsPlaceAndGrowsWithItsRowsOnly()
     {
         const auto dialog = Open();
+        const QRect place(0, 40, 600, 400);
         dialog->resize(1000, 700);
-        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
-        Demodulation()->SetFromText(QStringLiteral("PSK"));
-        QCOMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
+        for (const char* name : {"PSK31", "McFSK", "ASK"})
+        {
+            Demodulation()->SetFromText(QString::fromUtf8(name));
+            const DemodulatorPanel* panel = PanelOf(*dialog);
+            QTRY_COMPARE(panel->geometry(), place.united({place.topLeft(), panel->layout()->totalMinimumSize()}));
+            QTRY_COMPARE(panel->layout()->geometry().size(), panel->size()); // its rows have moved along
+        }
         dialog->hide();
-        Demodulation()->SetFromText(QStringLiteral("ASK"));
+        Demodulation()->SetFromText(QStringLiteral("MORSE"));
+        QCOMPARE(PanelOf(*dialog)->geometry(), place);
         dialog->show();
-        QTRY_COMPARE(PanelOf(*dialog)->geometry(), QRect(0, 40, 1000, 660));
-        QCOMPARE(PanelOf(*dialog)->layout()->geometry().size(), QSize(1000, 660)); // its rows have moved along
+        QTRY_COMPARE(PanelOf(*dialog)->geometry(), place);
     }
 
     void everyEditorCanBeReachedInASmallWindow_data()

@@ -1,6 +1,5 @@
 #include "analysis/detectiondlg.h"
 #include "analysis/detectionshortdlg.h"
-#include "analysis/fftdatadlg.h"
 #include "analysis/spectralzoomdlg.h"
 #include "keys/keys.h"
 #include "numericlistwindow.h"
@@ -104,18 +103,6 @@ private slots:
             QTest::keyClick(spin, Qt::Key_Return);
             QCOMPARE(value->GetStoredText(), "6500");
             QVERIFY(qobject_cast<QComboBox*>(Grid(*longTime).At(row, 6)));
-        }
-    }
-
-    void theSpectrumHasTheRowsOfItsForm()
-    {
-        for (const bool flag : {false, true})
-        {
-            const FFTDataDlg panel(basePath, flag, !flag, nullptr, false);
-            const QSet<QString> names = BoundNames(panel);
-            QCOMPARE(names.contains(SPECTRUM_FFT_LENGTH), flag);
-            QCOMPARE(names.contains(SPECTRUM_RESOLUTIONBW), !flag);
-            QCOMPARE(names.contains(SPECTRUM_MAX_SPECTRUMRATE), !flag);
         }
     }
 

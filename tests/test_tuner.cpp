@@ -83,31 +83,6 @@ private slots:
             }
         }
     }
-
-    void quirksOfTheLayoutStay()
-    {
-        QFETCH_GLOBAL(bool, vuhf);
-        const auto panel = Make();
-        const auto placeOf = [&](const QString& key) { return Grid(*panel).PlaceOf(panel->findChild<QWidget*>(key)); };
-        if (vuhf)
-        {
-            // The check box stands in the label's place, beside its spin box.
-            QCOMPARE(placeOf(TUNER_VUHF_SQUELCHMODE).column, 0);
-            QCOMPARE(placeOf(TUNER_VUHF_SQUELCH_THRESHOLD).column, 1);
-            QCOMPARE(placeOf(TUNER_VUHF_SQUELCHMODE).row, placeOf(TUNER_VUHF_SQUELCH_THRESHOLD).row);
-            QCOMPARE(placeOf(TUNER_VUHF_FREQUENCY).columns, 3);
-            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 5, 14, 1})); // down to the last row
-        }
-        else
-        {
-            QCOMPARE(placeOf(TUNER_HF_NB_FREQUENCY).rows, 2);
-            QCOMPARE(placeOf(TUNER_HF_NB_REPLAY_FREQUENCY_OFFSET).column, 6);
-            QCOMPARE(placeOf(TUNER_HF_NB_AUDIOFORMAT).columns, 2);
-            QCOMPARE(panel->findChild<QCheckBox*>(TUNER_HF_NB_WIDEBAND_PREAMPLIFIER_STATUS)->text(),
-                     panel->findChild<QCheckBox*>(TUNER_HF_NB_PREAMPLIFIER_STATUS)->text());
-            QCOMPARE(Grid(*panel).PlaceOfLine(QFrame::VLine), (Place{0, 3, 16, 1}));
-        }
-    }
 };
 
 QTEST_MAIN(TestTuner)

@@ -219,6 +219,7 @@ private Q_SLOTS:
         auto panel = std::make_unique<OpenPanel>(m_dataNode);
         Tree::Instance()->RemoveBranch(QStringLiteral("/J"));
         QCOMPARE(ComboAt(*panel, 3)->GetBoundValue(), nullptr);
+        panel->Update(nullptr, ccState); // no value, no source
         panel.reset();
     }
 

@@ -50,7 +50,7 @@ void ValueLink::Lock()
 
 void ValueLink::Update(Observable* source, TChangeCode code)
 {
-    if (source != m_value)
+    if (!m_value || source != m_value)
         return;
     switch (code)
     {

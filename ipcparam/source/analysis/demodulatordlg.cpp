@@ -15,7 +15,7 @@ namespace TKE
 
 namespace
 {
-constexpr QRect panelGeometry(0, 40, 600, 400); // the least; a larger dialog gives its panel more
+constexpr QRect panelGeometry(0, 40, 600, 400); // a panel whose rows need more gets more
 constexpr Cell offsetCell{0, 7};
 } // namespace
 

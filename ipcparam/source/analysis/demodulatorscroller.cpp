@@ -45,7 +45,7 @@ void DemodulatorScroller::Place(QWidget& panel, const QRect& room, const QSize& 
     {
         Clear();
         panel.clearMask();
-        panel.setGeometry(QRect(room.topLeft(), room.size().expandedTo(least)));
+        panel.setGeometry(QRect(room.topLeft(), least.expandedTo(content)));
         return;
     }
 

@@ -11,16 +11,16 @@ class QWidget;
 namespace TKE
 {
 
-/// Fits a panel into a part of the dialog it is a child of: as large as the room and never smaller than its content.
-/// Where the content does not fit, the panel is clipped to the room and scroll bars, the wheel and the keyboard focus
-/// reach the rest.
+/// Fits a panel into a part of the dialog it is a child of: of one size for all panels, larger where the content asks for
+/// it. Where the content does not fit, the panel is clipped to the room and scroll bars, the wheel and the keyboard
+/// focus reach the rest.
 class DemodulatorScroller final : public QObject
 {
 public:
     /// `dialog` owns the scroller.
     explicit DemodulatorScroller(QWidget* dialog);
 
-    /// Places `panel` in `room` (in the dialog's coordinates), but makes it at least as large as `least`.
+    /// Places `panel` in `room` (in the dialog's coordinates); `least` is its size unless the content needs more.
     void Place(QWidget& panel, const QRect& room, const QSize& least);
     /// Takes the scroll bars away when there is no panel any more.
     void Clear();

@@ -43,9 +43,12 @@ int ExciterPanel::GetExciterMode() const
     return mode ? mode->GetCurrentKey() : int(REPORTGENERATOR::Exciter_Settings::emNone);
 }
 
+// Not for the exciter settings to say: those decide on the tabs of the host only.
 bool ExciterPanel::IsScanMode() const
 {
-    return REPORTGENERATOR::Exciter_Settings::IsValidScan(GetExciterMode());
+    using Mode = REPORTGENERATOR::Exciter_Settings;
+    const int mode = GetExciterMode();
+    return mode >= Mode::emFrequencyScan && mode <= Mode::emMemoryScan;
 }
 
 // A mode that has no item has no name.

@@ -6,7 +6,8 @@ namespace TKE
 {
 
 /// The V/UHF tuner: frequency, gain, filters, measurement, squelch, attenuation and audio. What can be edited follows from the enable states that
-/// the value tree keeps.
+/// the value tree keeps. The sides of the vertical line count their rows each for itself, so that the panel stays low; they are built, and
+/// reached by Tab, in the order in which they are written down.
 class TunerVUHFDlg : public ParameterDlg
 {
     Q_OBJECT

@@ -157,7 +157,7 @@ void WavecomDlg::Update(Observable* source, TChangeCode code)
 {
     if (code == ccContent)
         CreateSpecificPart();
-    else if (source == m_modeValue && m_modeValue->GetState() == stReleased)
+    else if (m_modeValue && source == m_modeValue && m_modeValue->GetState() == stReleased)
         m_modeValue = nullptr; // it goes away before the panel does
 }
 
