@@ -36,18 +36,18 @@ ROOT = Path(__file__).resolve().parent.parent
 TESTS = {
     "platform/application": ["application"],
     "platform/exciter": ["exciterparameter", "excitermodes"],
-    "platform/jobmodel": ["jobmodel", "jobfile", "jobstructure", "rules", "exciterparameter", "samplejob"],
+    "platform/jobmodel": ["jobmodel", "jobfile", "jobstructure", "rules", "exciterparameter"],
     "platform/value": ["value", "tree", "observable"],
     "platform/valuewidgets": ["valuewidgets", "entrywidgets", "fieldmarks"],
     "ipcparam/source": ["host", "samplejob"],
-    "ipcparam/source/analysis": ["panelrows", "detectionpanels", "headerpanels", "decoderpanels", "demodulator", "demodulatorpanels"],
-    "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "tuner", "headerpanels", "detectionpanels", "panelrows"],
-    "ipcparam/source/recording": ["panelrows", "recordingpanels"],
-    "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host"],
-    "ipcparam/source/tuner": ["panelrows", "tuner", "headerpanels", "host"],
-    "ipcparam/source/wavecom": ["panelrows", "wavecom"],
-    "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets"],
+    "ipcparam/source/analysis": ["panelrows", "detectionpanels", "headerpanels", "decoderpanels", "demodulator", "demodulatorpanels", "rules"],
+    "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes", "rules"],
+    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "tuner", "headerpanels", "detectionpanels", "panelrows", "rules"],
+    "ipcparam/source/recording": ["panelrows", "recordingpanels", "rules"],
+    "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host", "rules"],
+    "ipcparam/source/tuner": ["panelrows", "tuner", "headerpanels", "host", "rules"],
+    "ipcparam/source/wavecom": ["panelrows", "wavecom", "rules"],
+    "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets", "rules"],
 }
 
 
