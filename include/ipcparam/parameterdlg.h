@@ -66,18 +66,22 @@ public:
     /// The context that texts of panels without a namespace of their own are translated in.
     static void SetDefaultTranslationNamespace(const QString& ns);
 
-    const QString& GetBasePath() const { return m_basePath; }
+    QString GetBasePath() const { return m_basePath; }
     bool IsReadOnly() const { return m_readOnly; }
     /// The group box's title; empty without a group box.
     QString GetTitle() const;
     /// The path one level above: of "/A/B/" it is "/A/", of "/A/" it is "/", of "/" it is empty.
     static QString GetParentPath(const QString& path);
 
+    /// Nothing; panels override it to follow the values they watch.
+    void Update(Observable* source, TChangeCode code) override;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
-    // The builders. Each takes the grid (null: the widget is made and bound, but placed nowhere), a cell and its spans, and the key.
+    // The builders. Each takes the grid (null: the widget is made and bound, but placed nowhere), a cell and its spans, and the key. The
+    // widgets that they return are declared in valuewidgets/, the check group and the numeric list in widgets/.
 
     /// A group box whose title check box is bound to a boolean or a selection; the panel places it.
     virtual VCCheckableGroupBox* CreateCheckableGroupBoxFromVT(const QString& key, const QString& title,
@@ -153,9 +157,6 @@ protected:
     virtual QString GetItemPath(const QString& key);
     /// The directory of the job model's XML files, read from the configuration again; empty for the built-in model.
     virtual QString GetXMLFileDirPath();
-
-    /// Nothing; panels override it to follow the values they watch.
-    void Update(Observable* source, TChangeCode code) override;
 
     /// Builds label, widget and unit of one descriptor at (`row`, `column`) and the two columns after it; `value` then holds the descriptor's
     /// value or is empty.
