@@ -200,6 +200,9 @@ protected:
     void SetBasePath(const QString& basePath) { m_basePath = basePath; }
     /// The path of a key, as `fromBase` says.
     QString PathOf(const QString& key, bool fromBase);
+    /// The panel promises that what its builders were told decides on its size, so that hidden panels built alike need not measure themselves.
+    /// Not for a panel with widgets or texts of its own making.
+    void ShareSizeHints() { m_sharesSizeHints = true; }
 
 private:
     friend class PanelRows;
@@ -222,6 +225,7 @@ private:
     Tree* m_tree;
     QGroupBox* m_groupBox = nullptr;
     size_t m_signature = 0; // of all that was built, to find the size of a like panel again
+    bool m_sharesSizeHints = false;
 };
 
 } // namespace TKE
