@@ -62,6 +62,7 @@ public:
     using ParameterDlg::SetDefaultStretchFactor;
     using ParameterDlg::SetSelection;
     using ParameterDlg::SetTitle;
+    using ParameterDlg::ShareSizeHints;
 
     QString BuildFinalKey(const QString& key) const override { return m_rewrite.value(key, key); }
     void Update(Observable*, TChangeCode code) override { m_heard.append(code); }
@@ -282,18 +283,38 @@ private Q_SLOTS:
         QCOMPARE(qobject_cast<QLabel*>(at(7))->text(), QString("Hz"));
     }
 
-    void hiddenPanelsAnswerWithTheSizeOfTheirLike()
+    void hiddenPanelsThatShareAnswerWithTheSizeOfTheirLike()
     {
+        const auto build = [](OpenPanel& panel, const QString& text)
+        {
+            panel.ShareSizeHints();
+            panel.AddLabel(panel.Grid(), 0, 0, 1, 1, text);
+        };
         OpenPanel shown;
-        shown.AddLabel(shown.Grid(), 0, 0, 1, 1, "Some label :");
+        build(shown, "Some label :");
         shown.show();
         const QSize size = shown.sizeHint();
         OpenPanel like;
-        like.AddLabel(like.Grid(), 0, 0, 1, 1, "Some label :");
+        build(like, "Some label :");
+        like.findChild<QLabel*>()->setText("what no builder was told of, and is not looked at"); // breaks the promise
         QCOMPARE(like.sizeHint(), size);
         OpenPanel wider;
-        wider.AddLabel(wider.Grid(), 0, 0, 1, 1, "Some label that is a good deal longer :");
+        build(wider, "Some label that is a good deal longer :");
         QVERIFY(wider.sizeHint().width() > size.width());
+    }
+
+    void aPanelWithWidgetsOfItsOwnMeasuresItself()
+    {
+        const auto hint = [](int height)
+        {
+            OpenPanel panel;
+            panel.AddLabel(panel.Grid(), 0, 0, 1, 1, "Some label :");
+            auto* own = new QWidget;
+            own->setMinimumHeight(height);
+            panel.Grid()->addWidget(own, 1, 0);
+            return panel.minimumSizeHint().height();
+        };
+        QCOMPARE(hint(300), hint(100) + 200);
     }
 
     void theJobModelDirectoryComesFromJobManagementFirst()

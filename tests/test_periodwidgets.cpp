@@ -267,6 +267,29 @@ private slots:
         QVERIFY(!times.isEnabled());
     }
 
+    void whatAnUncheckedGroupBoxHoldsStaysDisabled()
+    {
+        VCCheckableGroupBox outer(nullptr, "Outer", {});
+        auto* on = static_cast<BoolValue*>(Make(path, ValueKind::Bool, "false"));
+        outer.SetValue(on);
+        auto* layout = new QVBoxLayout(&outer);
+        Times times("10:00", "11:00");
+        layout->addWidget(&times);
+        ValueBase* switchOfInner = Make(path + "Inner", ValueKind::Bool, "false");
+        VCCheckableGroupBox inner(nullptr, "Inner", {});
+        inner.SetValue(switchOfInner);
+        layout->addWidget(&inner);
+
+        for (ValueBase* value : {static_cast<ValueBase*>(times.start), switchOfInner})
+        {
+            value->SetState(stDisabled);
+            value->SetState(stEnabled);
+        }
+        QVERIFY(!times.isEnabled() && !inner.isEnabled());
+        on->SetBool(true);
+        QVERIFY(times.isEnabled() && inner.isEnabled());
+    }
+
     void escapeTakesBackWhatIsTyped()
     {
         Times times("10:20", "11:30");

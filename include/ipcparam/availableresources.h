@@ -13,9 +13,6 @@ class IPCPARAM_EXPORT AvailableResources
 public:
     static constexpr int ResourceCount = 42;
 
-    AvailableResources() = default;
-    virtual ~AvailableResources() = default;
-
     virtual bool Slot0() const;
     virtual bool Slot1() const;
     virtual bool Slot2() const;
@@ -29,6 +26,7 @@ public:
     virtual bool Slot10() const;
     virtual bool Slot11() const;
     virtual bool Slot12() const;
+    virtual ~AvailableResources() = default; // behind the answers, which so keep their numbers in the table of virtuals, too
 
     /// Resource `index` (0 to ResourceCount - 1).
     void SetResource(int index, bool available) { m_resources.at(size_t(index)) = available; }

@@ -18,7 +18,6 @@ public:
     DFLocateDlg(const QString& basePath, QWidget* parent, bool readOnly);
     ~DFLocateDlg() override;
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

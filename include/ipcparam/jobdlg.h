@@ -20,7 +20,6 @@ public:
     JobDlg(const QString& basePath, const TKEOptions& options, QWidget* parent, bool readOnly);
     ~JobDlg() override;
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -66,18 +66,22 @@ public:
     /// The context that texts of panels without a namespace of their own are translated in.
     static void SetDefaultTranslationNamespace(const QString& ns);
 
-    const QString& GetBasePath() const { return m_basePath; }
+    QString GetBasePath() const { return m_basePath; }
     bool IsReadOnly() const { return m_readOnly; }
     /// The group box's title; empty without a group box.
     QString GetTitle() const;
     /// The path one level above: of "/A/B/" it is "/A/", of "/A/" it is "/", of "/" it is empty.
     static QString GetParentPath(const QString& path);
 
+    /// Nothing; panels override it to follow the values they watch.
+    void Update(Observable* source, TChangeCode code) override;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
-    // The builders. Each takes the grid (null: the widget is made and bound, but placed nowhere), a cell and its spans, and the key.
+    // The builders. Each takes the grid (null: the widget is made and bound, but placed nowhere), a cell and its spans, and the key. The
+    // widgets that they return are declared in valuewidgets/, the check group and the numeric list in widgets/.
 
     /// A group box whose title check box is bound to a boolean or a selection; the panel places it.
     virtual VCCheckableGroupBox* CreateCheckableGroupBoxFromVT(const QString& key, const QString& title,
@@ -154,9 +158,6 @@ protected:
     /// The directory of the job model's XML files, read from the configuration again; empty for the built-in model.
     virtual QString GetXMLFileDirPath();
 
-    /// Nothing; panels override it to follow the values they watch.
-    void Update(Observable* source, TChangeCode code) override;
-
     /// Builds label, widget and unit of one descriptor at (`row`, `column`) and the two columns after it; `value` then holds the descriptor's
     /// value or is empty.
     void BuildRow(QGridLayout* grid, ValueObservingPtr<ValueBase>& value, const Parameter& parameter, int row, int column,
@@ -199,6 +200,9 @@ protected:
     void SetBasePath(const QString& basePath) { m_basePath = basePath; }
     /// The path of a key, as `fromBase` says.
     QString PathOf(const QString& key, bool fromBase);
+    /// The panel promises that what its builders were told decides on its size, so that hidden panels built alike need not measure themselves.
+    /// Not for a panel with widgets or texts of its own making.
+    void ShareSizeHints() { m_sharesSizeHints = true; }
 
 private:
     friend class PanelRows;
@@ -221,6 +225,7 @@ private:
     Tree* m_tree;
     QGroupBox* m_groupBox = nullptr;
     size_t m_signature = 0; // of all that was built, to find the size of a like panel again
+    bool m_sharesSizeHints = false;
 };
 
 } // namespace TKE

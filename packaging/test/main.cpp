@@ -4,9 +4,12 @@
 
 #include "application/translationcenter.h"
 #include "value/tree.h"
+#include "widgets/vccheckablegroupbox.h"
+#include "widgets/vclistboxnumeric.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLocale>
 #include <QTemporaryDir>
 
@@ -18,6 +21,18 @@ void Check(bool holds, const char* what)
     if (!holds)
         qFatal("%s", what);
 }
+
+/// Places what the builders return.
+struct GroupPanel : TKE::ParameterDlg
+{
+    explicit GroupPanel(const QString& base) : ParameterDlg(base, nullptr, "GroupPanel", false, false)
+    {
+        TKE::VCCheckableGroupBox* box = CreateCheckableGroupBoxFromVT("USE_LIST", "List", {}, true);
+        Grid()->addWidget(box, 0, 0);
+        auto* grid = new QGridLayout(box);
+        AddListBoxFromVT(grid, 0, 0, 1, 1, "LIST", 1, 0, 5, true, {"kHz"}, 1000.0, true)->setColumnWidth(0, 200);
+    }
+};
 
 QString OpenDialog(TKE::JobFile& job, const QString& fileName)
 {
@@ -55,5 +70,11 @@ int main(int argc, char* argv[])
     TKE::Tree::Instance()->FindValue(QString(base + "TUNER_HF_NB_SQUELCHMODE"))->SetFromText("Level");
     auto* combo = panel.findChild<QComboBox*>();
     Check(combo && combo->currentText() == "Level", "The panel does not follow the tree");
+
+    TKE::Tree::Instance()->CreateValue<TKE::BoolValue>(QString(base + "USE_LIST"))->SetValue(true);
+    TKE::Tree::Instance()->CreateValue<TKE::DoubleListValue>(QString(base + "LIST"))->SetValue({5000.0});
+    const GroupPanel group(base);
+    Check(group.findChild<TKE::VCCheckableGroupBox*>()->isChecked(), "The group box does not follow the tree");
+    Check(group.findChild<TKE::VCListBoxNumeric*>()->item(0, 0)->text() == "5", "The list does not follow the tree");
     return 0;
 }

@@ -85,15 +85,12 @@ void ValueLink::FollowState()
     }
 }
 
-void ValueLink::Enable(bool on)
+void ValueLink::Enable(QWidget& widget, bool on)
 {
-    QWidget* widget = GetStateWidget();
-    if (!on || m_locked)
-        widget->setEnabled(false);
-    else if (IsSwitchedOff(widget->parentWidget()))
-        widget->setAttribute(Qt::WA_ForceDisabled, false);
+    if (on && IsSwitchedOff(widget.parentWidget()))
+        widget.setAttribute(Qt::WA_ForceDisabled, false);
     else
-        widget->setEnabled(true);
+        widget.setEnabled(on);
 }
 
 } // namespace TKE

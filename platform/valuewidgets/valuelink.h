@@ -28,6 +28,9 @@ public:
     void Lock();
     bool IsLocked() const { return m_locked; }
 
+    /// Enables `widget` or disables it. In a group box that is not checked it comes on only when the box is.
+    static void Enable(QWidget& widget, bool on);
+
     void Update(Observable* source, TChangeCode code) override;
 
 protected:
@@ -75,7 +78,7 @@ protected:
 
 private:
     void FollowState();
-    void Enable(bool on);
+    void Enable(bool on) { Enable(*GetStateWidget(), on && !m_locked); }
 
     QWidget* m_widget;
     ValueBase* m_value = nullptr;

@@ -26,6 +26,7 @@ ExciterPanel::~ExciterPanel() = default;
 
 void ExciterPanel::InitPanel()
 {
+    ShareSizeHints();
     GetValuePtr(true, m_exciterModePtr, Parameters().ExciterMode());
     BuildSpecialPanel();
 }

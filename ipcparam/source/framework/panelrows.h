@@ -50,6 +50,7 @@ public:
         , m_grid(grid)
         , m_binding(binding)
     {
+        panel.ShareSizeHints();
     }
 
     /// Rows with the same binding in a new group box, which has a grid of its own and is the panel's child until the panel places Box().

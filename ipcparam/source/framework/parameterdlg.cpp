@@ -221,10 +221,13 @@ void ParameterDlg::MakeBuddy(QLabel* label, const QLayoutItem* item)
 }
 
 // A tab widget asks every page for its size, and hidden pages then shape the text of every label. Panels built alike are of one size, so
-// hidden ones answer with the size of their like; a visible one measures itself.
+// hidden ones that promise it answer with the size of their like; any other one measures itself.
 QSize ParameterDlg::CachedHint(bool minimum) const
 {
     static QHash<size_t, QSize> hints;
+    const auto measure = [&] { return minimum ? QWidget::minimumSizeHint() : QWidget::sizeHint(); };
+    if (!m_sharesSizeHints)
+        return measure();
     const size_t look = qHashMulti(size_t(minimum), font(), style()->objectName(), logicalDpiX(), layoutDirection());
     const size_t key = qHashMulti(look, m_signature, objectName());
     if (!isVisible())
@@ -232,7 +235,7 @@ QSize ParameterDlg::CachedHint(bool minimum) const
         if (const auto found = hints.constFind(key); found != hints.constEnd())
             return *found;
     }
-    const QSize hint = minimum ? QWidget::minimumSizeHint() : QWidget::sizeHint();
+    const QSize hint = measure();
     if (hints.size() >= mostHints) // panels that rebuild parts of themselves look different each time
         hints.clear();
     hints.insert(key, hint);

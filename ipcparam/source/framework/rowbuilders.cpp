@@ -55,7 +55,8 @@ QLabel* AlignedLabel(const QString& text, Qt::Alignment alignment, const QLayout
 QLabel* AppendLabel(QHBoxLayout* box, const QString& text, Qt::Alignment alignment)
 {
     QLabel* label = Named(AlignedLabel(text, alignment, box), text);
-    box->addWidget(label);
+    if (box)
+        box->addWidget(label);
     return label;
 }
 

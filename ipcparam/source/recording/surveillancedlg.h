@@ -14,7 +14,6 @@ public:
     /// `ddc` adds the conditions that only a detection in a wideband signal can answer: surveyed ranges and bandwidth.
     SurveillanceDlg(const QString& basePath, bool ddc, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -15,7 +15,6 @@ public:
     /// `channelCount` is fixed from now on; below 1 there are no channels. `jobContext` adds the start with the job.
     MemoryScanDlg(const QString& basePath, int channelCount, bool jobContext, bool vuhf, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -15,7 +15,6 @@ public:
     /// `scanOption` leaves the switch and the timing: the channels come from a memory scan then. `vuhf` shows lists in MHz instead of kHz.
     ScanDlg(const QString& basePath, bool scanOption, bool vuhf, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -14,7 +14,6 @@ public:
     /// `vuhf` shows ranges in MHz instead of kHz.
     WBRXScanDlg(const QString& basePath, bool vuhf, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -15,7 +15,6 @@ public:
     /// `wideband` means the antenna of a wideband receiver; `wbTuner` adds the input of its tuner, and nothing without `wideband`.
     AntennaDlg(const QString& basePath, bool vuhf, bool wideband, bool wbTuner, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

@@ -14,7 +14,6 @@ public:
     /// `secondChannel` adds the input of a second channel. In `jobContext` the job may tune the receiver; otherwise there is a remark.
     TunerExternalDlg(const QString& basePath, bool secondChannel, bool jobContext, QWidget* parent, bool readOnly);
 
-protected:
     void Update(Observable* source, TChangeCode code) override;
 
 private:

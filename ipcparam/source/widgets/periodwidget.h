@@ -2,6 +2,7 @@
 
 #include "value/tree.h"
 #include "valuewidgets/fieldholder.h"
+#include "valuewidgets/valuelink.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -47,8 +48,8 @@ public:
         widget.m_startValue->Attach(&widget);
         widget.m_stopValue->Attach(&widget);
         widget.m_bound = true;
-        widget.setEnabled(!widget.m_locked && widget.m_startValue->GetState() == stEnabled &&
-                          widget.m_stopValue->GetState() == stEnabled);
+        ValueLink::Enable(widget, !widget.m_locked && widget.m_startValue->GetState() == stEnabled &&
+                                      widget.m_stopValue->GetState() == stEnabled);
         const QPointer<QWidget> alive(&widget);
         widget.Load(widget.m_startValue, *widget.m_startEdit);
         if (alive)
@@ -100,7 +101,7 @@ private:
         switch (value->GetState())
         {
         case stEnabled:
-            widget.setEnabled(!widget.m_locked);
+            ValueLink::Enable(widget, !widget.m_locked);
             break;
         case stDisabled:
             widget.setEnabled(false);

@@ -1,5 +1,7 @@
 #include "widgets/vccheckablegroupbox.h"
 
+#include "valuewidgets/valuelink.h"
+
 #include <QPointer>
 
 namespace TKE
@@ -99,7 +101,7 @@ void VCCheckableGroupBox::FollowState(EnableState state)
     if (state == stReleased)
         Release();
     else
-        setEnabled(state == stEnabled && !m_locked);
+        ValueLink::Enable(*this, state == stEnabled && !m_locked);
 }
 
 void VCCheckableGroupBox::Show(bool on)

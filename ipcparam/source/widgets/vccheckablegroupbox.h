@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ipcparam/export.h"
 #include "value/value.h"
 #include "value/valueselection.h"
 #include "valuewidgets/fieldholder.h"
@@ -12,7 +13,7 @@ namespace TKE
 /// A group box whose title check box is bound to one value, a boolean or a selection (key 0 is unchecked, any other key
 /// checked), so that one value switches a whole group of rows. It follows the value's state and is disabled until a
 /// value enables it.
-class VCCheckableGroupBox : public QGroupBox, public IObserver, public FieldHolder
+class IPCPARAM_EXPORT VCCheckableGroupBox : public QGroupBox, public IObserver, public FieldHolder
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ipcparam/export.h"
 #include "value/value.h"
 #include "valuewidgets/valuelink.h"
 #include "widgets/numberrows.h"
@@ -16,7 +17,7 @@ namespace TKE
 /// stored is shown in its order; a sorted list is brought into ascending order, without duplicates or overlaps, by the
 /// user's edits only. Every accepted edit writes the whole list; a number that cannot be read or lies outside the
 /// limits leaves the cell as it was.
-class VCListBoxNumeric : public QTableWidget, public ValueLink
+class IPCPARAM_EXPORT VCListBoxNumeric : public QTableWidget, public ValueLink
 {
     Q_OBJECT
 
