@@ -18,6 +18,7 @@ using namespace JOBEDIT;
 using namespace TKE;
 
 inline const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+inline const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
 inline const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
 
 inline QByteArray ReadAll(const QString& fileName)
@@ -31,6 +32,33 @@ inline void WriteAll(const QString& fileName, const QByteArray& bytes)
     QFile file(fileName);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
+
+/// Does this with the next modal dialog.
+class Next : public QObject
+{
+public:
+    explicit Next(std::function<void(QDialog&)> act) : m_act(std::move(act))
+    {
+        m_timer.callOnTimeout(this, [this] { Look(); });
+        m_timer.start(10);
+    }
+    bool HasActed() const { return !m_timer.isActive(); }
+
+private:
+    void Look()
+    {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        m_timer.stop();
+        m_act(*dialog);
+        if (dialog && QTest::currentTestFailed())
+            dialog->reject(); // the test goes on
+    }
+
+    std::function<void(QDialog&)> m_act;
+    QTimer m_timer;
+};
 
 /// Presses these buttons of the next message boxes, one of each, and keeps what the boxes said.
 class Answer : public QObject
@@ -121,6 +149,36 @@ public:
     {
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &window, key, modifiers);
+    }
+};
+
+/// Settings and files of a test, away from those of the user. It leaves an empty tree.
+class Surroundings
+{
+public:
+    Surroundings()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+        QLocale::setDefault(QLocale::C);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+    }
+    ~Surroundings() { Tree::Instance()->Clear(); }
+    QString File(const QString& name) const { return m_directory.filePath(name); }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+/// An editor with the sample job.
+class Desk : public Surroundings, public Editor
+{
+public:
+    Desk()
+    {
+        if (!window.NewFromSample())
+            qFatal("The sample cannot be loaded.");
     }
 };
 

@@ -2,6 +2,7 @@
 #include "jobedit/chains.h"
 #include "jobedit/changemark.h"
 #include "jobedit/nightcolours.h"
+#include "table.h"
 
 #include <QAccessible>
 #include <set>
@@ -284,11 +285,10 @@ private Q_SLOTS:
 
     void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab_data()
     {
-        QTest::addColumn<Opened>("opened");
-        QTest::addColumn<int>("atLeast");
-        QTest::newRow("job form") << Opened::JobForm << 500;
-        QTest::newRow("stand-alone form") << Opened::StandAloneForm << 500;
-        QTest::newRow("panels") << Opened::Panels << 50;
+        const Table<Opened, int> row("opened", "atLeast");
+        row("job form", Opened::JobForm, 500);
+        row("stand-alone form", Opened::StandAloneForm, 500);
+        row("panels", Opened::Panels, 50);
     }
     void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab()
     {

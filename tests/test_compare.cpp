@@ -5,6 +5,7 @@
 #include "jobedit/nodepane.h"
 #include "jobedit/otherjob.h"
 #include "keys/keys.h"
+#include "table.h"
 
 #include <QTest>
 #include <QtWidgets>
@@ -99,17 +100,15 @@ private Q_SLOTS:
 
     void differencesComeInTheOrderOfTheFile_data()
     {
-        QTest::addColumn<QByteArray>("right");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("none") << Sample() << "";
-        QTest::newRow("a value") << SampleWithFrequency("7040000") << "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n";
-        QTest::newRow("nodes") << Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW")
-                               << "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath +
-                                      ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n";
-        QTest::newRow("channels") << Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"1\"")
-                                  << "- /Jobs/Demo/TDS_EXC/CS_RASTER/DETECTOR/Range2/: (node)\n";
-        QTest::newRow("a type") << Sample().replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\"")
-                                << "~ " + tunerPath + ": IPC_TUNER_HF -> IPC_OTHER\n";
+        const Table<QByteArray, QString> row("right", "text");
+        row("none", Sample(), "");
+        row("a value", SampleWithFrequency("7040000"), "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n");
+        row("nodes", Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW"),
+            "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n");
+        row("channels", Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"1\""),
+            "- /Jobs/Demo/TDS_EXC/CS_RASTER/DETECTOR/Range2/: (node)\n");
+        row("a type", Sample().replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""),
+            "~ " + tunerPath + ": IPC_TUNER_HF -> IPC_OTHER\n");
     }
     void differencesComeInTheOrderOfTheFile()
     {
@@ -160,28 +159,17 @@ private Q_SLOTS:
 
     void contentsAreReadable_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("text");
+        const Table<int, QString, QString> row("kind", "stored", "text");
         const int frequency = int(ValueKind::Frequency);
-        QTest::newRow("0 Hz") << frequency << "0"
-                              << "0 Hz";
-        QTest::newRow("Hz") << frequency << "999"
-                            << "999 Hz";
-        QTest::newRow("kHz") << frequency << "1050"
-                             << "1.05 kHz";
-        QTest::newRow("MHz") << frequency << "433920001"
-                             << "433.920001 MHz";
-        QTest::newRow("GHz") << frequency << "3000000000"
-                             << "3 GHz";
-        QTest::newRow("negative") << frequency << "-5000"
-                                  << "-5000 Hz";
-        QTest::newRow("number") << int(ValueKind::Double) << "-2.5"
-                                << "-2.5 dB";
-        QTest::newRow("off") << int(ValueKind::Bool) << "false"
-                             << "off";
-        QTest::newRow("items") << int(ValueKind::Selection) << "1;9"
-                               << "One, 9";
+        row("0 Hz", frequency, "0", "0 Hz");
+        row("Hz", frequency, "999", "999 Hz");
+        row("kHz", frequency, "1050", "1.05 kHz");
+        row("MHz", frequency, "433920001", "433.920001 MHz");
+        row("GHz", frequency, "3000000000", "3 GHz");
+        row("negative", frequency, "-5000", "-5000 Hz");
+        row("number", int(ValueKind::Double), "-2.5", "-2.5 dB");
+        row("off", int(ValueKind::Bool), "false", "off");
+        row("items", int(ValueKind::Selection), "1;9", "One, 9");
     }
     void contentsAreReadable()
     {
@@ -362,11 +350,10 @@ private Q_SLOTS:
 
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack_data()
     {
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<bool>("takeOver");
-        QTest::newRow("keep mine") << true << false;
-        QTest::newRow("take theirs") << true << true;
-        QTest::newRow("nothing of mine: theirs is ticked") << false << true;
+        const Table<bool, bool> row("modified", "takeOver");
+        row("keep mine", true, false);
+        row("take theirs", true, true);
+        row("nothing of mine: theirs is ticked", false, true);
     }
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack()
     {

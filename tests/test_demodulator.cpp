@@ -1,5 +1,6 @@
 #include "analysis/demodulatordlg.h"
 #include "demodulatorfixture.h"
+#include "table.h"
 #include "valuewidgets/vccomboboxclassic.h"
 #include "valuewidgets/vcnumericfloatspin.h"
 
@@ -142,12 +143,11 @@ private Q_SLOTS:
 
     void anEditInThePanelMayReplaceThePanel_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QList<int>>("strokes");
-        QTest::newRow("combo box") << "MODTYPE" << QList<int>{Qt::Key_Down};
-        QTest::newRow("list of a combo box") << "MODTYPE" << QList<int>{Qt::Key_F4, Qt::Key_Down, Qt::Key_Return};
-        QTest::newRow("number typed") << "BAUDRATE" << QList<int>{Qt::Key_7, Qt::Key_Tab};
-        QTest::newRow("check box") << "EQUALIZERMODE" << QList<int>{Qt::Key_Space};
+        const Table<QString, QList<int>> row("key", "strokes");
+        row("combo box", "MODTYPE", QList<int>{Qt::Key_Down});
+        row("list of a combo box", "MODTYPE", QList<int>{Qt::Key_F4, Qt::Key_Down, Qt::Key_Return});
+        row("number typed", "BAUDRATE", QList<int>{Qt::Key_7, Qt::Key_Tab});
+        row("check box", "EQUALIZERMODE", QList<int>{Qt::Key_Space});
     }
     void anEditInThePanelMayReplaceThePanel()
     {
@@ -245,10 +245,9 @@ private Q_SLOTS:
 
     void everyEditorCanBeReachedInASmallWindow_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("vuhf");
-        QTest::newRow("many common rows") << "FSK" << true;
-        QTest::newRow("a list") << "McPSK" << false;
+        const Table<QString, bool> row("name", "vuhf");
+        row("many common rows", "FSK", true);
+        row("a list", "McPSK", false);
     }
     void everyEditorCanBeReachedInASmallWindow()
     {

@@ -1,4 +1,5 @@
 #include "demodulatorfixture.h"
+#include "table.h"
 
 #include <QTest>
 #include <QTranslator>
@@ -118,10 +119,8 @@ private Q_SLOTS:
 
     void linesStandWhereTheDemodulationHasSomethingToDivide_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("lines"); // row and columns of each, and the cell where one divides the columns
-        const auto row = [](const char* title, const char* name, const char* lines)
-        { QTest::newRow(title) << QString(name) << QString(lines); };
+        // lines: row and columns of each, and the cell where one divides the columns
+        const Table<QString, QString> row("name", "lines");
         row("all lines", "FSK", "1/8 3/8 2|4");
         row("nothing of its own", "ASK", "1/10 3/10");
         row("nothing in common", "F7W", "3/10");

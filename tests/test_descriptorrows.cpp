@@ -1,6 +1,7 @@
 #include "jobmodel/jobmodel.h"
 #include "keys/keymanager.h"
 #include "panelgrid.h"
+#include "table.h"
 #include "valuewidgets/guicentral.h"
 #include "widgets/vclistboxnumeric.h"
 
@@ -191,11 +192,9 @@ private slots:
 
     void aListOfFrequenciesHasNoLabelButAHeader_data()
     {
-        QTest::addColumn<bool>("kiloHertz");
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<double>("first");
-        QTest::newRow("kHz") << true << "Label [kHz]" << 3000.0;
-        QTest::newRow("MHz") << false << "Label [MHz]" << 3.0;
+        const Table<bool, QString, double> row("kiloHertz", "header", "first");
+        row("kHz", true, "Label [kHz]", 3000.0);
+        row("MHz", false, "Label [MHz]", 3.0);
     }
     void aListOfFrequenciesHasNoLabelButAHeader()
     {

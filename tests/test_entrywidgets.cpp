@@ -1,4 +1,5 @@
 #include "application/errorhandler.h"
+#include "table.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/guicentral.h"
 #include "valuewidgets/numericvalue.h"
@@ -75,14 +76,12 @@ private slots:
 
     void whatNoValueCanHoldExactlyIsRefused_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("factor");
-        QTest::newRow("integer") << int(ValueKind::Int) << "2147483648" << 1.0;
-        QTest::newRow("frequency that ends the whole numbers") << int(ValueKind::Frequency) << "9223372036854775807" << 1.0;
-        QTest::newRow("frequency without end") << int(ValueKind::Frequency) << "1e300" << 0.3;
-        QTest::newRow("infinite after the factor") << int(ValueKind::Double) << "1e308" << 0.3;
-        QTest::newRow("infinite") << int(ValueKind::Double) << "1e999" << 1.0;
+        const Table<int, QString, double> row("kind", "text", "factor");
+        row("integer", int(ValueKind::Int), "2147483648", 1.0);
+        row("frequency that ends the whole numbers", int(ValueKind::Frequency), "9223372036854775807", 1.0);
+        row("frequency without end", int(ValueKind::Frequency), "1e300", 0.3);
+        row("infinite after the factor", int(ValueKind::Double), "1e308", 0.3);
+        row("infinite", int(ValueKind::Double), "1e999", 1.0);
     }
     void whatNoValueCanHoldExactlyIsRefused()
     {
@@ -135,11 +134,7 @@ private slots:
 
     void refusedEntriesStayInPlace_data()
     {
-        QTest::addColumn<ValueKind>("kind");
-        QTest::addColumn<bool>("spin");
-        QTest::addColumn<QString>("typed");
-        const auto row = [](const char* name, ValueKind kind, bool spin, const char* typed)
-        { QTest::newRow(name) << kind << spin << typed; };
+        const Table<ValueKind, bool, QString> row("kind", "spin", "typed");
         row("spin box: no number", ValueKind::Int, true, "abc");
         row("spin box: fraction of an integer", ValueKind::Int, true, "1,5");
         row("spin box: above the range", ValueKind::Int, true, "101");

@@ -1,6 +1,7 @@
 #include "exciterfixture.h"
 #include "ipcparam/ipcparam.h"
 #include "jobmodel/jobfile.h"
+#include "table.h"
 #include "valuewidgets/vcfrequency.h"
 
 #include <QTest>
@@ -139,18 +140,14 @@ private slots:
 
     void rulesFollowTheirOwnValue_data()
     {
-        QTest::addColumn<QString>("panel");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QStringList>("texts");    // the stored content of the value ...
-        QTest::addColumn<QStringList>("disabled"); // ... and what it disables
-        QTest::newRow("blanking") << "ExciterSCUDlg" << QString(ScuBlanking) << QStringList{"true", "false"}
-                                  << QStringList{"", "ScuBlankingTime"};
+        // texts: the stored content of the value ...; disabled: ... and what it disables
+        const Table<QString, QString, QStringList, QStringList> row("panel", "key", "texts", "disabled");
+        row("blanking", "ExciterSCUDlg", QString(ScuBlanking), {"true", "false"}, {"", "ScuBlankingTime"});
         // An unknown threshold mode leaves things as they are.
-        QTest::newRow("threshold") << "WDERasterDetectorDlg" << QString(RasterThresholdMode)
-                                   << QStringList{"0", "7", "1"}
-                                   << QStringList{"RasterThresholdRel", "RasterThresholdRel", "RasterThresholdAbs"};
-        QTest::newRow("fading") << "WDESimulationDlg" << QString(SimulationFading) << QStringList{"false", "true"}
-                                << QStringList{"SimulationChannelModel SimulationSeed", ""};
+        row("threshold", "WDERasterDetectorDlg", QString(RasterThresholdMode), {"0", "7", "1"},
+            {"RasterThresholdRel", "RasterThresholdRel", "RasterThresholdAbs"});
+        row("fading", "WDESimulationDlg", QString(SimulationFading), {"false", "true"},
+            {"SimulationChannelModel SimulationSeed", ""});
     }
     void rulesFollowTheirOwnValue()
     {

@@ -7,6 +7,7 @@
 #include "jobedit/mainwindow.h"
 #include "jobedit/nodepane.h"
 #include "keys/keys.h"
+#include "table.h"
 #include "valuewidgets/valuelink.h"
 
 #include <QTest>
@@ -89,25 +90,19 @@ private Q_SLOTS:
 
     void wordsFindTheBestFieldFirst_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("path"); // end of the first path; empty: nothing is found
+        // path: end of the first path; empty: nothing is found
+        const Table<QString, QString> row("words", "path");
         const QString tuner = "CS_TUNER/TUNER/";
-        QTest::newRow("label") << "tds_hf1/cs_tuner if bandwidth" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("words in any order and case")
-            << "BANDWIDTH cs_tuner IF tds_hf1" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("German label") << "cs_tuner zf-bandbreite" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("umlaut") << QString::fromUtf8("cs_tuner VERST\u00c4RKUNG")
-                                << tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD;
-        QTest::newRow("key") << "tuner_hf_nb_bfo tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
-        QTest::newRow("whole path") << tunerPath + Keys::TUNER_HF_NB_NF2_BANDWIDTH
-                                    << tuner + Keys::TUNER_HF_NB_NF2_BANDWIDTH;
-        QTest::newRow("description") << "offset for cw /tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
-        QTest::newRow("unit") << QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1")
-                              << tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD;
-        QTest::newRow("a word that is nowhere") << "gain xyzzy"
-                                                << "";
-        QTest::newRow("no word") << " / "
-                                 << "";
+        row("label", "tds_hf1/cs_tuner if bandwidth", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("words in any order and case", "BANDWIDTH cs_tuner IF tds_hf1", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("German label", "cs_tuner zf-bandbreite", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("umlaut", QString::fromUtf8("cs_tuner VERST\u00c4RKUNG"), tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
+        row("key", "tuner_hf_nb_bfo tds_hf1/cs_tuner", tuner + Keys::TUNER_HF_NB_BFOFREQUENCY);
+        row("whole path", tunerPath + Keys::TUNER_HF_NB_NF2_BANDWIDTH, tuner + Keys::TUNER_HF_NB_NF2_BANDWIDTH);
+        row("description", "offset for cw /tds_hf1/cs_tuner", tuner + Keys::TUNER_HF_NB_BFOFREQUENCY);
+        row("unit", QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1"), tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD);
+        row("a word that is nowhere", "gain xyzzy", "");
+        row("no word", " / ", "");
     }
     void wordsFindTheBestFieldFirst()
     {

@@ -5,6 +5,7 @@
 #include "jobedit/planexport.h"
 #include "jobedit/planpane.h"
 #include "jobedit/planview.h"
+#include "table.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -90,30 +91,23 @@ private Q_SLOTS:
 
     void aChainsLaneSaysWhatItDoes_data()
     {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QStringList>("marks");
-        QTest::newRow("tuner with a scan that is off")
-            << "TDS_HF1/CS_TUNER/TUNER/"
-            << QStringList{"Scan: 3 MHz to 3.5 MHz (switched off)", "Receive frequency: 10 MHz, bandwidth 2.7 kHz",
-                           "Scan list 1: 3.5 MHz (switched off)", "Scan list 2: 5.732 MHz (switched off)",
-                           "Scan list 3: 6.501 MHz (switched off)"};
-        QTest::newRow("down-converter in a wideband")
-            << "TDS_HFWB/CS_VOICE/VOICE/"
-            << QStringList{"Wideband reception: 8 MHz, bandwidth 2 MHz",
-                           "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
-                           "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
-                           "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"};
-        QTest::newRow("receiver scan") << "TDS_WBRX/CS_WBRX/RECEIVER/"
-                                       << QStringList{"Panorama: 100 MHz, bandwidth 10 MHz",
-                                                      "Receiver scan 1: 118 MHz to 137 MHz",
-                                                      "Receiver scan 2: 156 MHz to 162 MHz",
-                                                      "Receive frequency: 100 MHz, bandwidth 120 kHz"};
-        QTest::newRow("ranges of channel nodes")
-            << "TDS_EXC/CS_RASTER/DETECTOR/"
-            << QStringList{"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"};
-        QTest::newRow("emitters") << "TDS_EXC/CS_SIM/SIMULATION/"
-                                  << QStringList{"Simulated emitter 1: 10 MHz", "Simulated emitter 2: 10.01 MHz",
-                                                 "Simulated emitter 3: 10.02 MHz"};
+        const Table<QString, QStringList> row("node", "marks");
+        row("tuner with a scan that is off", "TDS_HF1/CS_TUNER/TUNER/",
+            {"Scan: 3 MHz to 3.5 MHz (switched off)", "Receive frequency: 10 MHz, bandwidth 2.7 kHz",
+             "Scan list 1: 3.5 MHz (switched off)", "Scan list 2: 5.732 MHz (switched off)",
+             "Scan list 3: 6.501 MHz (switched off)"});
+        row("down-converter in a wideband", "TDS_HFWB/CS_VOICE/VOICE/",
+            {"Wideband reception: 8 MHz, bandwidth 2 MHz",
+             "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
+             "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
+             "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"});
+        row("receiver scan", "TDS_WBRX/CS_WBRX/RECEIVER/",
+            {"Panorama: 100 MHz, bandwidth 10 MHz", "Receiver scan 1: 118 MHz to 137 MHz",
+             "Receiver scan 2: 156 MHz to 162 MHz", "Receive frequency: 100 MHz, bandwidth 120 kHz"});
+        row("ranges of channel nodes", "TDS_EXC/CS_RASTER/DETECTOR/",
+            {"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"});
+        row("emitters", "TDS_EXC/CS_SIM/SIMULATION/",
+            {"Simulated emitter 1: 10 MHz", "Simulated emitter 2: 10.01 MHz", "Simulated emitter 3: 10.02 MHz"});
     }
     void aChainsLaneSaysWhatItDoes()
     {
@@ -163,17 +157,13 @@ private Q_SLOTS:
 
     void aMarkStandsOnTheAxisOfItsBand_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("content");
-        QTest::addColumn<bool>("onHf");
-        QTest::addColumn<bool>("onVuhf");
+        const Table<QString, QString, bool, bool> row("value", "content", "onHf", "onVuhf");
         const QString external = "TDS_EXT/CS_EXT/TUNER/TUNER_EXT_FREQUENCY";
-        QTest::newRow("last of HF") << external << "30000000" << true << false;
-        QTest::newRow("external receiver above HF") << external << "100000000" << false << true;
-        QTest::newRow("V/UHF device below 30 MHz") << "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY"
-                                                   << "25000000" << false << true;
-        QTest::newRow("range over both") << "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE"
-                                         << "20000000;40000000" << true << true;
+        row("last of HF", external, "30000000", true, false);
+        row("external receiver above HF", external, "100000000", false, true);
+        row("V/UHF device below 30 MHz", "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY", "25000000", false, true);
+        row("range over both", "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE", "20000000;40000000", true,
+            true);
     }
     void aMarkStandsOnTheAxisOfItsBand()
     {
@@ -196,14 +186,13 @@ private Q_SLOTS:
 
     void frequenciesReadExactly_data()
     {
-        QTest::addColumn<qint64>("hertz");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << qint64(0) << "0 Hz";
-        QTest::newRow("below 1 kHz") << qint64(999) << "999 Hz";
-        QTest::newRow("kHz") << qint64(12500) << "12,5 kHz";
-        QTest::newRow("MHz") << qint64(433'920'001) << "433,920001 MHz";
-        QTest::newRow("GHz to the last Hz") << qint64(1'234'567'891) << "1,234567891 GHz";
-        QTest::newRow("round") << qint64(3'000'000'000) << "3 GHz";
+        const Table<qint64, QString> row("hertz", "text");
+        row("zero", qint64(0), "0 Hz");
+        row("below 1 kHz", qint64(999), "999 Hz");
+        row("kHz", qint64(12500), "12,5 kHz");
+        row("MHz", qint64(433'920'001), "433,920001 MHz");
+        row("GHz to the last Hz", qint64(1'234'567'891), "1,234567891 GHz");
+        row("round", qint64(3'000'000'000), "3 GHz");
     }
     void frequenciesReadExactly()
     {
@@ -214,14 +203,13 @@ private Q_SLOTS:
 
     void theAxisHasRoundFrequenciesThatDoNotTouch_data()
     {
-        QTest::addColumn<double>("from");
-        QTest::addColumn<double>("to");
-        QTest::addColumn<QString>("text"); // one that is there
-        QTest::newRow("HF") << 0.0 << 30e6 << "15 MHz";
-        QTest::newRow("a channel") << 10.0e6 << 10.005e6 << "10001 kHz";
-        QTest::newRow("broadcast") << 87.5e6 << 108e6 << "90 MHz";
-        QTest::newRow("a V/UHF channel") << 145.0e6 << 145.05e6 << "145.02 MHz";
-        QTest::newRow("up to 3 GHz") << 20e6 << 3e9 << "1.0 GHz";
+        // text: one that is there
+        const Table<double, double, QString> row("from", "to", "text");
+        row("HF", 0.0, 30e6, "15 MHz");
+        row("a channel", 10.0e6, 10.005e6, "10001 kHz");
+        row("broadcast", 87.5e6, 108e6, "90 MHz");
+        row("a V/UHF channel", 145.0e6, 145.05e6, "145.02 MHz");
+        row("up to 3 GHz", 20e6, 3e9, "1.0 GHz");
     }
     void theAxisHasRoundFrequenciesThatDoNotTouch()
     {

@@ -6,6 +6,7 @@
 #include "jobedit/panelwindow.h"
 #include "jobedit/recentfiles.h"
 #include "keys/keys.h"
+#include "table.h"
 
 #include <QLockFile>
 #include <QTest>
@@ -233,17 +234,14 @@ private Q_SLOTS:
 
     void aFileThatCannotBeReadLeavesWhatWasOpen_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("place");
-        QTest::newRow("missing") << QByteArray() << "";
-        QTest::newRow("not well-formed") << QByteArray(
-                                                "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n")
-                                         << ":3:";
-        QTest::newRow("a value refused")
-            << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">\n"
-                          "  <Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\">\n"
-                          "    <Value name=\"TUNER_HF_NB_FREQUENCY\">much</Value>\n  </Node>\n</Job>\n")
-            << ":4:";
+        const Table<QByteArray, QString> row("content", "place");
+        row("missing", {}, "");
+        row("not well-formed", QByteArray("<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n"), ":3:");
+        row("a value refused",
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">\n"
+            "  <Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\">\n"
+            "    <Value name=\"TUNER_HF_NB_FREQUENCY\">much</Value>\n  </Node>\n</Job>\n",
+            ":4:");
     }
     void aFileThatCannotBeReadLeavesWhatWasOpen()
     {
@@ -278,11 +276,10 @@ private Q_SLOTS:
 
     void unsavedChangesAreAskedFor_data()
     {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("goes");
-        QTest::newRow("cancel") << "Cancel" << false;
-        QTest::newRow("discard") << "Discard" << true;
-        QTest::newRow("save") << "Save" << true;
+        const Table<QString, bool> row("button", "goes");
+        row("cancel", "Cancel", false);
+        row("discard", "Discard", true);
+        row("save", "Save", true);
     }
     void unsavedChangesAreAskedFor()
     {

@@ -2,6 +2,7 @@
 #include "jobedit/commands/command.h"
 #include "jobedit/jobdocument.h"
 #include "jobedit/largejob.h"
+#include "table.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -74,47 +75,41 @@ private Q_SLOTS:
 
     void theCommandLineTellsByItsExitStatus_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("says");
-        QTest::newRow("help") << QStringList{"--help"} << 0 << "render";
-        QTest::newRow("version") << QStringList{"--version"} << 0 << "jobedit ";
-        QTest::newRow("a good file") << QStringList{"check", "good.job.xml"} << 0 << "";
-        QTest::newRow("one bad file of two")
-            << QStringList{"check", "good.job.xml", "bad.job.xml"} << 1 << "bad.job.xml:3:";
-        QTest::newRow("a value at fault")
-            << QStringList{"check", "values.job.xml"} << 1 << "values.job.xml: /T/SCAN_START_FREQUENCY: Start frequency: ";
-        QTest::newRow("a missing file") << QStringList{"check", "nowhere.xml"} << 1 << "nowhere.xml";
-        QTest::newRow("nothing to check") << QStringList{"check"} << 2 << "--help";
-        QTest::newRow("unknown option") << QStringList{"--sing"} << 2 << "sing";
-        QTest::newRow("render without a directory") << QStringList{"render"} << 2 << "--out";
-        QTest::newRow("unknown entry") << QStringList{"render", "--out", "d", "--entry", "X"} << 2 << "VoiceDDCDlg";
-        QTest::newRow("unknown form") << QStringList{"render", "--out", "d", "--form", "round"} << 2 << "standalone";
-        QTest::newRow("unknown language") << QStringList{"--language", "12"} << 2 << "12";
-        QTest::newRow("option of another command") << QStringList{"check", "x", "--out", "d"} << 2 << "render";
-        QTest::newRow("two jobs at once") << QStringList{"a", "b"} << 2 << "2";
-        QTest::newRow("render a bad file")
-            << QStringList{"render", "bad.job.xml", "--out", "d"} << 1 << "bad.job.xml:3:";
-        QTest::newRow("help of a command") << QStringList{"set", "--help"} << 0 << "--dry-run";
-        QTest::newRow("help names the arguments") << QStringList{"get", "--help"} << 0 << "get FILE PATH...";
-        QTest::newRow("unknown command") << QStringList{"frobnicate", "good.job.xml"} << 2 << "frobnicate";
-        QTest::newRow("too few arguments") << QStringList{"get", "good.job.xml"} << 2 << "FILE PATH...";
-        QTest::newRow("too many arguments") << QStringList{"diff", "a", "b", "c"} << 2 << "FILE1 FILE2";
-        QTest::newRow("no JSON of this") << QStringList{"new", "--json", "a"} << 2 << "--json";
-        QTest::newRow("no assignment") << QStringList{"set", "good.job.xml", "TDS_HF1"} << 2 << "PATH=VALUE";
-        QTest::newRow("no number of chains") << QStringList{"new", "a.xml", "--chains", "many"} << 2 << "--chains";
-        QTest::newRow("half an option") << QStringList{"diff", "a", "b", "--with", "c"} << 2 << "--node";
-        QTest::newRow("get of a bad file") << QStringList{"get", "bad.job.xml", "x"} << 1 << "bad.job.xml:3:";
-        QTest::newRow("get of no value") << QStringList{"get", "good.job.xml", "TDS_HF1/X"} << 1 << "TDS_HF1/X";
-        QTest::newRow("list of nothing") << QStringList{"list", "good.job.xml", "*nowhere*"} << 1 << "*nowhere*";
-        QTest::newRow("diff of no node") << QStringList{"diff", "good.job.xml", "good.job.xml", "--node", "N"} << 1
-                                         << "N";
-        QTest::newRow("new over a file") << QStringList{"new", "good.job.xml"} << 1 << "--force";
-        QTest::newRow("new where nothing can be")
-            << QStringList{"new", "no/such/directory.xml"} << 1 << "directory.xml";
-        QTest::newRow("too few chains") << QStringList{"new", "few.xml", "--chains", "1"} << 1 << "chains";
-        QTest::newRow("diff of equals") << QStringList{"diff", "good.job.xml", "good.job.xml"} << 0 << "";
-        QTest::newRow("a window without a display") << QStringList{"good.job.xml"} << 1 << "display";
+        const Table<QStringList, int, QString> row("arguments", "status", "says");
+        row("help", {"--help"}, 0, "render");
+        row("version", {"--version"}, 0, "jobedit ");
+        row("a good file", {"check", "good.job.xml"}, 0, "");
+        row("one bad file of two", {"check", "good.job.xml", "bad.job.xml"}, 1, "bad.job.xml:3:");
+        row("a value at fault", {"check", "values.job.xml"}, 1,
+            "values.job.xml: /T/SCAN_START_FREQUENCY: Start frequency: ");
+        row("a missing file", {"check", "nowhere.xml"}, 1, "nowhere.xml");
+        row("nothing to check", {"check"}, 2, "--help");
+        row("unknown option", {"--sing"}, 2, "sing");
+        row("render without a directory", {"render"}, 2, "--out");
+        row("unknown entry", {"render", "--out", "d", "--entry", "X"}, 2, "VoiceDDCDlg");
+        row("unknown form", {"render", "--out", "d", "--form", "round"}, 2, "standalone");
+        row("unknown language", {"--language", "12"}, 2, "12");
+        row("option of another command", {"check", "x", "--out", "d"}, 2, "render");
+        row("two jobs at once", {"a", "b"}, 2, "2");
+        row("render a bad file", {"render", "bad.job.xml", "--out", "d"}, 1, "bad.job.xml:3:");
+        row("help of a command", {"set", "--help"}, 0, "--dry-run");
+        row("help names the arguments", {"get", "--help"}, 0, "get FILE PATH...");
+        row("unknown command", {"frobnicate", "good.job.xml"}, 2, "frobnicate");
+        row("too few arguments", {"get", "good.job.xml"}, 2, "FILE PATH...");
+        row("too many arguments", {"diff", "a", "b", "c"}, 2, "FILE1 FILE2");
+        row("no JSON of this", {"new", "--json", "a"}, 2, "--json");
+        row("no assignment", {"set", "good.job.xml", "TDS_HF1"}, 2, "PATH=VALUE");
+        row("no number of chains", {"new", "a.xml", "--chains", "many"}, 2, "--chains");
+        row("half an option", {"diff", "a", "b", "--with", "c"}, 2, "--node");
+        row("get of a bad file", {"get", "bad.job.xml", "x"}, 1, "bad.job.xml:3:");
+        row("get of no value", {"get", "good.job.xml", "TDS_HF1/X"}, 1, "TDS_HF1/X");
+        row("list of nothing", {"list", "good.job.xml", "*nowhere*"}, 1, "*nowhere*");
+        row("diff of no node", {"diff", "good.job.xml", "good.job.xml", "--node", "N"}, 1, "N");
+        row("new over a file", {"new", "good.job.xml"}, 1, "--force");
+        row("new where nothing can be", {"new", "no/such/directory.xml"}, 1, "directory.xml");
+        row("too few chains", {"new", "few.xml", "--chains", "1"}, 1, "chains");
+        row("diff of equals", {"diff", "good.job.xml", "good.job.xml"}, 0, "");
+        row("a window without a display", {"good.job.xml"}, 1, "display");
     }
     void theCommandLineTellsByItsExitStatus()
     {
@@ -169,7 +164,8 @@ private Q_SLOTS:
             if (FindChain(node))
                 tabs += MakeDialog(node, form == "job" ? Form::Job : Form::StandAlone, nullptr)->count();
         QVERIFY(tabs > 0);
-        QCOMPARE(QDir(File("d")).entryList({"*_" + form + "_*.png"}, QDir::Files | QDir::CaseSensitive).size(), qsizetype(tabs));
+        QCOMPARE(QDir(File("d")).entryList({"*_" + form + "_*.png"}, QDir::Files | QDir::CaseSensitive).size(),
+                 qsizetype(tabs));
         QCOMPARE(outcome.out.count(".png\n"), QDir(File("d")).entryList(QDir::Files).size());
     }
 
@@ -193,47 +189,17 @@ private Q_SLOTS:
 
     void getPrintsWhatSetWrote_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("stored");
+        const Table<QString, QString, QString, QString> row("path", "typed", "text", "stored");
         const QString tuner = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_";
-        QTest::newRow("frequency with a unit") << tuner + "FREQUENCY"
-                                               << "7.1 MHz"
-                                               << "7100000"
-                                               << "7100000";
-        QTest::newRow("decimal comma") << tuner + "FREQUENCY"
-                                       << "7040,5 k"
-                                       << "7040500"
-                                       << "7040500";
-        QTest::newRow("whole path") << "/Jobs/Demo/" + tuner + "FREQUENCY"
-                                    << "5e6"
-                                    << "5000000"
-                                    << "5000000";
-        QTest::newRow("item by name") << tuner + "SQUELCHMODE"
-                                      << "Level and syllabic"
-                                      << "Level and syllabic"
-                                      << "3";
-        QTest::newRow("item in small letters") << tuner + "SQUELCHMODE"
-                                               << "syllabic"
-                                               << "Syllabic"
-                                               << "2";
-        QTest::newRow("item by key") << tuner + "SQUELCHMODE"
-                                     << "1"
-                                     << "Level"
-                                     << "1";
-        QTest::newRow("number with its unit") << tuner + "MGCVALUE"
-                                              << "33 dB"
-                                              << "33"
-                                              << "33";
-        QTest::newRow("switch") << tuner + "NF1_STATUS"
-                                << "on"
-                                << "true"
-                                << "true";
-        QTest::newRow("text with an umlaut and =") << "Resources/HF1/RESOURCE_NAME"
-                                                   << "Gerät=1 <ä>"
-                                                   << "Gerät=1 <ä>"
-                                                   << "Gerät=1 <ä>";
+        row("frequency with a unit", tuner + "FREQUENCY", "7.1 MHz", "7100000", "7100000");
+        row("decimal comma", tuner + "FREQUENCY", "7040,5 k", "7040500", "7040500");
+        row("whole path", "/Jobs/Demo/" + tuner + "FREQUENCY", "5e6", "5000000", "5000000");
+        row("item by name", tuner + "SQUELCHMODE", "Level and syllabic", "Level and syllabic", "3");
+        row("item in small letters", tuner + "SQUELCHMODE", "syllabic", "Syllabic", "2");
+        row("item by key", tuner + "SQUELCHMODE", "1", "Level", "1");
+        row("number with its unit", tuner + "MGCVALUE", "33 dB", "33", "33");
+        row("switch", tuner + "NF1_STATUS", "on", "true", "true");
+        row("text with an umlaut and =", "Resources/HF1/RESOURCE_NAME", "Gerät=1 <ä>", "Gerät=1 <ä>", "Gerät=1 <ä>");
     }
     void getPrintsWhatSetWrote()
     {
@@ -355,24 +321,17 @@ private Q_SLOTS:
 
     void resultsAreOneJsonDocument_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QStringList>("keys");
+        const Table<QStringList, int, QString, int, QStringList> row("arguments", "status", "list", "count", "keys");
         const QStringList value{"changed", "default", "enabled", "kind", "label", "maximum",
                                 "minimum", "path",    "stored",  "unit", "value"};
         const QString frequency = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY";
-        QTest::newRow("get") << QStringList{"get", "a.xml", frequency} << 0 << "values" << 1 << value;
-        QTest::newRow("get nothing") << QStringList{"get", "a.xml", "X"} << 1 << "values" << 0 << QStringList();
-        QTest::newRow("list") << QStringList{"list", "a.xml", "*HF1/CS_TUNER/*/TUNER_HF_NB_FREQUENC?"} << 0 << "values"
-                              << 1 << value;
-        QTest::newRow("list nodes") << QStringList{"list", "a.xml", "--nodes", "TDS_HF1/CS_TUNER"} << 0 << "nodes" << 2
-                                    << QStringList{"band", "count", "groups", "path", "type"};
-        QTest::newRow("diff") << QStringList{"diff", "a.xml", "b.xml"} << 1 << "differences" << 1
-                              << QStringList{"left", "path", "right", "what"};
-        QTest::newRow("check") << QStringList{"check", "bad.xml"} << 1 << "findings" << 2
-                               << QStringList{"column", "file", "line", "path", "reason", "severity"};
+        row("get", {"get", "a.xml", frequency}, 0, "values", 1, value);
+        row("get nothing", {"get", "a.xml", "X"}, 1, "values", 0, {});
+        row("list", {"list", "a.xml", "*HF1/CS_TUNER/*/TUNER_HF_NB_FREQUENC?"}, 0, "values", 1, value);
+        row("list nodes", {"list", "a.xml", "--nodes", "TDS_HF1/CS_TUNER"}, 0, "nodes", 2,
+            {"band", "count", "groups", "path", "type"});
+        row("diff", {"diff", "a.xml", "b.xml"}, 1, "differences", 1, {"left", "path", "right", "what"});
+        row("check", {"check", "bad.xml"}, 1, "findings", 2, {"column", "file", "line", "path", "reason", "severity"});
     }
     void resultsAreOneJsonDocument()
     {

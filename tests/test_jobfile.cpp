@@ -1,5 +1,6 @@
 #include "jobmodel/jobfile.h"
 #include "keys/keymanager.h"
+#include "table.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -159,8 +160,8 @@ private slots:
         QTest::newRow("unknown item") << Job("<Value name=\"TUNER_HF_NB_GAIN_CTRL_METHOD\">77</Value>");
         QTest::newRow("newer version") << Job({}).replace("version=\"1\">", "version=\"2\" new=\"\">");
         QTest::newRow("values after nodes") << Job("<Node name=\"B\" type=\"\"/>" + Mgc("61"));
-        QTest::newRow("names of any kind") << Job(
-            "<Node name=\"a&#9;b&#10;&#13;\" type=\"&lt;\"/><Node name=\"\\..\\ \" type=\"\"/><Node name=\"\xE2\x80\xAE\" type=\"\"/>");
+        QTest::newRow("names of any kind") << Job("<Node name=\"a&#9;b&#10;&#13;\" type=\"&lt;\"/><Node name=\"\\..\\ "
+                                                  "\" type=\"\"/><Node name=\"\xE2\x80\xAE\" type=\"\"/>");
         QTest::newRow("stray text") << Job("stray" + Mgc("61") + "\xC3\xA4 &gt;&#13;");
     }
     void whatNobodyEditsKeepsItsBytes()
@@ -181,10 +182,7 @@ private slots:
 
     void anEditChangesItsOwnElementOnly_data()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        const auto row = [](const char* name, const QByteArray& before, const QByteArray& after)
-        { QTest::newRow(name) << before << after; };
+        const Table<QByteArray, QByteArray> row("before", "after");
         const QByteArray begin = "<Value a='1' name='TUNER_HF_NB_MGCVALUE'>";
         row("by hand", Job(begin + " 61<!-- why --></Value >"), Job(begin + "70<!-- why --></Value >"));
         row("unknown within", Job(Mgc("<x>1</x>61")), Job(Mgc("70<x>1</x>")));
@@ -252,14 +250,8 @@ private slots:
 
     void anErrorNamesItsPlaceAndChangesNothing_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("line"); // 0: any
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("path");   // below the node; null: none
-        QTest::addColumn<QString>("reason"); // a piece of it
-        const auto row =
-            [](const char* name, const QByteArray& text, int line, int column, const char* path, const char* reason)
-        { QTest::newRow(name) << text << line << column << QString(path) << QString(reason); };
+        // line: 0: any; path: below the node; null: none; reason: a piece of it
+        const Table<QByteArray, int, int, QString, QString> row("text", "line", "column", "path", "reason");
 
         row("too much", Job("\n \xC3\xA4" + Mgc("121")), 4, 3, "/TUNER_HF_NB_MGCVALUE", "121");
         row("not a number", Job("\n" + Mgc("nan")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "nan");
@@ -381,7 +373,8 @@ private slots:
     {
         QByteArray nodes;
         for (int node = 0; node < 400; ++node)
-            nodes += "<Node name=\"" + QByteArray::number(node) + "\" type=\"\" groups=\"G_WDE_RASTER\" count=\"1000\"/>\n";
+            nodes +=
+                "<Node name=\"" + QByteArray::number(node) + "\" type=\"\" groups=\"G_WDE_RASTER\" count=\"1000\"/>\n";
         m_job->SetMostValues(20000);
         QVERIFY(!Load(Job("\n" + nodes)));
         QVERIFY2(m_error.reason.contains("values"), qPrintable(m_error.ToText()));

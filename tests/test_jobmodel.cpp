@@ -1,4 +1,5 @@
 #include "jobmodel/jobmodel.h"
+#include "table.h"
 
 #include <QFile>
 #include <QSet>
@@ -81,16 +82,15 @@ private slots:
 
     void aDescriptorSaysWhatARowNeeds_data()
     {
-        QTest::addColumn<QString>("numbers"); // float, double, long, integer, list
-        QTest::addColumn<int>("control");
-        QTest::addColumn<int>("subControl"); // -1: not valid
-        QTest::newRow("kind='selection' default='1' control='0'") << "-----" << 0 << -1;
-        QTest::newRow("kind='int' default='1' control='5' subControl='3' number='long'") << "--L--" << 5 << 3;
-        QTest::newRow("kind='double' default='1' control='3' number='float'") << "F----" << 3 << -1;
-        QTest::newRow("kind='double' default='1'") << "-D---" << 3 << -1;
-        QTest::newRow("kind='int' default='1'") << "---I-" << 2 << -1;
-        QTest::newRow("kind='frequency' default='1' control='6' subControl='0'") << "-----" << 6 << 0;
-        QTest::newRow("kind='list' default='1;2' control='6'") << "----S" << 6 << -1;
+        // numbers: float, double, long, integer, list; subControl: -1: not valid
+        const Table<QString, int, int> row("numbers", "control", "subControl");
+        row("kind='selection' default='1' control='0'", "-----", 0, -1);
+        row("kind='int' default='1' control='5' subControl='3' number='long'", "--L--", 5, 3);
+        row("kind='double' default='1' control='3' number='float'", "F----", 3, -1);
+        row("kind='double' default='1'", "-D---", 3, -1);
+        row("kind='int' default='1'", "---I-", 2, -1);
+        row("kind='frequency' default='1' control='6' subControl='0'", "-----", 6, 0);
+        row("kind='list' default='1;2' control='6'", "----S", 6, -1);
     }
     void aDescriptorSaysWhatARowNeeds()
     {
@@ -154,7 +154,8 @@ private slots:
         row("Parameter name='P' kind='int' at='M' default='5' min='3x'", "3x");
         for (const char* number : {"nan", "inf", "-inf", "1e999"})
             for (const char* limit : {"min", "max", "step"})
-                row("Parameter name='P' kind='double' at='M' default='5' " + QByteArray(limit) + "='" + number + "'", limit);
+                row("Parameter name='P' kind='double' at='M' default='5' " + QByteArray(limit) + "='" + number + "'",
+                    limit);
         row("Parameter name='P' kind='double' at='M' default='inf'", "default");
         row("Parameter name='P' kind='int' at='M' default='5' precision='-1'", "precision");
         row("Parameter name='P' kind='list' at='M' default='5' rows='2000000000'", "2000000000");
@@ -177,7 +178,8 @@ private slots:
                           "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>")
             << "document type" << 0;
         QTest::newRow("attribute of megabytes")
-            << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>" << "longer" << 0;
+            << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>"
+            << "longer" << 0;
         QTest::newRow("no UTF-8") << QByteArray("<JobModel version=\"1\">\n\xE4\xE4</JobModel>") << "UTF-8" << 0;
         QTest::newRow("another root") << QByteArray("<Job version=\"1\"/>") << "Job" << 0;
         QTest::newRow("no group") << QByteArray("<JobModel version=\"1\"/>") << "no group" << 0;

@@ -1,4 +1,5 @@
 #include "jobmodel/jobfile.h"
+#include "table.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -117,16 +118,11 @@ private slots:
 
     void namesThatCannotBeAreRefused_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("empty") << "AB"
-                               << "";
-        QTest::newRow("no segment") << "AB/IN"
-                                    << "..";
-        QTest::newRow("two segments") << "AB/IN"
-                                      << "a/b";
-        QTest::newRow("no node") << "NOWHERE"
-                                 << "a";
+        const Table<QString, QString> row("path", "name");
+        row("empty", "AB", "");
+        row("no segment", "AB/IN", "..");
+        row("two segments", "AB/IN", "a/b");
+        row("no node", "NOWHERE", "a");
     }
     void namesThatCannotBeAreRefused()
     {

@@ -1,4 +1,5 @@
 #include "numericlistwindow.h"
+#include "table.h"
 
 using namespace TKE;
 using namespace NumericListTest;
@@ -110,15 +111,14 @@ private slots:
 
     void leavingACellByAnyWayStoresIt_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<double>("stored");
-        QTest::addColumn<int>("column"); // where the editor is open afterwards
-        QTest::newRow("Return") << int(Qt::Key_Return) << 9e6 << -1;
-        QTest::newRow("Tab") << int(Qt::Key_Tab) << 9e6 << 2;
-        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab) << 9e6 << 0;
-        QTest::newRow("Down") << int(Qt::Key_Down) << 9e6 << -1;
-        QTest::newRow("another field") << 0 << 9e6 << -1;
-        QTest::newRow("Escape") << int(Qt::Key_Escape) << 2e6 << -1;
+        // column: where the editor is open afterwards
+        const Table<int, double, int> row("key", "stored", "column");
+        row("Return", int(Qt::Key_Return), 9e6, -1);
+        row("Tab", int(Qt::Key_Tab), 9e6, 2);
+        row("Shift+Tab", int(Qt::Key_Backtab), 9e6, 0);
+        row("Down", int(Qt::Key_Down), 9e6, -1);
+        row("another field", 0, 9e6, -1);
+        row("Escape", int(Qt::Key_Escape), 2e6, -1);
     }
     void leavingACellByAnyWayStoresIt()
     {
@@ -189,20 +189,19 @@ private slots:
 
     void whoHearsOfAnEditMayDeleteTheTable_data()
     {
-        QTest::addColumn<int>("opening"); // what opens an editor
-        QTest::addColumn<Way>("edit");
-        const auto add = [](const char* name, int opening, const Way& edit) { QTest::newRow(name) << opening << edit; };
+        // opening: what opens an editor
+        const Table<int, Way> row("opening", "edit");
         const auto press = [](Qt::Key key)
         { return Way([=](const ListWindow&) { Press(QApplication::focusWidget(), key); }); };
-        add("Return", Qt::Key_F2, press(Qt::Key_Return));
-        add("Tab", Qt::Key_F2, press(Qt::Key_Tab));
-        add("Down", Qt::Key_F2, press(Qt::Key_Down));
-        add("another field", Qt::Key_F2, [](const ListWindow& window) { window.other->setFocus(); });
-        add("another window", Qt::Key_F2, [](const ListWindow&) { Window().Open(); });
-        add("new row", Qt::Key_Insert, press(Qt::Key_Return));
-        add("Delete", 0, press(Qt::Key_Delete));
-        add("paste", 0, [](const ListWindow& window) { Paste(window.list, "5"); });
-        add("menu", 0, [](const ListWindow& window) { OpenMenu(window.list)[1]->trigger(); });
+        row("Return", Qt::Key_F2, press(Qt::Key_Return));
+        row("Tab", Qt::Key_F2, press(Qt::Key_Tab));
+        row("Down", Qt::Key_F2, press(Qt::Key_Down));
+        row("another field", Qt::Key_F2, [](const ListWindow& window) { window.other->setFocus(); });
+        row("another window", Qt::Key_F2, [](const ListWindow&) { Window().Open(); });
+        row("new row", Qt::Key_Insert, press(Qt::Key_Return));
+        row("Delete", 0, press(Qt::Key_Delete));
+        row("paste", 0, [](const ListWindow& window) { Paste(window.list, "5"); });
+        row("menu", 0, [](const ListWindow& window) { OpenMenu(window.list)[1]->trigger(); });
     }
     void whoHearsOfAnEditMayDeleteTheTable()
     {

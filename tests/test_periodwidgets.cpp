@@ -1,3 +1,4 @@
+#include "table.h"
 #include "widgetfixture.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vcdateperiod.h"
@@ -151,11 +152,10 @@ private slots:
 
     void aPeriodNeedsBothValues_data()
     {
-        QTest::addColumn<bool>("start");
-        QTest::addColumn<bool>("stop");
-        QTest::newRow("no start") << false << true;
-        QTest::newRow("no stop") << true << false;
-        QTest::newRow("neither") << false << false;
+        const Table<bool, bool> row("start", "stop");
+        row("no start", false, true);
+        row("no stop", true, false);
+        row("neither", false, false);
     }
     void aPeriodNeedsBothValues()
     {

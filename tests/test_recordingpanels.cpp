@@ -7,6 +7,7 @@
 #include "keys/keymanager.h"
 #include "keys/keys.h"
 #include "panelgrid.h"
+#include "table.h"
 #include "widgetfixture.h"
 
 using namespace TKE;
@@ -234,16 +235,12 @@ private Q_SLOTS:
 
     void theFlagsChooseTheGroupsOfActivityGeneration_data()
     {
-        QTest::addColumn<bool>("energy");
-        QTest::addColumn<bool>("level");
-        QTest::addColumn<bool>("conventional");
-        QTest::addColumn<QString>("groups"); // with the place of each
-        QTest::newRow("none") << false << false << false << "Database 0,1";
-        QTest::newRow("level") << false << true << true << "Level 0,0; Session 0,1; Database 1,1";
-        QTest::newRow("energy") << true << false << true
-                                << "Energy 0,0; Session 0,1; DDem 1,0; Database 1,1; Classifier 2,0";
-        QTest::newRow("both") << true << true << false
-                              << "Level 0,0; Session 0,1; Energy 1,0; Database 1,1; DDem 2,0; Classifier 3,0";
+        // groups: with the place of each
+        const Table<bool, bool, bool, QString> row("energy", "level", "conventional", "groups");
+        row("none", false, false, false, "Database 0,1");
+        row("level", false, true, true, "Level 0,0; Session 0,1; Database 1,1");
+        row("energy", true, false, true, "Energy 0,0; Session 0,1; DDem 1,0; Database 1,1; Classifier 2,0");
+        row("both", true, true, false, "Level 0,0; Session 0,1; Energy 1,0; Database 1,1; DDem 2,0; Classifier 3,0");
     }
     void theFlagsChooseTheGroupsOfActivityGeneration()
     {

@@ -4,6 +4,7 @@
 #include "jobedit/mainwindow.h"
 #include "jobedit/report.h"
 #include "jobedit/reportactions.h"
+#include "table.h"
 
 #include <QTest>
 #include <QXmlStreamReader>
@@ -143,37 +144,24 @@ private Q_SLOTS:
 
     void contentsAreShownAsPeopleReadThem_data()
     {
-        QTest::addColumn<QString>("value"); // below the job
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QStringList>("cells"); // without the key
+        // value: below the job; cells: without the key
+        const Table<QString, QString, QStringList> row("value", "stored", "cells");
         const QString on = "\u25cf";
         const QString tuner = "TDS_HF1/CS_TUNER/TUNER/";
-        QTest::newRow("frequency") << tuner + "TUNER_HF_NB_FREQUENCY"
-                                   << "7040500" << QStringList{on, "Frequency", "7.0405|default: 10 MHz", "MHz"};
-        QTest::newRow("selection") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
-                                   << "4" << QStringList{on, "Demodulation", "CW|default: USB", ""};
-        QTest::newRow("selection with a unit") << tuner + "TUNER_HF_NB_AGCDECAY"
-                                               << "50" << QStringList{on, "Decay", "50|default: 500 ms", "ms"};
-        QTest::newRow("unknown key") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
-                                     << "77" << QStringList{on, "Demodulation", "77|default: USB", ""};
-        QTest::newRow("several keys")
-            << "JOB_RESOURCES"
-            << "1;5"
-            << QStringList{on, "Resources",
-                           "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""};
-        QTest::newRow("list of frequencies")
-            << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE"
-            << "3000000;3000100"
-            << QStringList{on, "Excluded ranges", "3 MHz; 3.0001 MHz|default: empty", ""};
-        QTest::newRow("switch") << tuner + "SCAN_STATUS"
-                                << "true" << QStringList{on, "Scan On/Off", "on|default: off", ""};
-        QTest::newRow("emptied text") << "JOB_AUTHOR"
-                                      << "" << QStringList{on, "Author", "|default: Operator 1", ""};
-        QTest::newRow("as by default") << "JOB_AUTHOR"
-                                       << "Operator 1" << QStringList{"", "Author", "Operator 1", ""};
-        QTest::newRow("label with a colon and a unit of the panel")
-            << "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency"
-            << "10010000" << QStringList{"", "Emitter2, Frequency", "10.01", "MHz"};
+        row("frequency", tuner + "TUNER_HF_NB_FREQUENCY", "7040500",
+            {on, "Frequency", "7.0405|default: 10 MHz", "MHz"});
+        row("selection", tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD", "4", {on, "Demodulation", "CW|default: USB", ""});
+        row("selection with a unit", tuner + "TUNER_HF_NB_AGCDECAY", "50", {on, "Decay", "50|default: 500 ms", "ms"});
+        row("unknown key", tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD", "77", {on, "Demodulation", "77|default: USB", ""});
+        row("several keys", "JOB_RESOURCES", "1;5",
+            {on, "Resources", "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""});
+        row("list of frequencies", tuner + "SCAN_SEQ_EXCL_FREQ_RANGE", "3000000;3000100",
+            {on, "Excluded ranges", "3 MHz; 3.0001 MHz|default: empty", ""});
+        row("switch", tuner + "SCAN_STATUS", "true", {on, "Scan On/Off", "on|default: off", ""});
+        row("emptied text", "JOB_AUTHOR", "", {on, "Author", "|default: Operator 1", ""});
+        row("as by default", "JOB_AUTHOR", "Operator 1", {"", "Author", "Operator 1", ""});
+        row("label with a colon and a unit of the panel", "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency",
+            "10010000", {"", "Emitter2, Frequency", "10.01", "MHz"});
     }
     void contentsAreShownAsPeopleReadThem()
     {

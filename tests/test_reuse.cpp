@@ -9,6 +9,7 @@
 #include "jobedit/presetdialog.h"
 #include "jobedit/reuseactions.h"
 #include "keys/keys.h"
+#include "table.h"
 
 #include <QTest>
 #include <QtWidgets>
@@ -200,15 +201,14 @@ private Q_SLOTS:
 
     void whatTheClipboardHoldsBesidesIsNotPasted_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("text") << QByteArray("text/plain") << QByteArray("a\tb\n");
+        const Table<QByteArray, QByteArray> row("type", "content");
+        row("text", "text/plain", "a\tb\n");
         const QByteArray own = "application/x-jobedit-parameters";
-        QTest::newRow("damaged") << own << QByteArray("{\"format\":");
-        QTest::newRow("something else") << own << QByteArray("{}");
-        QTest::newRow("newer") << own << QByteArray(R"({"format":"jobedit-parameters","version":2,"values":[]})");
-        QTest::newRow("without content")
-            << own << QByteArray(R"({"format":"jobedit-parameters","version":1,"values":[{"path":"A"}]})");
+        row("damaged", own, "{\"format\":");
+        row("something else", own, "{}");
+        row("newer", own, QByteArray(R"({"format":"jobedit-parameters","version":2,"values":[]})"));
+        row("without content", own,
+            QByteArray(R"({"format":"jobedit-parameters","version":1,"values":[{"path":"A"}]})"));
     }
     void whatTheClipboardHoldsBesidesIsNotPasted()
     {
@@ -262,7 +262,8 @@ private Q_SLOTS:
     void presetsAreKeptUnderAnyName()
     {
         QFETCH(QString, name);
-        const QStringList before = QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        const QStringList before =
+            QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
         Presets presets(File("presets"));
         QVERIFY(presets.NameFault(name).isEmpty());
         QString reason;
@@ -278,7 +279,8 @@ private Q_SLOTS:
         QVERIFY(!presets.Rename(name, "other", reason));
         QVERIFY(presets.Remove(name, reason));
         QVERIFY(!presets.Load(name, reason));
-        QStringList others = QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QStringList others =
+            QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
         others.removeOne("presets");
         QCOMPARE(others, before);
     }

@@ -1,3 +1,4 @@
+#include "table.h"
 #include "value/idledisposal.h"
 #include "value/tree.h"
 
@@ -78,10 +79,7 @@ private slots:
 
     void AValueIsFoundByItsPathAndByNoOther_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("node");
-        const auto row = [](const char* name, const QString& path, const QString& node)
-        { QTest::newRow(name) << path << node; };
+        const Table<QString, QString> row("path", "node");
         row("deep", "/Jobs/Demo/TDS_1/KEY", "/Jobs/Demo/TDS_1");
         row("below the root", "/K", "/");
         row("beside the root, in a node", "JOBMANAGEMENT/IPC_TYPE", "JOBMANAGEMENT");
@@ -263,10 +261,7 @@ private slots:
 
     void WhoHearsOfAnEndMayRemoveMore_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("further");
-        const auto row = [](const char* name, const char* first, const char* further)
-        { QTest::newRow(name) << first << further; };
+        const Table<QString, QString> row("first", "further");
         row("a branch, then one beside it", "/a/b", "/x");
         row("a branch, then the one above it", "/a/b", "/a");
         row("a branch, then all", "/a/b", "");

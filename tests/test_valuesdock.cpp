@@ -5,6 +5,7 @@
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
 #include "keys/keys.h"
+#include "table.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -305,12 +306,11 @@ private Q_SLOTS:
 
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited_data()
     {
-        QTest::addColumn<bool>("asTree");
-        QTest::addColumn<bool>("scanning");
-        QTest::newRow("tree, settled") << true << false;
-        QTest::newRow("tree, under way") << true << true;
-        QTest::newRow("flat, settled") << false << false;
-        QTest::newRow("flat, under way") << false << true;
+        const Table<bool, bool> row("asTree", "scanning");
+        row("tree, settled", true, false);
+        row("tree, under way", true, true);
+        row("flat, settled", false, false);
+        row("flat, under way", false, true);
     }
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited()
     {
