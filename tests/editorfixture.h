@@ -33,6 +33,16 @@ inline void WriteAll(const QString& fileName, const QByteArray& bytes)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
+/// Does this whenever something that it observes changes.
+struct Hearer : IObserver
+{
+    explicit Hearer(std::function<void()> act) : m_act(std::move(act)) {}
+    void Update(Observable*, TChangeCode) override { m_act(); }
+
+private:
+    std::function<void()> m_act;
+};
+
 /// Does this with the next modal dialog.
 class Next : public QObject
 {

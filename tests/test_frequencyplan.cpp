@@ -1,6 +1,5 @@
+#include "editorfixture.h"
 #include "jobedit/frequencyplan.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/planactions.h"
 #include "jobedit/planexport.h"
 #include "jobedit/planpane.h"
@@ -8,19 +7,14 @@
 #include "table.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QXmlStreamReader>
-#include <QtWidgets>
-#include <algorithm>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
 
 const QString job = QStringLiteral("/Jobs/Demo/");
-const QString tunerPath = job + "TDS_HF1/CS_TUNER/TUNER/";
 
 const PlanLane* LaneOf(const FrequencyPlan& plan, const QString& path)
 {
@@ -49,45 +43,25 @@ class TestFrequencyPlan : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-    FrequencyPlan Plan() const { return FrequencyPlan::Of(m_window->Document().GetNodes(), *Tree::Instance()); }
-    PlanPane& Pane() const { return m_window->findChild<PlanActions*>()->Pane(); }
-    PlanView& Hf() const { return *Pane().View(Band::Hf); }
+    MainWindow& Window() { return m_desk->window; }
+    FrequencyPlan Plan() { return FrequencyPlan::Of(Window().Document().GetNodes(), *Tree::Instance()); }
+    PlanPane& Pane() { return Window().findChild<PlanActions*>()->Pane(); }
+    PlanView& Hf() { return *Pane().View(Band::Hf); }
     void ShowPlan()
     {
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QVERIFY(Hf().isVisible() && Hf().hasFocus());
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("frequencyplan");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        QSettings().clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->resize(1300, 1000);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
+        m_desk.emplace();
+        Window().resize(1300, 1000);
     }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_desk.reset(); }
 
     void aChainsLaneSaysWhatItDoes_data()
     {
@@ -289,18 +263,18 @@ private Q_SLOTS:
     {
         ShowPlan();
         Hf().SelectPath(tunerPath); // scrolls to it
-        m_window->Nodes().SelectNode(job + "TDS_HFWB/CS_VOICE/VOICE/");
+        Window().Nodes().SelectNode(job + "TDS_HFWB/CS_VOICE/VOICE/");
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_VOICE/VOICE/");
         Hf().SelectPath(tunerPath);
         QTest::mouseClick(Hf().viewport(), Qt::LeftButton, {}, Hf().PlaceOf(tunerPath, 20e6));
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
         // From the last chain of a section to the first of the next: the heading is passed over.
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
         QTest::keyClick(&Hf(), Qt::Key_Return);
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
         QTest::keyClick(&Hf(), Qt::Key_Up);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HF1/CS_VOICE/VOICE/");
         QVERIFY(Hf().accessibleDescription().contains("Receive frequency: 10 MHz"));
@@ -309,7 +283,7 @@ private Q_SLOTS:
     void thePlanFollowsEdits()
     {
         ShowPlan();
-        m_window->Nodes().SelectNode(tunerPath);
+        Window().Nodes().SelectNode(tunerPath);
         Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
         Set(tunerPath + "SCAN_STATUS", "true");
         QTRY_VERIFY(Hf().SelectedText().contains("Receive frequency: 7.0405 MHz"));
@@ -318,7 +292,7 @@ private Q_SLOTS:
         QVERIFY(Hf().SelectedText().contains("Scan list 1: 3.5 MHz (switched off)"));
         // A channel's own node belongs to the lane of its chain.
         const QString emitters = job + "TDS_EXC/CS_SIM/SIMULATION/";
-        m_window->Nodes().SelectNode(emitters);
+        Window().Nodes().SelectNode(emitters);
         Set(emitters + "Emitter2/EmitterFrequency", "12345678");
         QTRY_VERIFY(Hf().SelectedText().contains("Simulated emitter 2: 12.345678 MHz"));
     }
@@ -326,9 +300,9 @@ private Q_SLOTS:
     void aPlanBehindAnotherTabComesToTheFront()
     {
         ShowPlan();
-        m_window->findChild<QDockWidget*>("messageDock")->raise();
+        Window().findChild<QDockWidget*>("messageDock")->raise();
         QTRY_VERIFY(Hf().visibleRegion().isEmpty());
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QTRY_VERIFY(!Hf().visibleRegion().isEmpty());
     }
 
@@ -352,10 +326,10 @@ private Q_SLOTS:
     void aPlanThatWasHiddenIsUpToDateWhenShown()
     {
         ShowPlan();
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QVERIFY(!Hf().isVisible());
         Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
-        m_window->Nodes().SelectNode(tunerPath);
+        Window().Nodes().SelectNode(tunerPath);
         ShowPlan();
         QVERIFY(Hf().SelectedText().contains("7.0405 MHz"));
     }
@@ -373,11 +347,9 @@ private Q_SLOTS:
     void thePicturesHoldAllChains()
     {
         FileError error;
-        QVERIFY(m_window->Document().SaveAs(File("a <b> & \"c\".job.xml"), error));
-        QVERIFY2(ExportPlan(m_window->Document(), File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
-        QFile file(File("plan.svg"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader reader(&file);
+        QVERIFY(Window().Document().SaveAs(m_desk->File("a <b> & \"c\".job.xml"), error));
+        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
+        QXmlStreamReader reader(ReadAll(m_desk->File("plan.svg")));
         QString texts;
         while (!reader.atEnd())
             if (reader.readNext() == QXmlStreamReader::Characters)
@@ -388,15 +360,16 @@ private Q_SLOTS:
         for (const PlanLane& lane : plan.GetLanes())
             QVERIFY2(texts.contains(lane.title), qPrintable(lane.title));
 
-        QVERIFY2(ExportPlan(m_window->Document(), File("plan.png"), {1200, 2000}, error), qPrintable(error.reason));
-        const QImage picture(File("plan.png"));
+        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.png"), {1200, 2000}, error),
+                 qPrintable(error.reason));
+        const QImage picture(m_desk->File("plan.png"));
         QCOMPARE(picture.size(), QSize(1200, 2000));
         QSet<QRgb> colours;
         for (int y = 0; y < picture.height(); y += 3)
             for (int x = 0; x < picture.width(); x += 3)
                 colours.insert(picture.pixel(x, y));
         QVERIFY(colours.size() > 20);
-        QVERIFY(!m_window->Document().IsModified());
+        QVERIFY(!Window().Document().IsModified());
     }
 
     void aPictureThatCannotBeWrittenLeavesTheFile_data()
@@ -408,15 +381,12 @@ private Q_SLOTS:
     void aPictureThatCannotBeWrittenLeavesTheFile()
     {
         QFETCH(QString, name);
-        QFile there(File("plan.txt"));
-        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
-        there.close();
+        WriteAll(m_desk->File("plan.txt"), "kept");
         FileError error;
-        QVERIFY(!ExportPlan(m_window->Document(), File(name), {800, 0}, error));
-        QCOMPARE(error.file, File(name));
+        QVERIFY(!ExportPlan(Window().Document(), m_desk->File(name), {800, 0}, error));
+        QCOMPARE(error.file, m_desk->File(name));
         QVERIFY(!error.reason.isEmpty());
-        QVERIFY(there.open(QIODevice::ReadOnly));
-        QCOMPARE(there.readAll(), QByteArray("kept"));
+        QCOMPARE(ReadAll(m_desk->File("plan.txt")), QByteArray("kept"));
     }
 };
 
