@@ -18,8 +18,7 @@ class TestEditHistory : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<Editor> m_editor;
+    std::optional<Desk> m_editor;
     QByteArray m_start;
 
     EditHistory& History() { return m_editor->History(); }
@@ -61,26 +60,12 @@ class TestEditHistory : public QObject
     }
 
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
-        m_editor = std::make_unique<Editor>();
-        QVERIFY(m_editor->window.NewFromSample());
+        m_editor.emplace();
         m_start = m_editor->Bytes();
     }
-    void cleanup()
-    {
-        m_editor.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_editor.reset(); }
 
     void aTypedNumberIsOneStepThatIsNamed()
     {
@@ -372,7 +357,7 @@ private slots:
 
     void theMarkFollowsTheSavedStep()
     {
-        const QString file = m_directory->filePath("a.job.xml");
+        const QString file = m_editor->File("a.job.xml");
         const ValueBase& value = *Editor::Value(frequencyPath);
         const QString first = value.GetStoredText();
         m_editor->TypeFrequency("7040 k\t");
