@@ -72,8 +72,6 @@ private slots:
             QCOMPARE(grid.PathAt(1, 1), basePath + DECODED_TEXT_ALPHABET);
             QCOMPARE(ValueOf(DECODED_TEXT_ALPHABET)->GetStoredText(), text);
             QCOMPARE(alphabet->isEnabled(), !panel.IsReadOnly());
-            QCOMPARE(grid.PathAt(0, 1), basePath + DECODER_HF_DDC_DECODER_ID); // the same key in both bands
-            QCOMPARE(grid.At(0, 1)->maximumWidth(), 175);
         }
     }
 
@@ -103,25 +101,6 @@ private slots:
         QVERIFY(!panel);
     }
 
-    void theClassifierShowsTheClassesThatItsFormOffers()
-    {
-        for (const bool symbols : {false, true})
-        {
-            const ClassificatorDlg panel(basePath, true, symbols, false, nullptr, false);
-            const QSet<QString> names = BoundNames(panel);
-            QCOMPARE(names.size(), symbols ? 7 : 8);
-            QCOMPARE(names.contains(CLASSIFIER_DDC_SYMBOL_RECOGNITION), symbols);
-            QCOMPARE(names.contains(CLASSIFIER_DDC_PSK_MODULATION), !symbols);
-            // The units of the segmentation stand differently.
-            QVERIFY(Grid(panel).LabelAt(1, 2)->alignment() & Qt::AlignLeft);
-            QVERIFY(Grid(panel).LabelAt(2, 2)->alignment() & Qt::AlignRight);
-
-            const ClassificatorDlg segmentation(basePath, true, symbols, true, nullptr, false);
-            QCOMPARE(BoundNames(segmentation).size(), 3);
-            QCOMPARE(Grid(segmentation).PlaceOfLine(QFrame::VLine), Place{});
-        }
-    }
-
     void theClassifierDisablesTheFrequencyOffsetUnlessItIsKept()
     {
         ValueBase* offset = ValueOf(DEMODULATOR_HF_DDC_FREQUENCYOFFSET);
@@ -135,21 +114,11 @@ private slots:
         }
     }
 
-    void eachPatternEditsItsOwnValuesAndDisablesOneThatNoWidgetShows()
+    void eachPatternDisablesAValueThatNoWidgetShows()
     {
         const CorrelatorDlg panel(basePath, nullptr, false);
         for (int pattern = 1; pattern <= 4; ++pattern)
-        {
-            const Grid grid(Grid(panel).Group(QStringLiteral("Pattern %1").arg(pattern)));
-            const QString prefix = basePath + QStringLiteral("CORRELATOR_VUHF_P%1_").arg(pattern);
-            QCOMPARE(grid.PathAt(0, 1), prefix + "PATTERNNAME");
-            QCOMPARE(grid.PathAt(0, 2), prefix + "ACTIVE");
-            QCOMPARE(grid.PathAt(1, 1), prefix + "THRESHOLD");
-            Tree::Instance()->FindValue(prefix + "THRESHOLD")->SetFromText("0.25");
-            QCOMPARE(grid.At(1, 1)->findChild<QLineEdit*>()->text(), "0.25");
             QCOMPARE(ValueOf(Correlator::PatternKey(pattern, Correlator::SYMBOLVALANCY))->GetState(), stDisabled);
-        }
-        QCOMPARE(BoundNames(panel).size(), 4 * 3);
     }
 };
 

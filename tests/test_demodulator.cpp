@@ -37,9 +37,9 @@ struct Chooser : IObserver
 };
 
 /// The dialog in view, with the keyboard.
-std::unique_ptr<DemodulatorDlg> Open(bool vuhf = false, bool readOnly = false)
+std::unique_ptr<DemodulatorDlg> Open(bool vuhf = false)
 {
-    auto dialog = std::make_unique<DemodulatorDlg>(basePath, vuhf, nullptr, readOnly);
+    auto dialog = std::make_unique<DemodulatorDlg>(basePath, vuhf, nullptr, false);
     dialog->BuildPanel();
     dialog->show();
     return QTest::qWaitForWindowActive(dialog.get()) ? std::move(dialog) : nullptr;
@@ -54,22 +54,6 @@ class TestDemodulator : public QObject
 private Q_SLOTS:
     void init() { FillBothBands(); }
     void cleanup() { Tree::Instance()->SetJournal({}); }
-
-    void aReadOnlyPanelStaysDisabledWhateverItsValuesSay()
-    {
-        Demodulation()->SetFromText(QStringLiteral("McFSK"));
-        const auto dialog = Open(false, true);
-        for (const auto& value : Tree::Instance()->FindNode(basePath)->GetValues())
-        {
-            value->SetState(stDisabled);
-            value->SetState(stEnabled);
-        }
-        const auto editors = EditorsOf(*PanelOf(*dialog));
-        QVERIFY(editors.size() > 5);
-        for (QWidget* editor : editors)
-            QVERIFY2(!editor->isEnabled(), qPrintable(editor->objectName()));
-        QVERIFY(!dialog->findChild<VCComboBoxClassic*>(Demodulation()->GetName())->isEnabled());
-    }
 
     void aNewSelectionReplacesThePanelAtOnce()
     {

@@ -1,6 +1,5 @@
 #include "analysis/detectiondlg.h"
 #include "analysis/detectionshortdlg.h"
-#include "analysis/fftdatadlg.h"
 #include "analysis/spectralzoomdlg.h"
 #include "keys/keys.h"
 #include "numericlistwindow.h"
@@ -27,11 +26,11 @@ void TypeInto(VCListBoxNumeric* list, int row, int column, const QString& text)
     NumericListTest::Press(NumericListTest::Type(list, row, column, text), Qt::Key_Return);
 }
 
-std::unique_ptr<ParameterDlg> MakeDetection(bool isShort, bool megahertz, bool readOnly = false)
+std::unique_ptr<ParameterDlg> MakeDetection(bool isShort, bool megahertz)
 {
     if (isShort)
-        return std::make_unique<DetectionShortDlg>(basePath, false, megahertz, nullptr, readOnly);
-    return std::make_unique<DetectionDlg>(basePath, megahertz, nullptr, readOnly);
+        return std::make_unique<DetectionShortDlg>(basePath, false, megahertz, nullptr, false);
+    return std::make_unique<DetectionDlg>(basePath, megahertz, nullptr, false);
 }
 
 } // namespace
@@ -44,7 +43,7 @@ private slots:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void init()
     {
-        for (const char* group : {"G_DETCONV", "G_DETSHORT", "G_SPECTRUM"})
+        for (const char* group : {"G_DETCONV", "G_DETSHORT"})
             Fill(group);
     }
     void cleanup() { WidgetFixture::CleanUp(); }
@@ -65,7 +64,6 @@ private slots:
                 QCOMPARE(list->item(0, 0)->text(), megahertz ? "1.5" : "1500");
                 TypeInto(list, 0, 1, megahertz ? "1.7005" : "1700.5");
                 QCOMPARE(ValueOf(key)->GetStoredText(), "1500000;1700500");
-                QVERIFY(!ListIn(*MakeDetection(isShort, megahertz, true), title)->isEnabled());
             }
         }
     }
@@ -86,10 +84,9 @@ private slots:
         }
     }
 
-    void shortTimeBandwidthsAreEnteredInKilohertzAndOthersChosen()
+    void shortTimeBandwidthsAreEnteredInKilohertz()
     {
         const auto shortTime = MakeDetection(true, false);
-        const auto longTime = MakeDetection(false, false);
         shortTime->show();
         const QString keys[] = {DDC_DETECTSHORT_SIGNAL_BANDWIDTH_MINIMUM, DDC_DETECTSHORT_SIGNAL_BANDWIDTH_MAXIMUM};
         for (const int row : {1, 2})
@@ -103,19 +100,6 @@ private slots:
             QTest::keyClicks(spin, "6.5");
             QTest::keyClick(spin, Qt::Key_Return);
             QCOMPARE(value->GetStoredText(), "6500");
-            QVERIFY(qobject_cast<QComboBox*>(Grid(*longTime).At(row, 6)));
-        }
-    }
-
-    void theSpectrumHasTheRowsOfItsForm()
-    {
-        for (const bool flag : {false, true})
-        {
-            const FFTDataDlg panel(basePath, flag, !flag, nullptr, false);
-            const QSet<QString> names = BoundNames(panel);
-            QCOMPARE(names.contains(SPECTRUM_FFT_LENGTH), flag);
-            QCOMPARE(names.contains(SPECTRUM_RESOLUTIONBW), !flag);
-            QCOMPARE(names.contains(SPECTRUM_MAX_SPECTRUMRATE), !flag);
         }
     }
 
@@ -127,28 +111,6 @@ private slots:
         qobject_cast<QCheckBox*>(Grid(panel).At(0, 0))->click();
         QVERIFY(ValueOf("TDSSpectralZoom/" + DDC_LOCK_FREQUENCY_OFFLINE)->GetBool());
         QVERIFY(!ValueOf(DDC_LOCK_FREQUENCY_OFFLINE)->GetBool());
-    }
-
-    void tabbingThroughEveryFieldWritesNothing()
-    {
-        ValueOf(DDC_DETECTSHORT_SEQ_EXCL_FREQ_RANGE)->SetStoredText("4000000.125;4063000;1500000;1600000");
-        ValueOf(DDC_DETECTSHORT_SIGNAL_BANDWIDTH_MINIMUM)->SetStoredText("5000.123456");
-        const auto panel = MakeDetection(true, true);
-        panel->show();
-        panel->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(panel.get()));
-        QStringList written;
-        Tree::Instance()->SetJournal([&](const JournalEntry& entry) { written << entry.value.GetName(); });
-        QSet<QWidget*> visited;
-        panel->setFocus();
-        for (int i = 0; i < 60 && panel->focusWidget(); ++i)
-        {
-            QTest::keyClick(panel->focusWidget(), Qt::Key_F2); // opens the editor of a cell
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            visited.insert(QApplication::focusWidget());
-        }
-        QVERIFY2(visited.size() >= 10, qPrintable(QString::number(visited.size())));
-        QCOMPARE(written, QStringList());
     }
 };
 

@@ -134,9 +134,12 @@ private slots:
         QTEST(Editor(window.list) ? window.list->currentColumn() : -1, "column");
     }
 
-    void tabMovesThroughTheCellsAndLeavesTheTableAtItsEnds()
+    void tabMovesThroughTheCellsAndLeavesTheTableAtItsEndsAndWritesNothing()
     {
-        MakeList("1e6;2e6;3e6;4e6");
+        const QString stored = "3000000.125;4063000;1500000;1600000"; // neither in order nor to be shown in full
+        Counter counter;
+        DoubleListValue* value = MakeList(stored);
+        value->Attach(&counter);
         const ListWindow window(2, 0, 5, true, megahertz);
         window.before->setFocus();
         for (int cell = 0; cell < 4; ++cell)
@@ -153,6 +156,10 @@ private slots:
         QVERIFY(window.list->hasFocus());
         QTest::keyClick(window.list, Qt::Key_Backtab);
         QVERIFY(window.before->hasFocus());
+        Press(window.list, Qt::Key_F2);
+        for (int cell = 1; cell < 4; ++cell)
+            Press(Editor(window.list), Qt::Key_Tab); // from editor to editor
+        QCOMPARE(counter.count, 0);
     }
 
     void aChangeFromOutsideDiscardsTheEdit()

@@ -1,5 +1,6 @@
-#include "jobedit/chains.h"
+#include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
+#include "jobedit/chains.h"
 #include "jobedit/jobdocument.h"
 #include "table.h"
 #include "value/tree.h"
@@ -8,6 +9,7 @@
 
 #include <QTest>
 #include <QtWidgets>
+#include <map>
 
 using namespace JOBEDIT;
 using namespace TKE;
@@ -98,20 +100,56 @@ private slots:
             {
                 // The unit of a frequency has no value, and this group of the activities stands in no grid.
                 const auto* box = qobject_cast<const QGroupBox*>(widget->parentWidget());
-                if (qobject_cast<const VCFrequency*>(widget->parentWidget()) || (box && box->title() == "Detection Conventional"))
+                if (qobject_cast<const VCFrequency*>(widget->parentWidget()) ||
+                    (box && box->title() == "Detection Conventional"))
                     continue;
                 const auto* link = dynamic_cast<const ValueLink*>(widget);
                 links += link ? 1 : 0;
                 if (link && !link->GetBoundValue() && !IsUnbound(*panel))
                     faults << "unbound: " + Where(widget);
-                const bool isShown = link || qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
+                const bool isShown =
+                    link || qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
                 const QSize need = widget->minimumSizeHint();
-                if (widget->isVisible() && isShown && (widget->width() < need.width() || widget->height() < need.height()))
+                if (widget->isVisible() && isShown &&
+                    (widget->width() < need.width() || widget->height() < need.height()))
                     faults << "clipped: " + Where(widget);
             }
             QVERIFY(links > 0);
             QVERIFY2(faults.isEmpty(), qPrintable(dialog->tabText(index) + ": " + faults.join("; ")));
         }
+    }
+
+    void aReadOnlyDialogAppliesNoRuleAndStaysDisabledWhateverItsValuesSay()
+    {
+        std::map<ValueBase*, EnableState> states;
+        m_document->File().VisitNodes(
+            [&](const QString& path, const NodeSpec&, const QString&)
+            {
+                for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
+                    states[value.get()] = value->GetState();
+            });
+        int locked = 0;
+        for (const JobNode& node : m_document->GetNodes())
+        {
+            const Chain* chain = FindChain(node);
+            if (!chain)
+                continue;
+            IPCParam host(node.path, nullptr, true, false, false, node.path, "TKE");
+            chain->open(host);
+            for (const auto& [value, state] : states)
+                QVERIFY2(value->GetState() == state, qPrintable(node.path + ": " + value->GetPathName()));
+            for (QWidget* widget : host.findChildren<QWidget*>())
+                if (const auto* link = dynamic_cast<ValueLink*>(widget); link && link->GetBoundValue())
+                {
+                    ValueBase* value = link->GetBoundValue();
+                    value->SetState(stDisabled);
+                    value->SetState(stEnabled);
+                    QVERIFY2(!widget->isEnabled(), qPrintable(Where(widget)));
+                    value->SetState(states[value]);
+                    ++locked;
+                }
+        }
+        QVERIFY(locked > 500);
     }
 
     void noTwoWidgetsOfAGridOverlap_data() { AddRows(); }
