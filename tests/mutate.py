@@ -42,10 +42,10 @@ TESTS = {
     "ipcparam/source": ["host", "samplejob"],
     "ipcparam/source/analysis": ["panelrows", "detectionpanels", "headerpanels", "decoderpanels", "demodulator", "demodulatorpanels"],
     "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "tuner", "headerpanels", "detectionpanels", "panelrows"],
+    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "samplejob", "headerpanels", "detectionpanels", "panelrows"],
     "ipcparam/source/recording": ["panelrows", "recordingpanels"],
     "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host"],
-    "ipcparam/source/tuner": ["panelrows", "tuner", "headerpanels", "host"],
+    "ipcparam/source/tuner": ["panelrows", "samplejob", "headerpanels", "host"],
     "ipcparam/source/wavecom": ["wavecom"],
     "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets"],
 }

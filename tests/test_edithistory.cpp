@@ -440,67 +440,30 @@ private slots:
         QFETCH(unsigned, seed);
         std::mt19937 random(seed);
         const auto pick = [&](auto size) { return decltype(size)(random() % quint32(size)); };
+        JobDocument& document = m_editor->window.Document();
         int structural = 0;
-        for (int round = 0; round < 70; ++round)
+        QString reason;
+        for (int round = 0; round < 150; ++round)
         {
             const auto nodes = m_editor->window.Nodes().GetNodes();
             const QString path = nodes[pick(nodes.size())].path;
-            QString reason;
             const QString name = "N" + QString::number(round);
-            switch (pick(12))
-            {
-            case 0:
-                structural += m_editor->window.Document().RenameNode(path, name, &reason);
-                break;
-            case 1:
-                structural += m_editor->window.Document().DuplicateNode(path, name, &reason);
-                break;
-            case 2:
-                if (path.count('/') > 4)
-                    structural += m_editor->window.Document().RemoveNode(path, &reason);
-                break;
-            default:
-                m_editor->window.Nodes().SelectNode(path);
-            }
-            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-            if (!dialog)
-                continue;
-            dialog->setCurrentIndex(pick(dialog->count()));
-            for (int edit = 0; edit < 6; ++edit)
-            {
-                QList<QWidget*> fields;
-                for (QWidget* field : m_editor->window.Dialog().GetDialog()->currentWidget()->findChildren<QWidget*>())
-                    if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus))
-                        fields << field;
-                if (fields.isEmpty())
-                    break;
-                QPointer<QWidget> field = fields[pick(fields.size())];
-                field->setFocus();
-                switch (pick(5))
-                {
-                case 0:
-                    QTest::keyClick(field, Qt::Key_Up);
-                    break;
-                case 1:
-                    QTest::keyClick(field, Qt::Key_Down);
-                    break;
-                case 2:
-                    QTest::keyClick(field, Qt::Key_Space);
-                    break;
-                case 3:
-                    QTest::keyClicks(field, QString::number(random() % 100));
-                    break;
-                default:
-                    if (qobject_cast<QAbstractButton*>(field))
-                        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(6, field->height() / 2));
-                }
-                while (QWidget* popup = QApplication::activePopupWidget())
-                    popup->close();
-                if (pick(3) == 0)
-                    QCoreApplication::processEvents();
-                if (pick(9) == 0)
-                    History().Undo();
-            }
+            const quint32 choice = pick(16u);
+            if (choice == 0)
+                structural += document.RenameNode(path, name, &reason);
+            else if (choice == 1)
+                structural += document.DuplicateNode(path, name, &reason);
+            else if (choice == 2 && path.count('/') > 4)
+                structural += document.RemoveNode(path, &reason);
+            else if (choice < 5)
+                History().Undo();
+            else
+                for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
+                    if (pick(4u) == 0)
+                        value->SetStoredText(value->GetKind() == ValueKind::Bool ? (pick(2u) ? "true" : "false")
+                                                                                 : QString::number(pick(3u)));
+            if (choice % 2)
+                QCoreApplication::processEvents(); // what comes within one turn is one step
         }
         CommitPendingEdit();
         StepsForth();
