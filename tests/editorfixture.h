@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common.h"
 #include "jobedit/dialogpane.h"
 #include "jobedit/edithistory.h"
 #include "jobedit/mainwindow.h"
@@ -7,7 +8,6 @@
 #include "jobedit/nodepane.h"
 #include "keys/keys.h"
 
-#include <QTest>
 #include <QtWidgets>
 
 /// A main window with the sample job, driven by keys and mouse.
@@ -20,28 +20,6 @@ using namespace TKE;
 inline const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
 inline const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
 inline const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
-
-inline QByteArray ReadAll(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-inline void WriteAll(const QString& fileName, const QByteArray& bytes)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-/// Does this whenever something that it observes changes.
-struct Hearer : IObserver
-{
-    explicit Hearer(std::function<void()> act) : m_act(std::move(act)) {}
-    void Update(Observable*, TChangeCode) override { m_act(); }
-
-private:
-    std::function<void()> m_act;
-};
 
 /// Does this with the next modal dialog.
 class Next : public QObject

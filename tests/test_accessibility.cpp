@@ -2,7 +2,7 @@
 #include "jobedit/chains.h"
 #include "jobedit/changemark.h"
 #include "jobedit/nightcolours.h"
-#include "table.h"
+#include "common.h"
 
 #include <QAccessible>
 #include <set>

@@ -2,7 +2,7 @@
 #include "jobedit/checkdock.h"
 #include "jobedit/checker.h"
 #include "jobmodel/jobfile.h"
-#include "table.h"
+#include "common.h"
 
 using namespace EditorTest;
 

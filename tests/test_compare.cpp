@@ -2,7 +2,7 @@
 #include "jobedit/compareactions.h"
 #include "jobedit/differencemodel.h"
 #include "jobedit/otherjob.h"
-#include "table.h"
+#include "common.h"
 
 using namespace EditorTest;
 

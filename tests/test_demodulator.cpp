@@ -1,6 +1,6 @@
 #include "analysis/demodulatordlg.h"
 #include "demodulatorfixture.h"
-#include "table.h"
+#include "common.h"
 #include "valuewidgets/vccomboboxclassic.h"
 #include "valuewidgets/vcnumericfloatspin.h"
 

@@ -1,27 +1,9 @@
+#include "common.h"
 #include "demodulatorfixture.h"
-#include "table.h"
 
-#include <QTest>
-#include <QTranslator>
 #include <QtWidgets>
 
 using namespace DemodulatorTest;
-
-namespace
-{
-
-/// Shows texts together with their context.
-class ContextTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return QString::fromLatin1(context) + u'|' + QString::fromUtf8(text);
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
 
 class TestDemodulatorPanels : public QObject
 {
@@ -70,13 +52,11 @@ private Q_SLOTS:
 
     void commonAndOwnRowsAreTranslatedInContextsOfTheirOwn()
     {
-        ContextTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        const ContextTranslator translator;
         const auto panel = Make(QStringLiteral("FSK"), false);
         QStringList texts;
         for (QLabel* label : panel->findChildren<QLabel*>())
             texts << label->text();
-        QCoreApplication::removeTranslator(&translator);
         QVERIFY2(texts.contains("TKE::DemodulatorPanel|Baud rate :"), qPrintable(texts.join(u'\n')));
         QVERIFY(texts.contains("TKE::DemodulatorPanelFSK|Block length :"));
     }

@@ -1,5 +1,5 @@
 #include "application/errorhandler.h"
-#include "table.h"
+#include "common.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/guicentral.h"
 #include "valuewidgets/numericvalue.h"

@@ -1,8 +1,5 @@
+#include "common.h"
 #include "exciterfixture.h"
-#include "ipcparam/ipcparam.h"
-#include "jobmodel/jobfile.h"
-#include "table.h"
-#include "valuewidgets/vcfrequency.h"
 
 #include <QTest>
 
@@ -18,13 +15,14 @@ private slots:
 
     void theModeDecidesOnTheSwitches_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("switches");
-        const std::array<const char*, 12> rows{"---- true", "---- false", "---- true", "+-+- true",
-                                               "+--+ true", "+--+ true",  "++-- true", "++-- true",
-                                               "---- true", "---- true",  "---- true", "---- true"};
-        for (int mode = 0; mode < int(rows.size()); ++mode)
-            QTest::addRow("%d", mode) << mode << QString::fromUtf8(rows[size_t(mode)]);
+        const Table<int, QString> row("mode", "switches");
+        for (const int mode : {0, 1, 2, 8, 9, 10, 11})
+            row(QString::number(mode), mode, mode == 1 ? "---- false" : "---- true");
+        row("3", 3, "+-+- true");
+        row("4", 4, "+--+ true");
+        row("5", 5, "+--+ true");
+        row("6", 6, "++-- true");
+        row("7", 7, "++-- true");
     }
     void theModeDecidesOnTheSwitches()
     {
@@ -98,8 +96,7 @@ private slots:
 
     void theModeDecidesWhatCanBeEdited_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("disabled");
+        const Table<int, QString> table("mode", "disabled");
         const QString always = QStringLiteral("RasterThresholdAbs ScuBlankingTime");
         const QString wde = QStringLiteral("SmuDeviation SmuFrequency SmuMessage SmuModulation SmuModulationDepth "
                                            "SmuModulationSource SmuSymbolRate SmuToneFrequency");
@@ -112,7 +109,7 @@ private slots:
         {
             QStringList names = (QStringList(more) << always).join(u' ').split(u' ');
             names.sort();
-            QTest::addRow("%d", mode) << mode << names.join(u' ');
+            table(QString::number(mode), mode, names.join(u' '));
         };
         for (const int mode : {0, 1, 2, 11})
             row(mode, {});
@@ -190,57 +187,6 @@ private slots:
         Switch(RasterDetectorCheck)->Attach(&meddler);
         SetMode(1);
         QCOMPARE(Switches(), "++-- true");
-    }
-
-    void theModeDecidesOnTheTabsOfTheSample_data()
-    {
-        QTest::addColumn<bool>("isJob");
-        QTest::addColumn<int>("mode");
-        for (const bool isJob : {true, false})
-        {
-            for (int mode = -1; mode <= 11; ++mode)
-                QTest::addRow("%s %d", isJob ? "job" : "stand-alone", mode) << isJob << mode;
-        }
-    }
-    void theModeDecidesOnTheTabsOfTheSample()
-    {
-        QFETCH(bool, isJob);
-        QFETCH(int, mode);
-        JobFile job;
-        QVERIFY(job.LoadSample());
-        for (const QString set : {"/Jobs/Demo/TDS_EXC/", "/Jobs/Demo/TDS_EXC_SCAN/"})
-        {
-            if (mode == -1)
-                Tree::Instance()->RemoveValue(set + ExciterMode);
-            else
-                Tree::Instance()->FindValue(set + ExciterMode)->SetStoredText(QString::number(mode));
-            const QString task = set + "CS_EXC/EXCITER/";
-            std::vector<QString> resources;
-            const auto host =
-                isJob ? std::make_unique<IPCParam>(set + "CS_EXC/", task, resources, task, task, QString(), task,
-                                                   QStringLiteral("TKE"))
-                      : std::make_unique<IPCParam>(task, nullptr, false, false, false, task, QStringLiteral("TKE"));
-            host->ExciterDlg(1, set.contains("SCAN"));
-            QStringList tabs;
-            for (int i = 0; i < host->count(); ++i)
-                tabs << host->tabText(i);
-            QStringList wanted{"SMU", "SCU"};
-            if (mode >= 3 && mode <= 7)
-                wanted << "WDE";
-            if (mode >= 8 && mode <= 10)
-                wanted << "ScanSettings";
-            QCOMPARE(tabs, wanted);
-            for (int i = 0; i < host->count(); ++i)
-            {
-                for (QWidget* widget : host->widget(i)->findChildren<QWidget*>())
-                {
-                    // The parts of a frequency editor are its own business.
-                    const bool isPart = qobject_cast<VCFrequency*>(widget->parentWidget());
-                    const auto* link = isPart ? nullptr : dynamic_cast<ValueLink*>(widget);
-                    QVERIFY2(!link || link->GetBoundValue(), qPrintable(widget->objectName()));
-                }
-            }
-        }
     }
 };
 

@@ -1,5 +1,6 @@
 #include "application/cfgcenter.h"
 #include "application/errorhandler.h"
+#include "common.h"
 #include "exciterfixture.h"
 
 #include <QSettings>
@@ -74,12 +75,10 @@ private slots:
         const QString fileName = CfgCenter::Instance()->GetFileName("JobManagement", cfgSystem);
         QDir().mkpath(QFileInfo(fileName).path());
         QSettings(fileName, QSettings::IniFormat).setValue("JobModelXMLDir", directory.path());
-        QFile file(directory.filePath("exciter_hf.xml"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<JobModel version=\"1\">\n<Group name=\"G_EXC_SMU\" band=\"HF\">\n<Parameter name=\"SmuLevel\" "
-                   "kind=\"double\" at=\"U\" default=\"0\" label=\"Power :\" description=\"d\" control=\"3\" "
-                   "number=\"double\"/>\n");
-        file.close();
+        WriteAll(directory.filePath("exciter_hf.xml"),
+                 "<JobModel version=\"1\">\n<Group name=\"G_EXC_SMU\" band=\"HF\">\n<Parameter name=\"SmuLevel\" "
+                 "kind=\"double\" at=\"U\" default=\"0\" label=\"Power :\" description=\"d\" control=\"3\" "
+                 "number=\"double\"/>\n");
 
         ErrorHandler::Interface().Clear();
         QStringList reports;

@@ -1,8 +1,7 @@
+#include "common.h"
 #include "jobmodel/exciterparameter.h"
-#include "table.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -18,8 +17,7 @@ const QString fileName = QStringLiteral("exciter_hf.xml");
 QByteArray OriginalFile()
 {
     const ExciterParameter parameters; // makes the compiled-in files available
-    QFile file(QStringLiteral(":/models/") + fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return ReadAll(QStringLiteral(":/models/") + fileName);
 }
 
 std::vector<const ExciterParameterGroup*> GroupsOf(const ExciterParameter& parameters)
@@ -39,12 +37,7 @@ class TestExciterParameter : public QObject
 private:
     std::unique_ptr<QTemporaryDir> m_directory;
 
-    void Write(const QByteArray& content) const
-    {
-        QFile file(m_directory->filePath(fileName));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
+    void Write(const QByteArray& content) const { WriteAll(m_directory->filePath(fileName), content); }
     // The compiled-in file with `from` exchanged.
     static QByteArray Changed(const QByteArray& from, const QByteArray& to)
     {

@@ -4,7 +4,7 @@
 #include "jobedit/fields.h"
 #include "jobedit/nightcolours.h"
 #include "jobedit/panelwindow.h"
-#include "table.h"
+#include "common.h"
 #include "valuewidgets/vclineedit.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vctimeperiod.h"

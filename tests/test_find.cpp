@@ -1,10 +1,10 @@
 #include "application/translationcenter.h"
+#include "common.h"
 #include "editorfixture.h"
 #include "ipcparam/parameterdlg.h"
 #include "jobedit/fieldindex.h"
 #include "jobedit/fieldnavigator.h"
 #include "jobedit/fieldtexts.h"
-#include "table.h"
 #include "valuewidgets/valuelink.h"
 
 using namespace EditorTest;
@@ -112,9 +112,7 @@ private Q_SLOTS:
 
     void allPanelContextsOfTheCatalogueAreLookedInto()
     {
-        QFile file(QFINDTESTDATA("../translations/ipcparam_de.ts"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QString text = QString::fromUtf8(ReadAll(QFINDTESTDATA("../translations/ipcparam_de.ts")));
         static const QRegularExpression name("<name>(TKE::\\w*(?:Dlg|Panel\\w*))</name>");
         int count = 0;
         for (auto match = name.globalMatch(text); match.hasNext(); ++count)

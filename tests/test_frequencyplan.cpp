@@ -4,7 +4,7 @@
 #include "jobedit/planexport.h"
 #include "jobedit/planpane.h"
 #include "jobedit/planview.h"
-#include "table.h"
+#include "common.h"
 
 #include <QSignalSpy>
 #include <QXmlStreamReader>

@@ -2,7 +2,7 @@
 #include "jobedit/chains.h"
 #include "jobedit/panelwindow.h"
 #include "jobedit/recentfiles.h"
-#include "table.h"
+#include "common.h"
 
 #include <QLockFile>
 #include <set>

@@ -1,8 +1,8 @@
+#include "common.h"
 #include "jobedit/chains.h"
 #include "jobedit/commands/command.h"
 #include "jobedit/jobdocument.h"
 #include "jobedit/largejob.h"
-#include "table.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -52,16 +52,6 @@ class TestJobEditCommands : public QObject
 
     QString File(const QString& name) const { return m_directory->filePath(name); }
 
-    void WriteAll(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(File(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    QByteArray ReadAll(const QString& name) const
-    {
-        QFile file(File(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
     void WriteSample(const QString& name)
     {
         JobDocument document(JobModel::Load());
@@ -117,9 +107,9 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QString, says);
         WriteSample("good.job.xml");
-        WriteAll("bad.job.xml", "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
-        WriteAll("values.job.xml", "<Job version=\"1\"><Node name=\"/T\" type=\"X\" groups=\"G_SCAN_HF\">"
-                                   "<Value name=\"SCAN_START_FREQUENCY\">9000000</Value></Node></Job>\n");
+        WriteAll(File("bad.job.xml"), "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
+        WriteAll(File("values.job.xml"), "<Job version=\"1\"><Node name=\"/T\" type=\"X\" groups=\"G_SCAN_HF\">"
+                                         "<Value name=\"SCAN_START_FREQUENCY\">9000000</Value></Node></Job>\n");
         for (QString& argument : arguments)
             if (argument.endsWith(".xml") || argument == "d")
                 argument = File(argument);
@@ -131,9 +121,7 @@ private Q_SLOTS:
 
     void theManPageNamesEveryCommandAndOption()
     {
-        QFile page(SOURCE_DIRECTORY "/docs/jobedit.1");
-        QVERIFY(page.open(QIODevice::ReadOnly));
-        const QString text = page.readAll();
+        const QString text = ReadAll(SOURCE_DIRECTORY "/docs/jobedit.1");
         for (const Command& command : MakeCommands())
         {
             QVERIFY2(text.contains(".It Cm " + command.name + '\n'), qPrintable(command.name));
@@ -228,7 +216,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, refused);
         WriteSample("a.xml");
-        const QByteArray before = ReadAll("a.xml");
+        const QByteArray before = ReadAll(File("a.xml"));
         const Outcome outcome = RunProgram(
             {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", refused, "ALSO/NOWHERE=2"});
         QCOMPARE(outcome.status, 1);
@@ -236,19 +224,19 @@ private Q_SLOTS:
         // Each refusal is told, and no more.
         QVERIFY2(outcome.errors.contains(refused.section('=', 0, 0) + ": "), qPrintable(outcome.errors));
         QVERIFY(outcome.errors.contains("ALSO/NOWHERE: ") && !outcome.errors.contains("FREQUENCY"));
-        QCOMPARE(ReadAll("a.xml"), before);
+        QCOMPARE(ReadAll(File("a.xml")), before);
         QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList{"a.xml"});
     }
 
     void setLeavesAFileAloneWhenTold()
     {
         WriteSample("a.xml");
-        const QByteArray before = ReadAll("a.xml");
+        const QByteArray before = ReadAll(File("a.xml"));
         const QString assignment = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M";
         const Outcome dry = RunProgram({"set", File("a.xml"), assignment, "--dry-run"});
         QCOMPARE(dry.out, QString("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY\t10000000\t7000000\n"));
         QCOMPARE(RunProgram({"set", File("a.xml"), assignment, "--out", File("b.xml")}).status, 0);
-        QCOMPARE(ReadAll("a.xml"), before);
+        QCOMPARE(ReadAll(File("a.xml")), before);
         const Outcome difference = RunProgram({"diff", File("a.xml"), File("b.xml")});
         QCOMPARE(difference.status, 1);
         QCOMPARE(difference.out, dry.out);
@@ -258,7 +246,7 @@ private Q_SLOTS:
     void anotherEditorsFileIsNotWritten()
     {
         WriteSample("a.xml");
-        const QByteArray before = ReadAll("a.xml");
+        const QByteArray before = ReadAll(File("a.xml"));
         QLockFile lock(File("a.xml") + ".lock");
         QVERIFY(lock.tryLock(0));
         const QStringList arguments{"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M"};
@@ -267,9 +255,9 @@ private Q_SLOTS:
         QVERIFY2(refused.errors.contains(QString::number(QCoreApplication::applicationPid())),
                  qPrintable(refused.errors));
         QCOMPARE(RunProgram({"new", File("a.xml"), "--force"}).status, 0); // told to
-        QCOMPARE(ReadAll("a.xml"), before);
+        QCOMPARE(ReadAll(File("a.xml")), before);
         QCOMPARE(RunProgram(arguments + QStringList{"--force"}).status, 0);
-        QVERIFY(ReadAll("a.xml") != before);
+        QVERIFY(ReadAll(File("a.xml")) != before);
         QVERIFY(QFile::exists(File("a.xml.lock"))); // still the other's
     }
 
@@ -302,7 +290,7 @@ private Q_SLOTS:
     void garbageIsRefusedByEveryCommand()
     {
         QFETCH(QByteArray, bytes);
-        WriteAll("g.xml", bytes);
+        WriteAll(File("g.xml"), bytes);
         WriteSample("a.xml");
         const QString file = File("g.xml");
         for (const QStringList& arguments :
@@ -315,7 +303,7 @@ private Q_SLOTS:
             QCOMPARE(outcome.out, QString());
             QVERIFY2(outcome.errors.startsWith(file + ':'), qPrintable(outcome.errors));
         }
-        QCOMPARE(ReadAll("g.xml"), bytes);
+        QCOMPARE(ReadAll(File("g.xml")), bytes);
         QVERIFY(!QFile::exists(File("n.xml")));
     }
 
@@ -338,7 +326,7 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(QString, list);
         WriteSample("a.xml");
-        WriteAll("bad.xml", "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
+        WriteAll(File("bad.xml"), "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
         QCOMPARE(RunProgram(
                      {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", "--out", File("b.xml")})
                      .status,
@@ -387,7 +375,7 @@ private Q_SLOTS:
         QVERIFY(!first.isEmpty());
         QVERIFY(first == grow(1));
         QVERIFY(first != grow(2));
-        WriteAll("large.xml", first);
+        WriteAll(File("large.xml"), first);
         const Outcome check = RunProgram({"check", File("large.xml")});
         QVERIFY2(check.status == 0 && check.errors.isEmpty(), qPrintable(check.errors));
         Tree tree;

@@ -1,8 +1,7 @@
+#include "common.h"
 #include "jobmodel/jobfile.h"
 #include "keys/keymanager.h"
-#include "table.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <sys/stat.h>
@@ -28,22 +27,6 @@ QByteArray Mgc(const QByteArray& text)
     return "<Value name=\"TUNER_HF_NB_MGCVALUE\">" + text + "</Value>";
 }
 
-QByteArray ReadAll(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-struct Listener final : IObserver
-{
-    std::function<void(Observable*, TChangeCode)> heard;
-    void Update(Observable* source, TChangeCode code) override
-    {
-        if (heard)
-            heard(source, code);
-    }
-};
-
 } // namespace
 
 class JobFileTest : public QObject
@@ -59,9 +42,8 @@ private:
     QString Path(const QString& name) const { return m_directory.filePath(name); }
     QString Write(const QByteArray& text, const QString& name = "a.job.xml")
     {
-        QFile file(Path(name));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-        return written ? file.fileName() : QString();
+        WriteAll(Path(name), text);
+        return Path(name);
     }
     QByteArray ReadBack(const QString& name) const { return ReadAll(Path(name)); }
     bool Load(const QByteArray& text) { return m_job->Load(Write(text), &m_error); }
@@ -322,33 +304,25 @@ private slots:
         QCOMPARE(m_job->GetFileName(), Path("good.job.xml"));
     }
 
-    void filesThatCannotBeReadAreNamed()
-    {
-        QVERIFY(!m_job->Load(Path("nowhere.job.xml"), &m_error));
-        QCOMPARE(m_error.file, Path("nowhere.job.xml"));
-        QVERIFY(!m_error.reason.isEmpty());
-        QVERIFY(JobFile::Check(m_directory.path()).first().IsError());
-        QVERIFY(!m_job->Save(&m_error)); // there is nothing to save to
-    }
-
     void whatIsNoFileIsRefusedAtOnce_data()
     {
         QTest::addColumn<QString>("name");
         QVERIFY(mkfifo(qPrintable(Path("pipe")), 0600) == 0);
         QVERIFY(QFile::link(Path("pipe"), Path("link to a pipe")));
         for (const QString& name : {Path("pipe"), Path("link to a pipe"), m_directory.path(), QString("/dev/zero"),
-                                    QString("/dev/tty"), QString()})
+                                    QString("/dev/tty"), Path("nowhere.job.xml"), QString()})
             QTest::newRow(qPrintable(QFileInfo(name).fileName())) << name;
     }
     void whatIsNoFileIsRefusedAtOnce()
     {
         QFETCH(QString, name);
+        QVERIFY(!m_job->Save(&m_error)); // there is nothing to save to
         QVERIFY(Load(Job(Mgc("61"))));
         QVERIFY(!m_job->Load(name, &m_error)); // nor does it wait for what a pipe may bring
         QVERIFY(!m_error.reason.isEmpty());
         QCOMPARE(m_error.file, name);
         QVERIFY(JobFile::Check(name).first().IsError());
-        if (!name.startsWith("/dev"))
+        if (!name.startsWith("/dev") && QFileInfo::exists(name))
             QVERIFY(!m_job->SaveAs(name, &m_error));
         QVERIFY(!m_error.reason.isEmpty());
         QCOMPARE(m_job->ToUtf8(), Job(Mgc("61")));
@@ -422,13 +396,13 @@ private slots:
     void theOldValuesReportTheirEndWhenTheNewOnesAreThere()
     {
         QVERIFY(Load(Job({})));
-        Listener listener;
+        const ValueBase* old = At("TUNER_HF_NB_MGCVALUE");
         bool released = false;
-        listener.heard = [&](Observable* source, TChangeCode code)
-        {
-            released = released || (code == ccState && static_cast<ValueBase*>(source)->GetState() == stReleased);
-            QCOMPARE(At("TUNER_HF_NB_MGCVALUE")->GetText(), QString("61"));
-        };
+        Hearer listener{[&]
+                        {
+                            released = released || old->GetState() == stReleased;
+                            QCOMPARE(At("TUNER_HF_NB_MGCVALUE")->GetText(), QString("61"));
+                        }};
         At("TUNER_HF_NB_MGCVALUE")->Attach(&listener);
         QVERIFY(Load(Job(Mgc("61"))));
         QVERIFY(released);
@@ -452,8 +426,7 @@ private slots:
         QVERIFY(At("TUNER_HF_NB_NF1_STATUS")->SetBool(true)); // its target is gone
         QCOMPARE(At("TUNER_HF_NB_NF1_BANDWIDTH")->GetState(), stEnabled);
 
-        Listener listener; // removes the whole branch when the first rule of a change shows
-        listener.heard = [&](Observable*, TChangeCode) { m_job->RemoveNode(QString(node)); };
+        Hearer listener{[&] { m_job->RemoveNode(QString(node)); }}; // the whole branch, when the first rule shows
         At("TUNER_HF_NB_NF2_FREQUENCY")->Attach(&listener);
         At("TUNER_HF_NB_NF2_STATUS")->SetBool(true);
         QVERIFY(!At("TUNER_HF_NB_NF2_STATUS"));
@@ -467,12 +440,11 @@ private slots:
     void aSourceThatTurnsBackWithinItsOwnChangeLeavesTheRightStates()
     {
         QVERIFY(Load(Job({})));
-        Listener listener;
-        listener.heard = [&](Observable*, TChangeCode)
-        {
-            listener.heard = {};
-            At("TUNER_HF_NB_NF1_STATUS")->SetBool(false);
-        };
+        Hearer listener{[&]
+                        {
+                            listener.act = {};
+                            At("TUNER_HF_NB_NF1_STATUS")->SetBool(false);
+                        }};
         At("TUNER_HF_NB_NF1_FREQUENCY")->Attach(&listener);
         QVERIFY(At("TUNER_HF_NB_NF1_STATUS")->SetBool(true));
         QCOMPARE(At("TUNER_HF_NB_NF1_FREQUENCY")->GetState(), stDisabled);

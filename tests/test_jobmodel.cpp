@@ -1,7 +1,6 @@
+#include "common.h"
 #include "jobmodel/jobmodel.h"
-#include "table.h"
 
-#include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -35,9 +34,8 @@ private:
 
     QString Write(const QString& name, const QByteArray& text)
     {
-        QFile file(m_directory.filePath(name));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-        return written ? file.fileName() : QString();
+        WriteAll(m_directory.filePath(name), text);
+        return m_directory.filePath(name);
     }
     std::shared_ptr<const JobModel> Read(const QByteArray& text)
     {
@@ -139,12 +137,9 @@ private slots:
 
     void whatIsFaultyIsNamedWithItsLineAndTheRestIsUsed_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("reason"); // a piece of it
-        QTest::addColumn<int>("line");
-
-        const auto row = [](const QByteArray& element, const char* reason)
-        { QTest::newRow(element.constData()) << Parameters("\n<" + element + "/>") << QString(reason) << 5; };
+        const Table<QByteArray, QString, int> table("text", "reason", "line"); // reason: a piece of it
+        const auto row = [&](const QByteArray& element, const char* reason)
+        { table(element, Parameters("\n<" + element + "/>"), reason, 5); };
         row("Parameter name='P' at='M' default='1'", "kind");
         row("Parameter name='P' kind='complex' at='M' default='1'", "complex");
         row("Parameter name='P' kind='int' at='M'", "default");
@@ -171,18 +166,17 @@ private slots:
         row("Rule target='LAST' source='NOWHERE' equals='1'", "NOWHERE");
         row("Rule target='LAST' source='FIRST' equals='on'", "on");
         row("Colour", "Colour");
-        QTest::newRow("cut off") << Parameters({}).chopped(22) << "well-formed" << 5;
-        QTest::newRow("empty") << QByteArray() << "well-formed" << 0; // none of the rest is there
-        QTest::newRow("entities that grow")
-            << QByteArray("<!DOCTYPE JobModel [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"
-                          "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>")
-            << "document type" << 0;
-        QTest::newRow("attribute of megabytes")
-            << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>"
-            << "longer" << 0;
-        QTest::newRow("no UTF-8") << QByteArray("<JobModel version=\"1\">\n\xE4\xE4</JobModel>") << "UTF-8" << 0;
-        QTest::newRow("another root") << QByteArray("<Job version=\"1\"/>") << "Job" << 0;
-        QTest::newRow("no group") << QByteArray("<JobModel version=\"1\"/>") << "no group" << 0;
+        table("cut off", Parameters({}).chopped(22), "well-formed", 5);
+        table("empty", {}, "well-formed", 0); // none of the rest is there
+        table("entities that grow",
+              "<!DOCTYPE JobModel [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"
+              "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>",
+              "document type", 0);
+        table("attribute of megabytes",
+              "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>", "longer", 0);
+        table("no UTF-8", "<JobModel version=\"1\">\n\xE4\xE4</JobModel>", "UTF-8", 0);
+        table("another root", "<Job version=\"1\"/>", "Job", 0);
+        table("no group", "<JobModel version=\"1\"/>", "no group", 0);
     }
     void whatIsFaultyIsNamedWithItsLineAndTheRestIsUsed()
     {

@@ -1,5 +1,5 @@
+#include "common.h"
 #include "jobmodel/jobfile.h"
-#include "table.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -38,11 +38,9 @@ class TestJobStructure : public QObject
 
     void Load(const QByteArray& text)
     {
-        QFile file(m_directory.filePath("a.job.xml"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-        file.close();
+        WriteAll(m_directory.filePath("a.job.xml"), text);
         FileError error;
-        QVERIFY2(m_job->Load(file.fileName(), &error), qPrintable(error.ToText()));
+        QVERIFY2(m_job->Load(m_directory.filePath("a.job.xml"), &error), qPrintable(error.ToText()));
         QCOMPARE(m_job->ToUtf8(), text);
     }
     static ValueBase* At(const QString& path) { return Tree::Instance()->FindValue(path); }

@@ -1,5 +1,5 @@
 #include "numericlistwindow.h"
-#include "table.h"
+#include "common.h"
 
 using namespace TKE;
 using namespace NumericListTest;

@@ -1,4 +1,4 @@
-#include "table.h"
+#include "common.h"
 #include "widgetfixture.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vcdateperiod.h"

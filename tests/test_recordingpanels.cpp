@@ -7,7 +7,7 @@
 #include "keys/keymanager.h"
 #include "keys/keys.h"
 #include "panelgrid.h"
-#include "table.h"
+#include "common.h"
 #include "widgetfixture.h"
 
 using namespace TKE;

@@ -4,7 +4,7 @@
 #include "jobedit/chaintitles.h"
 #include "jobedit/report.h"
 #include "jobedit/reportactions.h"
-#include "table.h"
+#include "common.h"
 
 #include <QXmlStreamReader>
 

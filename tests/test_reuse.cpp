@@ -5,7 +5,7 @@
 #include "jobedit/otherjob.h"
 #include "jobedit/presetdialog.h"
 #include "jobedit/reuseactions.h"
-#include "table.h"
+#include "common.h"
 
 using namespace EditorTest;
 

@@ -9,7 +9,7 @@
 #include "scan/memoryscandlg.h"
 #include "scan/scandlg.h"
 #include "scan/wbrxscandlg.h"
-#include "table.h"
+#include "common.h"
 #include "tuner/antennadlg.h"
 #include "tuner/tunerexternaldlg.h"
 

@@ -2,7 +2,7 @@
 #include "ipcparam/parameterdlg.h"
 #include "jobedit/chains.h"
 #include "jobedit/jobdocument.h"
-#include "table.h"
+#include "common.h"
 #include "value/tree.h"
 #include "valuewidgets/valuelink.h"
 #include "valuewidgets/vcfrequency.h"

@@ -1,10 +1,9 @@
-#include "table.h"
+#include "common.h"
 #include "value/idledisposal.h"
 #include "value/tree.h"
 
 #include <QtTest>
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <random>
 
@@ -24,13 +23,6 @@ using namespace TKE;
 
 namespace
 {
-
-struct Hearer final : IObserver
-{
-    explicit Hearer(std::function<void(Observable*, TChangeCode)> action) : onUpdate(std::move(action)) {}
-    void Update(Observable* source, TChangeCode code) override { onUpdate(source, code); }
-    std::function<void(Observable*, TChangeCode)> onUpdate;
-};
 
 const ValueDescriptor& text = ValueDescriptor::Plain(ValueKind::Text);
 
@@ -60,7 +52,7 @@ private slots:
         for (int i = 0; i < count; ++i)
             values.push_back(m_tree.CreateValue<TextValue>(QString("/A/%1/B/K%2").arg(i % 3).arg(i), text));
         int told = 0;
-        Hearer hearer([&](Observable*, TChangeCode code) { told += code == ccState && m_tree.ValueCount() == 0; });
+        Hearer hearer([&] { told += hearer.codes.back() == ccState && m_tree.ValueCount() == 0; });
         for (ValueBase* value : values)
             value->Attach(&hearer);
         m_tree.ClearLater();
@@ -214,9 +206,9 @@ private slots:
         std::map<QString, QString> told;
         bool released = true, whole = true;
         Hearer hearer(
-            [&](Observable* source, TChangeCode)
+            [&]
             {
-                auto* value = static_cast<ValueBase*>(source);
+                auto* value = static_cast<ValueBase*>(hearer.source);
                 released = released && value->GetState() == stReleased && !m_tree.FindValue(value->GetPathName());
                 told[value->GetPathName()] = value->GetText();
                 for (const Node* node = value->GetNode(); node; node = node->GetParent())
@@ -273,12 +265,11 @@ private slots:
         QFETCH(QString, first);
         QFETCH(QString, further);
         QStringList told;
-        Hearer remover([&](Observable*, TChangeCode)
-                       { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
+        Hearer remover([&] { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
         Hearer witness(
-            [&](Observable* source, TChangeCode)
+            [&]
             {
-                const auto* value = static_cast<ValueBase*>(source);
+                const auto* value = static_cast<ValueBase*>(witness.source);
                 told += value->GetNode()->GetParent()->GetPathName() + u'|' + value->GetPathName();
             });
         for (const char* path : {"/a/b/K", "/a/b/L", "/a/b/c/M", "/a/N", "/x/y/O"})
@@ -299,21 +290,20 @@ private slots:
         for (const ValueKind kind : {ValueKind::Text, ValueKind::Selection})
         {
             ValueBase* value = m_tree.CreateValue(u"/a/K", ValueDescriptor::Plain(kind));
-            std::vector<int> codes;
-            Hearer remover([&](Observable*, TChangeCode) { m_tree.RemoveBranch(u"/a"); });
-            Hearer later([&](Observable*, TChangeCode code) { codes.push_back(code); });
+            Hearer remover([&] { m_tree.RemoveBranch(u"/a"); });
+            Hearer later;
             value->Attach(&remover);
             value->Attach(&later);
             QVERIFY(value->SetStoredText(QStringLiteral("1")));
             QCOMPARE(m_tree.ValueCount(), size_t(0));
             // The round of the write ended with the value; of its end all were told.
-            QVERIFY(codes == std::vector<int>{ccState});
+            QVERIFY(later.codes == std::vector<int>{ccState});
         }
     }
 
     void ValuesMadeWhileOthersEndStay()
     {
-        Hearer maker([&](Observable*, TChangeCode) { m_tree.CreateValue(u"/a/NEW", text); });
+        Hearer maker([&] { m_tree.CreateValue(u"/a/NEW", text); });
         m_tree.CreateValue(u"/a/OLD", text)->Attach(&maker);
         m_tree.Clear();
         QVERIFY(m_tree.FindValue(u"/a/NEW") && !m_tree.FindValue(u"/a/OLD"));
@@ -322,14 +312,13 @@ private slots:
 
     void ATreeThatDiesReportsTheEndOfItsValues()
     {
-        int ends = 0;
-        Hearer hearer([&](Observable*, TChangeCode) { ++ends; });
+        Hearer hearer;
         {
             Tree tree;
             tree.CreateValue(u"/a/K", text)->Attach(&hearer);
             tree.CreateValue(u"K", text)->Attach(&hearer);
         }
-        QCOMPARE(ends, 2);
+        QCOMPARE(hearer.codes.size(), size_t(2));
     }
 
     void RandomGrowthAndRemovalKeepEveryPathRight_data()

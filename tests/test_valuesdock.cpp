@@ -1,7 +1,7 @@
 #include "editorfixture.h"
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
-#include "table.h"
+#include "common.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
