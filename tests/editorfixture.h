@@ -118,6 +118,26 @@ public:
         return nullptr;
     }
 
+    /// The first widget on the tab of any dialog that can be seen and used and is as wanted.
+    template <class Widget> Widget* FirstWhere(const std::function<bool(Widget&)>& isWanted)
+    {
+        const auto nodes = window.Nodes().GetNodes();
+        for (const JobNode& node : nodes)
+        {
+            window.Nodes().SelectNode(node.path);
+            QTabWidget* dialog = window.Dialog().GetDialog();
+            for (int tab = 0; dialog && tab < dialog->count(); ++tab)
+            {
+                dialog->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                for (auto* widget : dialog->currentWidget()->findChildren<Widget*>())
+                    if (widget->isEnabled() && !widget->visibleRegion().isEmpty() && isWanted(*widget))
+                        return widget;
+            }
+        }
+        return nullptr;
+    }
+
     QLineEdit* FrequencyField()
     {
         QWidget* frequency = Find(tunerPath, Keys::TUNER_HF_NB_FREQUENCY);

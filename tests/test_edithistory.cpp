@@ -48,17 +48,6 @@ class TestEditHistory : public QObject
         QCOMPARE(m_editor->Bytes(), end);
         QVERIFY(m_editor->window.isWindowModified());
     }
-    /// The path of the first node that offers this field.
-    QString NodeWith(const QString& name)
-    {
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-            if (HasDialog(node) && m_editor->window.Nodes().SelectNode(node.path))
-                if (QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-                    dialog && dialog->findChild<QWidget*>(name))
-                    return node.path;
-        return {};
-    }
-
 private slots:
     void init()
     {
@@ -174,8 +163,8 @@ private slots:
 
     void selectAllOfAPanelIsOneStep()
     {
-        const QString node = NodeWith(Keys::AUTORECORDING_RECORD_ALL);
-        auto* button = m_editor->Find<QPushButton>(node, Keys::AUTORECORDING_RECORD_ALL);
+        auto* button = m_editor->FirstWhere<QPushButton>(
+            [](QPushButton& each) { return each.objectName() == Keys::AUTORECORDING_RECORD_ALL; });
         QVERIFY(button);
         QTest::mouseClick(button, Qt::LeftButton);
         QVERIFY2(QRegularExpression("^[A-Z].*: .* -> .* and \\d more$").match(History().UndoText()).hasMatch(),
@@ -186,8 +175,8 @@ private slots:
 
     void theExcitersModeIsOneStepWithWhatItSwitches()
     {
-        const QString node = NodeWith("ExciterMode");
-        auto* mode = m_editor->Find<QComboBox>(node, "ExciterMode");
+        auto* mode =
+            m_editor->FirstWhere<QComboBox>([](QComboBox& each) { return each.objectName() == Keys::ExciterMode; });
         QVERIFY(mode);
         StepsBack();
         m_start = m_editor->Bytes();
@@ -212,21 +201,8 @@ private slots:
 
     void aListEditedCellByCellIsAStepForEachCell()
     {
-        VCListBoxNumeric* list = nullptr;
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-        {
-            m_editor->window.Nodes().SelectNode(node.path);
-            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-            for (int tab = 0; !list && dialog && tab < dialog->count(); ++tab)
-                for (auto* each : dialog->widget(tab)->findChildren<VCListBoxNumeric*>())
-                    if (each->isEnabled() && each->columnCount() == 1)
-                    {
-                        list = each;
-                        dialog->setCurrentIndex(tab);
-                    }
-            if (list)
-                break;
-        }
+        auto* list =
+            m_editor->FirstWhere<VCListBoxNumeric>([](VCListBoxNumeric& each) { return each.columnCount() == 1; });
         QVERIFY(list);
         StepsBack(); // what showing has chosen
         m_start = m_editor->Bytes();
@@ -255,20 +231,10 @@ private slots:
 
     void leavingTheTabOrTheNodeCommitsWhatIsBeingTyped()
     {
-        VCNumericFloatSpin* spin = nullptr;
-        QTabWidget* dialog = nullptr;
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-        {
-            m_editor->window.Nodes().SelectNode(node.path);
-            dialog = m_editor->window.Dialog().GetDialog();
-            if (dialog && dialog->count() > 1 && !m_editor->window.isWindowModified())
-                for (auto* each : dialog->currentWidget()->findChildren<VCNumericFloatSpin*>())
-                    if (each->isVisible() && each->isEnabled())
-                        spin = each;
-            if (spin)
-                break;
-        }
+        auto* spin = m_editor->FirstWhere<VCNumericFloatSpin>(
+            [this](VCNumericFloatSpin&) { return m_editor->window.Dialog().GetDialog()->count() > 1; });
         QVERIFY(spin);
+        QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
         const QString path = spin->GetBoundValue()->GetPathName();
         spin->setFocus();
         spin->selectAll();

@@ -28,12 +28,10 @@ private slots:
 
     void numbersAreUnderstoodAsTheyAreTyped_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<double>("expected"); // NaN: refused
+        const Table<QString, QLocale, double> table("text", "locale", "expected"); // NaN: refused
         const double refused = std::nan("");
-        const auto row = [](const QString& text, const QLocale& locale, double expected)
-        { QTest::addRow("%s %s", qPrintable(text), qPrintable(locale.bcp47Name())) << text << locale << expected; };
+        const auto row = [&](const QString& text, const QLocale& locale, double expected)
+        { table(text + ' ' + locale.bcp47Name(), text, locale, expected); };
         row("12", german, 12);
         row(" -0,5 ", german, -0.5);
         row(QString::fromUtf8("−3"), german, -3);
@@ -98,10 +96,8 @@ private slots:
 
     void frequenciesAreReadAndShownInExactHertz_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<qint64>("expected"); // -1: refused
-        const auto row = [](const QString& text, qint64 expected)
-        { QTest::newRow(qPrintable(text)) << text << expected; };
+        const Table<QString, qint64> table("text", "expected"); // -1: refused
+        const auto row = [&](const QString& text, qint64 expected) { table(text, text, expected); };
         row("433.92M", 433920000);
         row("433,92 MHz", 433920000);
         row("7040 k", 7040000);
@@ -153,15 +149,10 @@ private slots:
         ValueBase* value = MakeNumber(kind, kind == ValueKind::DateTime ? "2020-01-31T10:20:30" : "42", 0, 100);
         const QString stored = value->GetStoredText();
         Window window;
-        QWidget* widget = nullptr;
-        if (spin)
-            widget = window.Edit<VCNumericFloatSpin>(value);
-        else
-        {
-            auto* edit = window.Edit<VCLineEdit>(value);
+        auto* widget =
+            spin ? static_cast<QWidget*>(window.Edit<VCNumericFloatSpin>(value)) : window.Edit<VCLineEdit>(value);
+        if (auto* edit = qobject_cast<VCLineEdit*>(widget))
             edit->SuppressErrorMessage(true);
-            widget = edit;
-        }
         QLineEdit* field = spin ? widget->findChild<QLineEdit*>() : static_cast<QLineEdit*>(widget);
         widget->setToolTip("own");
         const QString shown = field->text();

@@ -1,10 +1,10 @@
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/changemark.h"
 #include "jobedit/fieldmarks.h"
 #include "jobedit/fields.h"
 #include "jobedit/nightcolours.h"
 #include "jobedit/panelwindow.h"
-#include "common.h"
 #include "valuewidgets/vclineedit.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vctimeperiod.h"
@@ -33,27 +33,15 @@ QString MarkBeside(QWidget* field)
 /// Another content that the value takes.
 QString OtherContent(const ValueBase& value)
 {
-    const ValueDescriptor& descriptor = value.GetDescriptor();
-    const QString now = value.GetStoredText();
-    switch (value.GetKind())
-    {
-    case ValueKind::Bool:
-        return now == "true" ? "false" : "true";
-    case ValueKind::Selection:
-        for (const SelectionItem& item : descriptor.items)
-            if (QString::number(item.GetKey()) != now)
-                return QString::number(item.GetKey());
-        return {};
-    case ValueKind::Text:
-        return "11:11";
-    case ValueKind::DateTime:
-        return "2020-01-02T03:04:05";
-    case ValueKind::DoubleList:
-        return QString::number(descriptor.minimum.value_or(7)) + ';' + QString::number(descriptor.maximum.value_or(8));
-    default:
-        return QString::number(now.toDouble() == *descriptor.minimum ? *descriptor.maximum : *descriptor.minimum, 'f',
-                               QLocale::FloatingPointShortest);
-    }
+    const QString least = QString::number(value.GetDescriptor().minimum.value_or(7), 'f', 0);
+    const QString most = QString::number(value.GetDescriptor().maximum.value_or(8), 'f', 0);
+    Tree tree;
+    ValueBase* trial = tree.CreateValue(u"/A", value.GetDescriptor());
+    for (const QString& text : {QString("11:11"), QString("2020-01-02T03:04:05"), QString("true"), QString("false"),
+                                least + ';' + most, least, most, QString("0"), QString("1")})
+        if (text != value.GetStoredText() && trial->SetStoredText(text))
+            return text;
+    return {};
 }
 
 QMenu* OpenMenu()
@@ -98,21 +86,9 @@ class TestFieldMarks : public QObject
     /// The first visible, enabled field of this class that any dialog shows.
     Fields::Field FieldOfClass(const char* name)
     {
-        const auto nodes = Window().Nodes().GetNodes();
-        for (const JobNode& node : nodes)
-        {
-            Window().Nodes().SelectNode(node.path);
-            for (int tab = 0; Dialog() && tab < Dialog()->count(); ++tab)
-            {
-                Dialog()->setCurrentIndex(tab);
-                QCoreApplication::processEvents();
-                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget()))
-                    if (field.widget->inherits(name) && Fields::IsEditable(field) &&
-                        !field.widget->visibleRegion().isEmpty())
-                        return field;
-            }
-        }
-        return {};
+        QWidget* widget = m_desk->FirstWhere<QWidget>(
+            [&](QWidget& each) { return each.inherits(name) && Fields::IsEditable(Fields::Of(&each)); });
+        return widget ? Fields::Of(widget) : Fields::Field();
     }
 
 private Q_SLOTS:

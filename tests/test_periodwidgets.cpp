@@ -51,25 +51,6 @@ class TestPeriodWidgets : public QObject
 private slots:
     void cleanup() { CleanUp(); }
 
-    void aGroupBoxFollowsTheStateOfItsValueUnlessLocked()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "false");
-        value->SetState(stDisabled);
-        VCCheckableGroupBox box(nullptr, "Box", "Tip");
-        QVERIFY(!box.isEnabled() && box.isCheckable());
-        QVERIFY(box.SetValue(value));
-        QVERIFY(!box.isEnabled());
-        value->SetState(stEnabled);
-        QVERIFY(box.isEnabled());
-        value->SetState(stDisabled);
-        QVERIFY(!box.isEnabled());
-        box.Lock();
-        value->SetState(stEnabled);
-        QVERIFY(!box.isEnabled());
-        value->SetBool(true);
-        QVERIFY(box.isChecked());
-    }
-
     void aGroupBoxTakesBooleansAndSelectionsOnly()
     {
         auto* boolean = static_cast<BoolValue*>(Make(path, ValueKind::Bool, "false"));
@@ -121,33 +102,6 @@ private slots:
         box.setChecked(true);
         QVERIFY(boolean->GetBool());
         QCOMPARE(value->GetStoredText(), QString("1"));
-    }
-
-    void aGroupBoxForgetsAReleasedValue()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "true");
-        VCCheckableGroupBox box(nullptr, "Box", {});
-        box.SetValue(value);
-        value->SetState(stReleased);
-        value->SetState(stDisabled);
-        value->SetBool(false);
-        QVERIFY(box.isChecked() && box.isEnabled()); // it keeps its look
-        box.SetValue(value);
-        Tree::Instance()->Clear();
-        box.setChecked(!box.isChecked());
-    }
-
-    void aGroupBoxMayBeDeletedByItsOwnWrite()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "false");
-        QPointer<VCCheckableGroupBox> box(new VCCheckableGroupBox(nullptr, "Box", {}));
-        box->setTitle("Title");
-        box->SetValue(value);
-        Counter rebuild([&] { delete box; });
-        value->Attach(&rebuild);
-        Open(*box);
-        QTest::mouseClick(box, Qt::LeftButton, {}, {10, 8});
-        QVERIFY(!box && value->GetBool());
     }
 
     void aPeriodNeedsBothValues_data()
