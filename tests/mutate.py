@@ -40,14 +40,14 @@ TESTS = {
     "platform/value": ["value", "tree", "observable"],
     "platform/valuewidgets": ["valuewidgets", "entrywidgets", "fieldmarks"],
     "ipcparam/source": ["host", "samplejob"],
-    "ipcparam/source/analysis": ["panelrows", "detectionpanels", "headerpanels", "decoderpanels", "demodulator", "demodulatorpanels"],
+    "ipcparam/source/analysis": ["panelrows", "analysispanels", "demodulator", "demodulatorpanels"],
     "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "samplejob", "headerpanels", "detectionpanels", "panelrows"],
+    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "samplejob", "analysispanels", "panelrows"],
     "ipcparam/source/recording": ["panelrows", "recordingpanels"],
-    "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host"],
-    "ipcparam/source/tuner": ["panelrows", "samplejob", "headerpanels", "host"],
+    "ipcparam/source/scan": ["panelrows", "analysispanels", "host"],
+    "ipcparam/source/tuner": ["panelrows", "samplejob", "analysispanels", "host"],
     "ipcparam/source/wavecom": ["wavecom"],
-    "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets"],
+    "ipcparam/source/widgets": ["numericlist", "stringlist", "periodwidgets", "entrywidgets"],
 }
 
 
