@@ -35,13 +35,13 @@ ROOT = Path(__file__).resolve().parent.parent
 # Which tests cover a folder, the quickest and nearest first. The longest prefix that matches counts.
 TESTS = {
     "platform/application": ["application"],
-    "platform/exciter": ["exciterparameter", "excitermodes"],
+    "platform/exciter": ["exciterparameter", "exciter"],
     "platform/jobmodel": ["jobmodel", "jobfile", "jobstructure", "rules", "exciterparameter", "samplejob"],
     "platform/value": ["value", "tree", "observable"],
     "platform/valuewidgets": ["valuewidgets", "entrywidgets", "fieldmarks"],
     "ipcparam/source": ["host", "samplejob"],
-    "ipcparam/source/analysis": ["panelrows", "analysispanels", "demodulator", "demodulatorpanels"],
-    "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes"],
+    "ipcparam/source/analysis": ["panelrows", "analysispanels", "demodulator"],
+    "ipcparam/source/exciter": ["panelrows", "exciter"],
     "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "samplejob", "analysispanels", "panelrows"],
     "ipcparam/source/recording": ["panelrows", "recordingpanels"],
     "ipcparam/source/scan": ["panelrows", "analysispanels", "host"],

@@ -405,35 +405,6 @@ private slots:
         QCOMPARE(host->Wanted(), "20 31 41");
         QCOMPARE(host->States({19, 20}), "20+"); // and not disabled by the rule of the first one
     }
-
-    void hostAndTreeDieInEitherOrder()
-    {
-        CreateBool(Keys::STATE_AUTOMATICMODE);
-        CreateBool(Keys::STATE_AUTOMATICCLASSIFICATION);
-        Tree::Instance()->CreateValue<FrequencyValue>(taskPath + Keys::TUNER_HF_NB_FREQUENCY);
-        auto host = Make(true);
-        host->ClassifierDlg(1, 1);
-        Tree::Instance()->Clear();
-        host->ClassifierDlg(1, 1); // on a tree without values
-        QCOMPARE(host->States({19}), "19+");
-        init();
-        auto* mode = CreateBool(Keys::STATE_AUTOMATICMODE);
-        CreateBool(Keys::STATE_AUTOMATICCLASSIFICATION);
-        mode->SetBool(true); // values that came later are not observed before the next call
-        host->ClassifierDlg(1, 1);
-        QCOMPARE(host->States({19}), "19-");
-        host.reset();
-        mode->SetBool(false);
-
-        // A parent takes the host and its panels along.
-        auto parent = std::make_unique<QWidget>();
-        auto* child =
-            std::make_unique<Host>(taskPath, parent.get(), false, false, false, taskPath, QString()).release();
-        child->TunerNBDlg(1);
-        const QPointer<ParameterDlg> panel = child->Panel(19);
-        parent.reset();
-        QVERIFY(!panel);
-    }
 };
 
 QTEST_MAIN(TestHost)

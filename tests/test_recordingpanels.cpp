@@ -1,3 +1,4 @@
+#include "common.h"
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/alarmconditionsspdlg.h"
 #include "ipcparam/autorecordingdlg.h"
@@ -7,7 +8,6 @@
 #include "keys/keymanager.h"
 #include "keys/keys.h"
 #include "panelgrid.h"
-#include "common.h"
 #include "widgetfixture.h"
 
 using namespace TKE;
@@ -93,29 +93,6 @@ private Q_SLOTS:
         KeyManager::Instance()->Clear();
     }
 
-    void everyEditorIsBoundToTheOneValueThatTheModelPutsThere_data() { AddKinds(); }
-    void everyEditorIsBoundToTheOneValueThatTheModelPutsThere()
-    {
-        QFETCH(const PanelKind*, kind);
-        MapAndFill(*kind);
-        const PanelPtr panel = kind->make(false);
-        for (const auto& parameter : ParametersOf(*kind))
-        {
-            const QString key = parameter->GetUniqueParameterName();
-            const auto widgets = panel->findChildren<QWidget*>(key);
-            QVERIFY2(widgets.size() == (key == AUTORECORDING_RECORDRESULTS ? 0 : 1), qPrintable(key));
-            if (widgets.isEmpty())
-                continue;
-            const bool isMapped = parameter->GetPlace() == JOBXMLGENERATOR::Place::Mapped;
-            ValueBase* bound = Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? fullName : QString()) + key);
-            bound->SetState(stEnabled); // some values are disabled by their panel
-            Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? QString() : fullName) + key)->SetState(stDisabled);
-            QVERIFY2(widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
-            bound->SetState(stDisabled);
-            QVERIFY2(!widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
-        }
-    }
-
     void aReadOnlyPanelThatIsOpenedDirectlyStaysDisabledWhateverTheValuesSay_data()
     {
         AddKinds({&profile, &profileHeader});
@@ -149,16 +126,6 @@ private Q_SLOTS:
         for (const QLabel* label : panel->findChildren<QLabel*>())
             QVERIFY2(!label->wordWrap() || label->height() >= label->heightForWidth(label->width()),
                      qPrintable(label->text()));
-    }
-
-    void theReducedFormOffersTheResultsAndNoButton()
-    {
-        Fill(autoRecording.group);
-        const AutoRecordingDlg panel(basePath, nullptr, true, false);
-        QTest::keyClick(panel.findChild<QCheckBox*>(), Qt::Key_Space);
-        QVERIFY(ValueOf(AUTORECORDING_RECORDRESULTS)->GetBool());
-        QCOMPARE(BoundNames(panel), QSet<QString>{AUTORECORDING_RECORDRESULTS});
-        QVERIFY(panel.findChildren<QPushButton*>().isEmpty());
     }
 
     void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data()

@@ -194,20 +194,6 @@ private Q_SLOTS:
             QCOMPARE(Mode()->GetCurrentKey(), 2);
         }
     }
-
-    void panelAndModeGoInEitherOrder()
-    {
-        {
-            const OpenPanel panel(m_dataNode);
-            QVERIFY(Mode()->IsObserved());
-        }
-        QVERIFY(!Mode()->IsObserved());
-
-        auto panel = std::make_unique<OpenPanel>(m_dataNode);
-        Tree::Instance()->RemoveBranch(QStringLiteral("/J"));
-        QCOMPARE(ComboAt(*panel, 3)->GetBoundValue(), nullptr);
-        panel.reset();
-    }
 };
 
 QTEST_MAIN(TestWavecom)
