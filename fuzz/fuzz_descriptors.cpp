@@ -1,18 +1,15 @@
 // A descriptor file of any bytes: reading never crashes, and what it gives can be used.
 
+#include "fuzz.h"
 #include "jobmodel/jobmodelreader.h"
 #include "jobmodel/nodetemplate.h"
 #include "value/tree.h"
-
-#include <QBuffer>
 
 using namespace TKE;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    QBuffer buffer;
-    buffer.setData(reinterpret_cast<const char*>(data), int(size));
-    buffer.open(QIODevice::ReadOnly);
+    Fuzz::Input buffer(data, size);
     JobModel model;
     JobModelReader(model, QStringLiteral("fuzz")).ReadInto(buffer);
     for (const auto& group : model.GetGroups())

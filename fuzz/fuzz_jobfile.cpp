@@ -1,11 +1,10 @@
 // A job file of any bytes: loading never crashes; what loads is written back byte for byte, and again after an edit was
 // undone.
 
+#include "fuzz.h"
 #include "jobmodel/jobmodel.h"
 #include "jobmodel/jobreader.h"
 #include "jobmodel/jobwriter.h"
-
-#include <QBuffer>
 
 using namespace TKE;
 
@@ -16,16 +15,13 @@ QByteArray Written(const Tree& tree, const JobLayout& layout)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    if (!JobWriter(tree, buffer).Write(layout))
-        abort();
+    Fuzz::Require(JobWriter(tree, buffer).Write(layout));
     return buffer.data();
 }
 
 bool Reads(const QByteArray& text, Tree& tree, JobLayout& layout, const JobModel& model)
 {
-    QBuffer buffer;
-    buffer.setData(text);
-    buffer.open(QIODevice::ReadOnly);
+    Fuzz::Input buffer(text);
     return JobReader(tree, tree, layout, model, QStringLiteral("fuzz"), JobReader::Purpose::Load).Read(buffer);
 }
 
@@ -36,9 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     static const auto model = JobModel::Load();
     const QByteArray text(reinterpret_cast<const char*>(data), qsizetype(size));
     {
-        QBuffer buffer;
-        buffer.setData(text);
-        buffer.open(QIODevice::ReadOnly);
+        Fuzz::Input buffer(text);
         Tree tree;
         JobLayout layout;
         JobReader(tree, tree, layout, *model, QStringLiteral("fuzz"), JobReader::Purpose::Check).Read(buffer);
@@ -47,8 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     JobLayout layout;
     if (!Reads(text, tree, layout, *model))
         return 0;
-    if (Written(tree, layout) != text)
-        abort();
+    Fuzz::Require(Written(tree, layout) == text);
 
     // Every value of every node edited: what is written then must load and hold the same.
     for (JobNode* node : std::as_const(layout.byPath))
@@ -66,8 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QByteArray edited = Written(tree, layout);
     Tree again;
     JobLayout againLayout;
-    if (!Reads(edited, again, againLayout, *model) || Written(again, againLayout) != edited ||
-        again.ValueCount() != tree.ValueCount())
-        abort();
+    Fuzz::Require(Reads(edited, again, againLayout, *model) && Written(again, againLayout) == edited &&
+                  again.ValueCount() == tree.ValueCount());
     return 0;
 }

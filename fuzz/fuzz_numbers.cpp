@@ -3,6 +3,7 @@
 //
 // The first four bytes choose locale, kind, factor and range; what follows is typed.
 
+#include "fuzz.h"
 #include "value/value.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/numericvalue.h"
@@ -12,6 +13,7 @@
 #include <array>
 
 using namespace TKE;
+using Fuzz::Require;
 
 namespace
 {
@@ -25,12 +27,6 @@ const std::array locales{QLocale(QLocale::C),
                          QLocale(QLocale::Arabic, QLocale::Egypt),
                          QLocale(QLocale::Persian, QLocale::Iran)};
 constexpr std::array factors{1.0, 1e-3, 1e-6, 1e-9, 1000.0, 60.0, 0.3};
-
-void Require(bool holds)
-{
-    if (!holds)
-        abort();
-}
 
 void CheckDecimal(const QString& typed, const QLocale& locale)
 {
@@ -62,7 +58,8 @@ void CheckFrequency(const QString& typed, SuffixedDouble::ESuffix unit, const QL
         const QString text = SuffixedDouble::ToText(hertz, shown, locale);
         qint64 again = 0;
         Require(SuffixedDouble::FromText(text, shown, locale, again, reason) && again == hertz);
-        Require(SuffixedDouble::FromText(text + QLatin1Char(' ') + SuffixedDouble::GetUnitText(shown), unit, locale, again, reason) &&
+        Require(SuffixedDouble::FromText(text + QLatin1Char(' ') + SuffixedDouble::GetUnitText(shown), unit, locale,
+                                         again, reason) &&
                 again == hertz);
     }
 }

@@ -1,26 +1,18 @@
 // A file of kept edits of any bytes: reading never crashes, and what counts of it is written so that it reads as the
 // same. As no fuzzer guesses checksums, the lines are read a second time with the right ones.
 
+#include "fuzz.h"
 #include "jobedit/recoveryfile.h"
 
-#include <QBuffer>
-
 using namespace JOBEDIT;
+using Fuzz::Require;
 
 namespace
 {
 
-void Require(bool holds)
-{
-    if (!holds)
-        abort();
-}
-
 RecoveryFile ReadBytes(const QByteArray& bytes)
 {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
+    Fuzz::Input buffer(bytes);
     return RecoveryFile::Read(buffer);
 }
 

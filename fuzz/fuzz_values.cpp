@@ -3,19 +3,15 @@
 //
 // The first byte chooses the kind, the second the range and the form; what follows is the text.
 
+#include "fuzz.h"
 #include "value/tree.h"
 #include "value/valueselection.h"
 
 using namespace TKE;
+using Fuzz::Require;
 
 namespace
 {
-
-void Require(bool holds)
-{
-    if (!holds)
-        abort();
-}
 
 ValueDescriptor DescriptorOf(uint8_t kind, uint8_t form)
 {
@@ -47,9 +43,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     ValueBase* again = tree.CreateValue(u"/A/again", descriptor);
     const QString before = value->GetStoredText();
     QString reason;
-    const bool taken = data[1] & 8 ? value->SetFromText(QString::fromUtf8(text.data(), qsizetype(text.size())), nullptr,
-                                                        &reason)
-                                   : value->SetStored(text, nullptr, &reason);
+    const bool taken =
+        data[1] & 8 ? value->SetFromText(QString::fromUtf8(text.data(), qsizetype(text.size())), nullptr, &reason)
+                    : value->SetStored(text, nullptr, &reason);
     const QString stored = value->GetStoredText();
     if (!taken)
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common.h"
 #include "jobedit/dialogpane.h"
 #include "jobedit/edithistory.h"
 #include "jobedit/mainwindow.h"
@@ -7,7 +8,6 @@
 #include "jobedit/nodepane.h"
 #include "keys/keys.h"
 
-#include <QTest>
 #include <QtWidgets>
 
 /// A main window with the sample job, driven by keys and mouse.
@@ -18,19 +18,35 @@ using namespace JOBEDIT;
 using namespace TKE;
 
 inline const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
+inline const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
 inline const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
 
-inline QByteArray ReadAll(const QString& fileName)
+/// Does this with the next modal dialog.
+class Next : public QObject
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
+public:
+    explicit Next(std::function<void(QDialog&)> act) : m_act(std::move(act))
+    {
+        m_timer.callOnTimeout(this, [this] { Look(); });
+        m_timer.start(10);
+    }
+    bool HasActed() const { return !m_timer.isActive(); }
 
-inline void WriteAll(const QString& fileName, const QByteArray& bytes)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
+private:
+    void Look()
+    {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        m_timer.stop();
+        m_act(*dialog);
+        if (dialog && QTest::currentTestFailed())
+            dialog->reject(); // the test goes on
+    }
+
+    std::function<void(QDialog&)> m_act;
+    QTimer m_timer;
+};
 
 /// Presses these buttons of the next message boxes, one of each, and keeps what the boxes said.
 class Answer : public QObject
@@ -102,6 +118,26 @@ public:
         return nullptr;
     }
 
+    /// The first widget on the tab of any dialog that can be seen and used and is as wanted.
+    template <class Widget> Widget* FirstWhere(const std::function<bool(Widget&)>& isWanted)
+    {
+        const auto nodes = window.Nodes().GetNodes();
+        for (const JobNode& node : nodes)
+        {
+            window.Nodes().SelectNode(node.path);
+            QTabWidget* dialog = window.Dialog().GetDialog();
+            for (int tab = 0; dialog && tab < dialog->count(); ++tab)
+            {
+                dialog->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                for (auto* widget : dialog->currentWidget()->findChildren<Widget*>())
+                    if (widget->isEnabled() && !widget->visibleRegion().isEmpty() && isWanted(*widget))
+                        return widget;
+            }
+        }
+        return nullptr;
+    }
+
     QLineEdit* FrequencyField()
     {
         QWidget* frequency = Find(tunerPath, Keys::TUNER_HF_NB_FREQUENCY);
@@ -121,6 +157,36 @@ public:
     {
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &window, key, modifiers);
+    }
+};
+
+/// Settings and files of a test, away from those of the user. It leaves an empty tree.
+class Surroundings
+{
+public:
+    Surroundings()
+    {
+        QCoreApplication::setOrganizationName("ipcparam");
+        QCoreApplication::setApplicationName("jobedit");
+        QStandardPaths::setTestModeEnabled(true);
+        QLocale::setDefault(QLocale::C);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+    }
+    ~Surroundings() { Tree::Instance()->Clear(); }
+    QString File(const QString& name) const { return m_directory.filePath(name); }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+/// An editor with the sample job.
+class Desk : public Surroundings, public Editor
+{
+public:
+    Desk()
+    {
+        if (!window.NewFromSample())
+            qFatal("The sample cannot be loaded.");
     }
 };
 

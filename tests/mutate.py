@@ -35,19 +35,19 @@ ROOT = Path(__file__).resolve().parent.parent
 # Which tests cover a folder, the quickest and nearest first. The longest prefix that matches counts.
 TESTS = {
     "platform/application": ["application"],
-    "platform/exciter": ["exciterparameter", "excitermodes"],
+    "platform/exciter": ["exciterparameter", "exciter"],
     "platform/jobmodel": ["jobmodel", "jobfile", "jobstructure", "rules", "exciterparameter"],
     "platform/value": ["value", "tree", "observable"],
     "platform/valuewidgets": ["valuewidgets", "entrywidgets", "fieldmarks"],
     "ipcparam/source": ["host", "samplejob"],
-    "ipcparam/source/analysis": ["panelrows", "detectionpanels", "headerpanels", "decoderpanels", "demodulator", "demodulatorpanels", "rules"],
-    "ipcparam/source/exciter": ["panelrows", "exciterpanels", "excitermodes", "rules"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "tuner", "headerpanels", "detectionpanels", "panelrows", "rules"],
+    "ipcparam/source/analysis": ["panelrows", "analysispanels", "demodulator", "rules"],
+    "ipcparam/source/exciter": ["panelrows", "exciter", "rules"],
+    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "panelrows", "analysispanels", "rules"],
     "ipcparam/source/recording": ["panelrows", "recordingpanels", "rules"],
-    "ipcparam/source/scan": ["panelrows", "headerpanels", "detectionpanels", "host", "rules"],
-    "ipcparam/source/tuner": ["panelrows", "tuner", "headerpanels", "host", "rules"],
-    "ipcparam/source/wavecom": ["panelrows", "wavecom", "rules"],
-    "ipcparam/source/widgets": ["numericlist", "numericlistrows", "stringlist", "periodwidgets", "entrywidgets", "rules"],
+    "ipcparam/source/scan": ["panelrows", "analysispanels", "host", "rules"],
+    "ipcparam/source/tuner": ["panelrows", "analysispanels", "host", "rules"],
+    "ipcparam/source/wavecom": ["wavecom"],
+    "ipcparam/source/widgets": ["numericlist", "stringlist", "periodwidgets", "entrywidgets"],
 }
 
 

@@ -2,6 +2,7 @@
 #include "jobedit/chains.h"
 #include "jobedit/changemark.h"
 #include "jobedit/nightcolours.h"
+#include "common.h"
 
 #include <QAccessible>
 #include <set>
@@ -108,8 +109,7 @@ class TestAccessibility : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_directory;
-    std::unique_ptr<Editor> m_editor;
+    std::optional<Desk> m_desk;
     QStringList m_faults;
 
     void Verdict()
@@ -236,7 +236,7 @@ class TestAccessibility : public QObject
     void ForEachTab(Opened opened, const std::function<void(const QString& where, QWidget& page)>& visit)
     {
         std::set<QString> seen;
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
+        for (const JobNode& node : m_desk->window.Nodes().GetNodes())
         {
             if (!seen.insert(node.type + QString::number(int(node.band))).second)
                 continue;
@@ -259,41 +259,30 @@ class TestAccessibility : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QLocale::setDefault(QLocale::C);
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory.path());
-        QAccessible::setActive(true);
-    }
-
+    void initTestCase() { QAccessible::setActive(true); }
     void init()
     {
         m_faults.clear();
-        m_editor = std::make_unique<Editor>();
-        QVERIFY(m_editor->window.NewFromSample());
+        m_desk.emplace();
     }
-
     void cleanup()
     {
         NightColours::Switch(false);
-        m_editor.reset();
-        Tree::Instance()->Clear();
+        m_desk.reset();
     }
 
     void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab_data()
     {
-        QTest::addColumn<Opened>("opened");
-        QTest::addColumn<int>("atLeast");
-        QTest::newRow("job form") << Opened::JobForm << 500;
-        QTest::newRow("stand-alone form") << Opened::StandAloneForm << 500;
-        QTest::newRow("panels") << Opened::Panels << 50;
+        const Table<Opened, int> row("opened", "atLeast");
+        row("job form", Opened::JobForm, 500);
+        row("stand-alone form", Opened::StandAloneForm, 500);
+        row("panels", Opened::Panels, 50);
     }
     void everyEditorSaysWhatItIsAndHoldsAndIsReachedByTab()
     {
         QFETCH(Opened, opened);
         QFETCH(int, atLeast);
+        const QByteArray loaded = m_desk->Bytes();
         size_t count = 0;
         ForEachTab(opened,
                    [&](const QString& where, QWidget& page)
@@ -307,19 +296,21 @@ private Q_SLOTS:
         qInfo("%zu editors", count);
         Verdict();
         QVERIFY(count > size_t(atLeast));
+        QVERIFY(!m_desk->window.isWindowModified()); // viewing never writes
+        QCOMPARE(m_desk->Bytes(), loaded);
     }
 
     void theWindowAndItsPanesSayWhatTheyAreAndHold()
     {
-        for (QDockWidget* dock : m_editor->window.findChildren<QDockWidget*>())
+        for (QDockWidget* dock : m_desk->window.findChildren<QDockWidget*>())
             dock->show();
-        m_editor->window.OfferHint();
-        m_editor->window.Nodes().SelectNode(tunerPath);
+        m_desk->window.OfferHint();
+        m_desk->window.Nodes().SelectNode(tunerPath);
         QCoreApplication::processEvents();
-        const std::vector<QWidget*> editors = EditorsIn(m_editor->window);
+        const std::vector<QWidget*> editors = EditorsIn(m_desk->window);
         for (QWidget* editor : editors)
             Listen("window", *editor);
-        for (const QDockWidget* dock : m_editor->window.findChildren<QDockWidget*>())
+        for (const QDockWidget* dock : m_desk->window.findChildren<QDockWidget*>())
             if (dock->windowTitle().isEmpty())
                 m_faults << Describe(*dock) + " has no title";
         Verdict();
@@ -336,8 +327,8 @@ private Q_SLOTS:
     void everyDialogThatACommandOpensSaysWhatItIsAndHolds()
     {
         QFETCH(QString, command);
-        m_editor->window.Nodes().SelectNode(tunerPath.chopped(int(qstrlen("TUNER/"))));
-        QVERIFY(m_editor->window.SaveTo(m_directory.filePath("a.job.xml")));
+        m_desk->window.Nodes().SelectNode(tunerPath.chopped(int(qstrlen("TUNER/"))));
+        QVERIFY(m_desk->window.SaveTo(m_desk->File("a.job.xml")));
         size_t count = 0;
         QTimer reader;
         reader.callOnTimeout(
@@ -356,9 +347,9 @@ private Q_SLOTS:
                     }
             });
         reader.start(10);
-        for (QMenu* menu : m_editor->window.findChildren<QMenu*>())
+        for (QMenu* menu : m_desk->window.findChildren<QMenu*>())
             emit menu->aboutToShow();
-        for (QAction* action : m_editor->window.findChildren<QAction*>())
+        for (QAction* action : m_desk->window.findChildren<QAction*>())
             if (action->text().remove('&') == command && count == 0)
                 action->trigger();
         QTRY_VERIFY2(count > 0, "no dialog has come up");
@@ -367,14 +358,14 @@ private Q_SLOTS:
 
     void aRefusedEntrySaysWhyUntilItIsTakenBack()
     {
-        m_editor->TypeFrequency("7.1M");
-        QLineEdit* field = m_editor->FrequencyField();
+        m_desk->TypeFrequency("7.1M");
+        QLineEdit* field = m_desk->FrequencyField();
         QTest::keyClick(field, Qt::Key_Return);
         const auto description = [&]
         { return QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description); };
         QTRY_VERIFY(description().contains("saved file")); // a mark has been set
         const QString marked = description();
-        m_editor->TypeFrequency("nonsense");
+        m_desk->TypeFrequency("nonsense");
         QTest::keyClick(field, Qt::Key_Return);
         QVERIFY(!field->toolTip().isEmpty());
         QCOMPARE(description(), field->toolTip());
@@ -412,18 +403,19 @@ private Q_SLOTS:
         for (const auto icon : {QStyle::SP_MessageBoxCritical, QStyle::SP_MessageBoxWarning})
             look("a sign of the check", QApplication::style()->standardIcon(icon).pixmap(16).toImage(), QPalette::Base);
 
-        const QTreeView& nodes = *m_editor->window.Nodes().View();
-        const auto* model = nodes.model();
-        QImage dimmed(100, 20, QImage::Format_RGB32);
-        dimmed.fill(palette.color(QPalette::Base));
-        QPainter painter(&dimmed);
-        painter.fillRect(dimmed.rect(),
-                         model->index(0, 0, model->index(0, 0)).data(Qt::ForegroundRole).value<QBrush>());
-        painter.end();
-        look("a node without a dialog", dimmed, QPalette::Base);
+        const auto* model = m_desk->window.Nodes().View()->model();
+        const auto dimmed = model->index(0, 0, model->index(0, 0)).data(Qt::ForegroundRole).value<QBrush>();
+        for (const auto role : {QPalette::Base, QPalette::AlternateBase})
+        {
+            QVERIFY(Contrast(palette.color(QPalette::Text), palette.color(role)) > 7);
+            QImage sheet(1, 1, QImage::Format_RGB32); // dimmed texts may be half transparent
+            sheet.fill(palette.color(role));
+            QPainter(&sheet).fillRect(sheet.rect(), dimmed);
+            look("a node without a dialog", sheet, role);
+        }
 
-        m_editor->TypeFrequency("nonsense");
-        QLineEdit* field = m_editor->FrequencyField();
+        m_desk->TypeFrequency("nonsense");
+        QLineEdit* field = m_desk->FrequencyField();
         QTest::keyClick(field, Qt::Key_Return);
         const QImage refused = field->grab().toImage();
         const QColor frame = refused.pixelColor(refused.width() / 2, 0);

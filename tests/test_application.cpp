@@ -2,6 +2,7 @@
 #include "application/cfgcenter.h"
 #include "application/errorhandler.h"
 #include "application/translationcenter.h"
+#include "common.h"
 #include "exciter/exciter_settings.h"
 #include "keys/keymanager.h"
 
@@ -35,9 +36,7 @@ private:
     void Write(const QString& fileName, const QByteArray& content)
     {
         QVERIFY(QDir().mkpath(QFileInfo(fileName).path()));
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
+        WriteAll(fileName, content);
     }
     QString Get(const QString& name, TCfgView view, const QString& key)
     {

@@ -1,96 +1,54 @@
+#include "editorfixture.h"
 #include "jobedit/checkdock.h"
 #include "jobedit/checker.h"
-#include "jobedit/dialogpane.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/nodepane.h"
 #include "jobmodel/jobfile.h"
-#include "keys/keys.h"
+#include "common.h"
 
-#include <QTest>
-#include <QtWidgets>
-
-using namespace JOBEDIT;
-using namespace TKE;
-
-namespace
-{
-
-const QString scanPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-
-} // namespace
+using namespace EditorTest;
 
 class TestCheck : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    CheckDock* Dock() { return m_window->findChild<CheckDock*>(); }
-    QTreeWidget* List() { return m_window->findChild<QTreeWidget*>("checkList"); }
-    QString Summary() { return m_window->findChild<QLabel*>("checkSummary")->text(); }
+    MainWindow& Window() { return m_desk->window; }
+    CheckDock* Dock() { return Window().findChild<CheckDock*>(); }
+    QTreeWidget* List() { return Window().findChild<QTreeWidget*>("checkList"); }
+    QString Summary() { return Window().findChild<QLabel*>("checkSummary")->text(); }
     bool WaitUntilChecked()
     {
         return QTest::qWaitFor([this] { return !Dock()->IsRunning(); }) && (QTest::qWait(1), true);
     }
-    static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
+    static ValueBase* Value(const QString& path) { return Editor::Value(path); }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
+        m_desk.emplace();
         QVERIFY(WaitUntilChecked());
     }
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_desk.reset(); }
 
     void whatIsWrongWithAValueIsFound_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("content"); // stored form
-        QTest::addColumn<bool>("isError");
-        QTest::addColumn<QString>("says"); // empty: nothing is wrong
-        const QString tds = "/Jobs/Demo/TDS_HF1/";
-        QString surveillance = tds + "CS_DATA/DATATRANS/";
-        QTest::newRow("unknown item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "77" << false << "77";
-        QTest::newRow("known item") << scanPath + Keys::TUNER_HF_NB_IFSOURCE << "2" << false << "";
-        QTest::newRow("start after stop") << scanPath + "SCAN_START_FREQUENCY"
-                                          << "4000000" << true << "3500000 Hz";
-        QTest::newRow("stop before start") << scanPath + "SCAN_STOP_FREQUENCY"
-                                           << "1000000" << true << "1000000 Hz";
-        QTest::newRow("start at stop") << scanPath + "SCAN_START_FREQUENCY"
-                                       << "3500000" << true << "";
-        QTest::newRow("list of half a row") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE"
-                                            << "100000;200000;300000" << true << "rows of 2";
-        QTest::newRow("range turned round") << scanPath + "SCAN_SEQ_EXCL_FREQ_RANGE"
-                                            << "100000;200000;400000;300000" << true << "Row 2";
-        QTest::newRow("list too long") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(200) + "10000"
-                                       << true << "200";
-        QTest::newRow("list full") << scanPath + "SCAN_SEQ_FREQUENCY" << QString("10000;").repeated(199) + "10000"
-                                   << true << "";
-        QTest::newRow("dates turned round") << surveillance + "SURVEILLANCE_DATEPERIOD_START"
-                                            << "2030-01-01" << true << "2024-12-31";
-        QTest::newRow("no date") << surveillance + "SURVEILLANCE_DATEPERIOD_STOP"
-                                 << "31.12.2024" << true << "yyyy-MM-dd";
-        QTest::newRow("past midnight") << surveillance + "SURVEILLANCE_TIMEPERIOD_START"
-                                       << "22:00" << true << "";
-        QTest::newRow("no time") << surveillance + "SURVEILLANCE_TIMEPERIOD_START"
-                                 << "25:00" << true << "25:00";
+        // content: stored form; says: empty when nothing is wrong
+        const Table<QString, QString, bool, QString> row("path", "content", "isError", "says");
+        const QString period = "/Jobs/Demo/TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_";
+        const QString scan = tunerPath + "SCAN_";
+        row("unknown item", tunerPath + Keys::TUNER_HF_NB_IFSOURCE, "77", false, "77");
+        row("known item", tunerPath + Keys::TUNER_HF_NB_IFSOURCE, "2", false, "");
+        row("start after stop", scan + "START_FREQUENCY", "4000000", true, "3500000 Hz");
+        row("stop before start", scan + "STOP_FREQUENCY", "1000000", true, "1000000 Hz");
+        row("start at stop", scan + "START_FREQUENCY", "3500000", true, "");
+        row("list of half a row", scan + "SEQ_EXCL_FREQ_RANGE", "100000;200000;300000", true, "rows of 2");
+        row("range turned round", scan + "SEQ_EXCL_FREQ_RANGE", "100000;200000;400000;300000", true, "Row 2");
+        row("list too long", scan + "SEQ_FREQUENCY", QString("10000;").repeated(200) + "10000", true, "200");
+        row("list full", scan + "SEQ_FREQUENCY", QString("10000;").repeated(199) + "10000", true, "");
+        row("dates turned round", period + "DATEPERIOD_START", "2030-01-01", true, "2024-12-31");
+        row("no date", period + "DATEPERIOD_STOP", "31.12.2024", true, "yyyy-MM-dd");
+        row("past midnight", period + "TIMEPERIOD_START", "22:00", true, "");
+        row("no time", period + "TIMEPERIOD_START", "25:00", true, "25:00");
     }
     void whatIsWrongWithAValueIsFound()
     {
@@ -99,7 +57,7 @@ private Q_SLOTS:
         QFETCH(bool, isError);
         QFETCH(QString, says);
         QVERIFY2(Value(path), qPrintable(path));
-        const Checker checker(*Tree::Instance(), *m_window->Document().GetModel());
+        const Checker checker(*Tree::Instance(), *Window().Document().GetModel());
         QVERIFY(checker.CheckValues().empty());
         Value(path)->SetState(stEnabled);
         QVERIFY(Value(path)->SetStoredText(content));
@@ -127,7 +85,7 @@ private Q_SLOTS:
         descriptor.minimum = 5;
         descriptor.maximum = 9;
         ValueBase* value = tree.CreateValue(u"/A/X", descriptor);
-        const Checker checker(tree, *m_window->Document().GetModel());
+        const Checker checker(tree, *Window().Document().GetModel());
         QVERIFY(checker.CheckValues().empty());
         descriptor.minimum = 8; // as another version of the model has it
         const auto findings = checker.CheckValues();
@@ -139,22 +97,22 @@ private Q_SLOTS:
 
     void findingsFollowEditsAndAreGoneToByKeyboard()
     {
-        auto* status = m_window->findChild<QLabel*>("checkStatus");
+        auto* status = Window().findChild<QLabel*>("checkStatus");
         QVERIFY(!status->isVisible());
-        const QString path = scanPath + Keys::TUNER_HF_NB_IFSOURCE;
+        const QString path = tunerPath + Keys::TUNER_HF_NB_IFSOURCE;
         QVERIFY(Value(path)->SetStoredText("77"));
         QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/SCAN_START_FREQUENCY")->SetStoredText("5000000"));
         QTRY_VERIFY(status->isVisible());
 
-        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QTest::keyClick(&Window(), Qt::Key_F7);
         QTRY_COMPARE(List()->topLevelItemCount(), 2);
         QVERIFY(WaitUntilChecked());
         QVERIFY(List()->hasFocus() && List()->isVisible());
         QCOMPARE(Summary(), QStringLiteral("Errors: 1, warnings: 1"));
-        QCOMPARE(List()->topLevelItem(0)->text(2), scanPath);
+        QCOMPARE(List()->topLevelItem(0)->text(2), tunerPath);
         QTest::keyClick(List(), Qt::Key_Home);
         QTest::keyClick(List(), Qt::Key_Return);
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, scanPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
         auto* field = qobject_cast<QComboBox*>(QApplication::focusWidget());
         QVERIFY(field && field->objectName() == Keys::TUNER_HF_NB_IFSOURCE);
 
@@ -167,26 +125,26 @@ private Q_SLOTS:
 
     void aRuleThatSwitchesAValueOnHasItChecked()
     {
-        const QString path = "/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/";
-        QCOMPARE(Value(path + Keys::TUNER_HF_NB_NF1_BANDWIDTH)->GetState(), stDisabled);
-        QVERIFY(Value(path + Keys::TUNER_HF_NB_NF1_BANDWIDTH)->SetStoredText("12345"));
+        ValueBase* width = Value(tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        QCOMPARE(width->GetState(), stDisabled);
+        QVERIFY(width->SetStoredText("12345"));
         QTest::qWait(20);
         QCOMPARE(List()->topLevelItemCount(), 0);
-        QVERIFY(Value(path + Keys::TUNER_HF_NB_NF1_STATUS)->SetBool(true));
+        QVERIFY(Value(tunerPath + Keys::TUNER_HF_NB_NF1_STATUS)->SetBool(true));
         QTRY_COMPARE(List()->topLevelItemCount(), 1);
         FileError error;
-        QVERIFY(m_window->Document().NewFromSample(error));
+        QVERIFY(Window().Document().NewFromSample(error));
         QTRY_COMPARE(List()->topLevelItemCount(), 0);
     }
 
     void whatAPanelDisablesIsCheckedNoMore()
     {
         const QString node = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/";
-        m_window->Nodes().SelectNode(scanPath);
+        Window().Nodes().SelectNode(tunerPath);
         QVERIFY(Value(node + "TUNER_HF_NB_IFSOURCE")->SetStoredText("9"));
         QTRY_COMPARE(List()->topLevelItemCount(), 1);
         Value(node + "TUNER_HF_NB_IFSOURCE")->SetState(stDisabled);
-        m_window->Nodes().SelectNode(node);
+        Window().Nodes().SelectNode(node);
         QTRY_COMPARE(List()->topLevelItemCount(), 0);
     }
 
@@ -198,11 +156,9 @@ private Q_SLOTS:
                 "<Node name=\"C" + QByteArray::number(number) +
                 "\" type=\"IPC_FULL\" groups=\"G_AUTOREC G_CLASSIFIER G_DECODER G_DEMOD_HF G_DFLOCATE G_GENERAL_CS "
                 "G_TUNER_HF\"><Value name=\"TUNER_HF_NB_IFSOURCE\">9</Value></Node>\n";
-        QFile file(m_directory->filePath("large.job.xml"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<Job version=\"1\"><Node name=\"/Jobs\" type=\"JOB\">" + chains + "</Node></Job>\n");
-        file.close();
-        QVERIFY(m_window->OpenFile(file.fileName()));
+        WriteAll(m_desk->File("large.job.xml"),
+                 "<Job version=\"1\"><Node name=\"/Jobs\" type=\"JOB\">" + chains + "</Node></Job>\n");
+        QVERIFY(Window().OpenFile(m_desk->File("large.job.xml")));
         QCoreApplication::processEvents(); // the new dialog
         Dock()->Start();
 
@@ -220,7 +176,7 @@ private Q_SLOTS:
         QVERIFY(Summary().contains("1000"));
         QCOMPARE(List()->topLevelItemCount(), 1000);
 
-        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QTest::keyClick(&Window(), Qt::Key_F7);
         QVERIFY(Dock()->IsRunning());
         QTest::keyClick(List(), Qt::Key_Escape);
         QVERIFY(!Dock()->IsRunning());
@@ -230,13 +186,13 @@ private Q_SLOTS:
 
     void filesAreCheckedWithTheirValues()
     {
-        const QString path = scanPath + "SCAN_START_FREQUENCY";
-        const QString name = m_directory->filePath("a.job.xml");
+        const QString path = tunerPath + "SCAN_START_FREQUENCY";
+        const QString name = m_desk->File("a.job.xml");
         const auto model = JobModel::Load();
-        QVERIFY(m_window->SaveTo(name));
+        QVERIFY(Window().SaveTo(name));
         QVERIFY(Checker::CheckFile(name, model).isEmpty());
         QVERIFY(Value(path)->SetStoredText("4000000"));
-        QVERIFY(m_window->SaveTo(name));
+        QVERIFY(Window().SaveTo(name));
         const FileErrors errors = Checker::CheckFile(name, model);
         QCOMPARE(errors.size(), 1);
         QVERIFY(errors[0].IsError());

@@ -1,35 +1,13 @@
+#include "editorfixture.h"
 #include "jobedit/compareactions.h"
 #include "jobedit/differencemodel.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/messagelist.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/otherjob.h"
-#include "keys/keys.h"
+#include "common.h"
 
-#include <QTest>
-#include <QtWidgets>
-
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
-const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
-
-QByteArray ReadAll(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-void WriteAll(const QString& fileName, const QByteArray& bytes)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
 
 QByteArray Sample()
 {
@@ -57,59 +35,41 @@ class TestCompare : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-    static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
+    MainWindow& Window() { return m_desk->window; }
+    static ValueBase* Value(const QString& path) { return Editor::Value(path); }
     static QTreeView* List(CompareDialog& dialog) { return dialog.findChild<QTreeView*>("differences"); }
     static QPushButton* Button(CompareDialog& dialog, const char* name) { return dialog.findChild<QPushButton*>(name); }
-    CompareDialog* OpenDialog() const { return m_window->findChild<CompareDialog*>(); }
+    CompareDialog* OpenDialog() { return Window().findChild<CompareDialog*>(); }
+    void CompareChains()
+    {
+        for (QAction* action : Window().ToolsMenu()->actions())
+            if (action->text().remove('&') == "Compare Chains...")
+                action->trigger();
+    }
     void Load(OtherJob& job, const QByteArray& content)
     {
-        WriteAll(File("load.job.xml"), content);
+        WriteAll(m_desk->File("load.job.xml"), content);
         FileError error;
-        QVERIFY2(job.file.Load(File("load.job.xml"), &error), qPrintable(error.ToText()));
+        QVERIFY2(job.file.Load(m_desk->File("load.job.xml"), &error), qPrintable(error.ToText()));
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-        QLocale::setDefault(QLocale::C);
-    }
-
-    void init()
-    {
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
-    }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void init() { m_desk.emplace(); }
+    void cleanup() { m_desk.reset(); }
 
     void differencesComeInTheOrderOfTheFile_data()
     {
-        QTest::addColumn<QByteArray>("right");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("none") << Sample() << "";
-        QTest::newRow("a value") << SampleWithFrequency("7040000") << "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n";
-        QTest::newRow("nodes") << Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW")
-                               << "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath +
-                                      ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n";
-        QTest::newRow("channels") << Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"1\"")
-                                  << "- /Jobs/Demo/TDS_EXC/CS_RASTER/DETECTOR/Range2/: (node)\n";
-        QTest::newRow("a type") << Sample().replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\"")
-                                << "~ " + tunerPath + ": IPC_TUNER_HF -> IPC_OTHER\n";
+        const Table<QByteArray, QString> row("right", "text");
+        row("none", Sample(), "");
+        row("a value", SampleWithFrequency("7040000"), "~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n");
+        row("nodes", Renamed(SampleWithFrequency("7040000"), "TDS_EXT", "TDS_NEW"),
+            "- /Jobs/Demo/TDS_EXT/: TDS\n~ " + frequencyPath + ": 10 MHz -> 7.04 MHz\n+ /Jobs/Demo/TDS_NEW/: TDS\n");
+        row("channels", Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"1\""),
+            "- /Jobs/Demo/TDS_EXC/CS_RASTER/DETECTOR/Range2/: (node)\n");
+        row("a type", Sample().replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""),
+            "~ " + tunerPath + ": IPC_TUNER_HF -> IPC_OTHER\n");
     }
     void differencesComeInTheOrderOfTheFile()
     {
@@ -124,7 +84,7 @@ private Q_SLOTS:
         }
         Tree::Instance()->SetJournal(std::move(hook));
         QCOMPARE(heard, 0);
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void valuesOnOneSideOnlyAndNamesOfItemsAreShown()
@@ -160,28 +120,17 @@ private Q_SLOTS:
 
     void contentsAreReadable_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("text");
+        const Table<int, QString, QString> row("kind", "stored", "text");
         const int frequency = int(ValueKind::Frequency);
-        QTest::newRow("0 Hz") << frequency << "0"
-                              << "0 Hz";
-        QTest::newRow("Hz") << frequency << "999"
-                            << "999 Hz";
-        QTest::newRow("kHz") << frequency << "1050"
-                             << "1.05 kHz";
-        QTest::newRow("MHz") << frequency << "433920001"
-                             << "433.920001 MHz";
-        QTest::newRow("GHz") << frequency << "3000000000"
-                             << "3 GHz";
-        QTest::newRow("negative") << frequency << "-5000"
-                                  << "-5000 Hz";
-        QTest::newRow("number") << int(ValueKind::Double) << "-2.5"
-                                << "-2.5 dB";
-        QTest::newRow("off") << int(ValueKind::Bool) << "false"
-                             << "off";
-        QTest::newRow("items") << int(ValueKind::Selection) << "1;9"
-                               << "One, 9";
+        row("0 Hz", frequency, "0", "0 Hz");
+        row("Hz", frequency, "999", "999 Hz");
+        row("kHz", frequency, "1050", "1.05 kHz");
+        row("MHz", frequency, "433920001", "433.920001 MHz");
+        row("GHz", frequency, "3000000000", "3 GHz");
+        row("negative", frequency, "-5000", "-5000 Hz");
+        row("number", int(ValueKind::Double), "-2.5", "-2.5 dB");
+        row("off", int(ValueKind::Bool), "false", "off");
+        row("items", int(ValueKind::Selection), "1;9", "One, 9");
     }
     void contentsAreReadable()
     {
@@ -220,8 +169,9 @@ private Q_SLOTS:
 
     void tickedDifferencesAreTakenOverByKeyboard()
     {
-        WriteAll(File("other.job.xml"), SampleWithFrequency("7040000").replace("name=\"TDS_EXT\"", "name=\"TDS_NEW\""));
-        CompareDialog* dialog = m_window->Comparing().CompareWithFile(File("other.job.xml"));
+        WriteAll(m_desk->File("other.job.xml"),
+                 SampleWithFrequency("7040000").replace("name=\"TDS_EXT\"", "name=\"TDS_NEW\""));
+        CompareDialog* dialog = Window().Comparing().CompareWithFile(m_desk->File("other.job.xml"));
         QVERIFY(dialog);
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
         QCOMPARE(dialog->Model().rowCount(), 3);
@@ -237,10 +187,10 @@ private Q_SLOTS:
         QTest::keyClick(List(*dialog), Qt::Key_Home);
         QTest::keyClick(List(*dialog), Qt::Key_Space);
         QVERIFY(Button(*dialog, "takeOver")->isEnabled());
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
         QTest::keyClick(dialog, Qt::Key_T, Qt::AltModifier);
         QTRY_COMPARE(Value(frequencyPath)->GetStoredText(), QString("7040000")); // a button's key presses it visibly
-        QVERIFY(m_window->isWindowModified());
+        QVERIFY(Window().isWindowModified());
         QVERIFY(Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_EXT"));
         QCOMPARE(dialog->Model().rowCount(), 2);
 
@@ -251,28 +201,28 @@ private Q_SLOTS:
         QTest::keyClick(dialog, Qt::Key_Escape);
         QVERIFY(!Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_EXT"));
         const QString added = "/Jobs/Demo/TDS_NEW/CS_EXT/TUNER/";
-        QTRY_VERIFY(m_window->Nodes().SelectNode(added));
+        QTRY_VERIFY(Window().Nodes().SelectNode(added));
         // What came is a part of the job, and equal to the other one after it was saved.
-        QVERIFY(m_window->SaveTo(File("mine.job.xml")));
+        QVERIFY(Window().SaveTo(m_desk->File("mine.job.xml")));
         OtherJob mine, other;
-        QVERIFY(mine.file.Load(File("mine.job.xml")) && other.file.Load(File("other.job.xml")));
+        QVERIFY(mine.file.Load(m_desk->File("mine.job.xml")) && other.file.Load(m_desk->File("other.job.xml")));
         QCOMPARE(ToText(CompareTrees(mine.tree, {}, other.tree, {})), QString());
 
         // Two take-overs, two steps, nodes and values alike.
-        m_window->Document().History().Undo();
+        Window().Document().History().Undo();
         QVERIFY(!Tree::Instance()->FindNode(added));
-        QVERIFY(m_window->Document().File().FindNodeSpec(u"/Jobs/Demo/TDS_EXT/CS_EXT/TUNER/"));
+        QVERIFY(Window().Document().File().FindNodeSpec(u"/Jobs/Demo/TDS_EXT/CS_EXT/TUNER/"));
         QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("7040000"));
-        m_window->Document().History().Undo();
+        Window().Document().History().Undo();
         QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
-        QVERIFY(!m_window->Document().History().CanUndo());
+        QVERIFY(!Window().Document().History().CanUndo());
     }
 
     void whatCannotBeTakenOverSaysWhy()
     {
         QByteArray content = Sample().replace("G_WDE_RASTER\" count=\"2\"", "G_WDE_RASTER\" count=\"3\"");
-        WriteAll(File("other.job.xml"), content.replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""));
-        CompareDialog* dialog = m_window->Comparing().CompareWithFile(File("other.job.xml"));
+        WriteAll(m_desk->File("other.job.xml"), content.replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""));
+        CompareDialog* dialog = Window().Comparing().CompareWithFile(m_desk->File("other.job.xml"));
         QVERIFY(dialog);
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
         QTest::mouseClick(Button(*dialog, "tickAll"), Qt::LeftButton);
@@ -281,27 +231,27 @@ private Q_SLOTS:
         QVERIFY(!List(*dialog)->isColumnHidden(DifferenceModel::Reason));
         for (int row = 0; row < 2; ++row)
             QVERIFY(!dialog->Model().index(row, DifferenceModel::Reason).data().toString().isEmpty());
-        QCOMPARE(m_window->Messages().count(), 2);
-        QVERIFY(m_window->Messages().GetText().contains("Range3"));
-        QVERIFY(!m_window->isWindowModified());
+        QCOMPARE(Window().Messages().count(), 2);
+        QVERIFY(Window().Messages().GetText().contains("Range3"));
+        QVERIFY(!Window().isWindowModified());
     }
 
     void aValueOutsideTheRangeHereIsRefused()
     {
         const double maximum = *Value(frequencyPath)->GetDescriptor().maximum;
         const QString wanted = QString::number(qint64(maximum) + 1);
-        WriteResult result = WriteValues(m_window->Document(), {}, {{frequencyPath, wanted}, {tunerPath + "X", "1"}});
+        WriteResult result = WriteValues(Window().Document(), {}, {{frequencyPath, wanted}, {tunerPath + "X", "1"}});
         QCOMPARE(result.written, 0);
         QCOMPARE(result.refused.size(), size_t(2));
         QVERIFY(!result.refused[0].reason.isEmpty() && !result.refused[1].reason.isEmpty());
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void theSavedStateComesBack()
     {
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
         Value(frequencyPath)->SetStoredText("7100000");
-        CompareDialog* dialog = m_window->Comparing().CompareWithSaved();
+        CompareDialog* dialog = Window().Comparing().CompareWithSaved();
         QVERIFY(dialog);
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
         QCOMPARE(dialog->Model().rowCount(), 1);
@@ -313,8 +263,8 @@ private Q_SLOTS:
     void twoSelectedChainsAreComparedAndEitherTakesOver()
     {
         Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7040000");
-        QVERIFY(m_window->Nodes().SelectNode(tunerPath));
-        QTreeView* tree = m_window->Nodes().View();
+        QVERIFY(Window().Nodes().SelectNode(tunerPath));
+        QTreeView* tree = Window().Nodes().View();
         const QModelIndexList matches = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "VOICE", -1,
                                                              Qt::MatchExactly | Qt::MatchRecursive);
         for (const QModelIndex& match : matches)
@@ -324,10 +274,8 @@ private Q_SLOTS:
                 QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::ControlModifier,
                                   tree->visualRect(match).center());
             }
-        QCOMPARE(m_window->Nodes().GetSelectedNodes().size(), size_t(2));
-        for (QAction* action : m_window->ToolsMenu()->actions())
-            if (action->text().remove('&') == "Compare Chains...")
-                action->trigger();
+        QCOMPARE(Window().Nodes().GetSelectedNodes().size(), size_t(2));
+        CompareChains();
         CompareDialog* dialog = OpenDialog();
         QVERIFY(dialog);
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
@@ -342,17 +290,10 @@ private Q_SLOTS:
     void oneSelectedChainIsComparedWithOneOfItsTypeFirst()
     {
         const QString header = "/Jobs/Demo/TDS_HFWB/HEADER_VOICE/";
-        QVERIFY(m_window->Nodes().SelectNode(header));
-        QTimer::singleShot(50, this,
-                           []
-                           {
-                               auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-                               QVERIFY(box);
-                               QTest::keyClick(box, Qt::Key_Return);
-                           });
-        for (QAction* action : m_window->ToolsMenu()->actions())
-            if (action->text().remove('&') == "Compare Chains...")
-                action->trigger();
+        QVERIFY(Window().Nodes().SelectNode(header));
+        const Next choice([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        CompareChains();
+        QVERIFY(choice.HasActed());
         CompareDialog* dialog = OpenDialog();
         QVERIFY(dialog);
         QCOMPARE(dialog->Model().headerData(DifferenceModel::Right, Qt::Horizontal, Qt::DisplayRole),
@@ -362,22 +303,21 @@ private Q_SLOTS:
 
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack_data()
     {
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<bool>("takeOver");
-        QTest::newRow("keep mine") << true << false;
-        QTest::newRow("take theirs") << true << true;
-        QTest::newRow("nothing of mine: theirs is ticked") << false << true;
+        const Table<bool, bool> row("modified", "takeOver");
+        row("keep mine", true, false);
+        row("take theirs", true, true);
+        row("nothing of mine: theirs is ticked", false, true);
     }
     void aFileChangedBySomebodyElseIsShownOnceWhenTheWindowComesBack()
     {
         QFETCH(bool, modified);
         QFETCH(bool, takeOver);
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
         if (modified)
             Value(frequencyPath)->SetStoredText("7100000");
-        WriteAll(File("a.job.xml"), SampleWithFrequency("7040000"));
+        WriteAll(m_desk->File("a.job.xml"), SampleWithFrequency("7040000"));
         QEvent activation(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(m_window.get(), &activation);
+        QCoreApplication::sendEvent(&Window(), &activation);
         QTRY_VERIFY(OpenDialog());
         CompareDialog* dialog = OpenDialog();
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
@@ -394,46 +334,35 @@ private Q_SLOTS:
         const QString expected = takeOver ? "7040000" : "7100000";
         QCOMPARE(Value(frequencyPath)->GetStoredText(), expected);
 
-        QCoreApplication::sendEvent(m_window.get(), &activation);
+        QCoreApplication::sendEvent(&Window(), &activation);
         QTest::qWait(20);
         QVERIFY(!OpenDialog());
-        QVERIFY(m_window->Save()); // asks nothing any more
-        QVERIFY(ReadAll(File("a.job.xml")).contains(expected.toUtf8()));
+        QVERIFY(Window().Save()); // asks nothing any more
+        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains(expected.toUtf8()));
     }
 
     void aFileWrittenAnewWithTheSameContentIsNoNewsButSavingAsks()
     {
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        WriteAll(File("a.job.xml"), ReadAll(File("a.job.xml")) + "<!-- theirs -->\n");
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        WriteAll(m_desk->File("a.job.xml"), ReadAll(m_desk->File("a.job.xml")) + "<!-- theirs -->\n");
         QEvent activation(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(m_window.get(), &activation);
+        QCoreApplication::sendEvent(&Window(), &activation);
         QTest::qWait(50);
         QVERIFY(!OpenDialog());
-        QVERIFY(!m_window->Comparing().IsDiskSettled());
+        QVERIFY(!Window().Comparing().IsDiskSettled());
         // The question leads to the list, in which Escape decides nothing.
-        bool asked = false;
-        QTimer::singleShot(50, this,
-                           [&]
-                           {
-                               auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                               QVERIFY(box);
-                               for (QAbstractButton* button : box->buttons())
-                                   if (button->text().remove('&') == "Compare...")
-                                   {
-                                       asked = true;
-                                       return button->click();
-                                   }
-                               box->reject();
-                           });
-        QVERIFY(!m_window->Save());
-        QVERIFY(asked);
+        {
+            const Answer answer({"Compare..."});
+            QVERIFY(!Window().Save());
+            QVERIFY(answer.WasAsked());
+        }
         CompareDialog* dialog = OpenDialog();
         QVERIFY(dialog);
         QCOMPARE(dialog->Model().rowCount(), 0);
         QTest::keyClick(dialog, Qt::Key_Escape);
         QTRY_VERIFY(!OpenDialog());
-        QVERIFY(!m_window->Comparing().IsDiskSettled());
-        QVERIFY(ReadAll(File("a.job.xml")).contains("theirs"));
+        QVERIFY(!Window().Comparing().IsDiskSettled());
+        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("theirs"));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "analysis/demodulatordlg.h"
+#include "common.h"
 #include "demodulatorfixture.h"
 #include "valuewidgets/vccomboboxclassic.h"
 #include "valuewidgets/vcnumericfloatspin.h"
@@ -36,9 +37,9 @@ struct Chooser : IObserver
 };
 
 /// The dialog in view, with the keyboard.
-std::unique_ptr<DemodulatorDlg> Open(bool vuhf = false, bool readOnly = false)
+std::unique_ptr<DemodulatorDlg> Open(bool vuhf = false)
 {
-    auto dialog = std::make_unique<DemodulatorDlg>(basePath, vuhf, nullptr, readOnly);
+    auto dialog = std::make_unique<DemodulatorDlg>(basePath, vuhf, nullptr, false);
     dialog->BuildPanel();
     dialog->show();
     return QTest::qWaitForWindowActive(dialog.get()) ? std::move(dialog) : nullptr;
@@ -54,20 +55,62 @@ private Q_SLOTS:
     void init() { FillBothBands(); }
     void cleanup() { Tree::Instance()->SetJournal({}); }
 
-    void aReadOnlyPanelStaysDisabledWhateverItsValuesSay()
+    void everyDemodulationShowsEachOfItsValuesOnce_data()
     {
-        Demodulation()->SetFromText(QStringLiteral("McFSK"));
-        const auto dialog = Open(false, true);
+        const Table<QString, bool> row("name", "vuhf");
+        for (const QString& name : AllNames())
+            for (const bool vuhf : {false, true})
+                row(name + (vuhf ? " V/UHF" : " HF"), name, vuhf);
+    }
+    void everyDemodulationShowsEachOfItsValuesOnce()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, vuhf);
+        const auto panel = Make(name, vuhf);
+        QVERIFY(panel);
+        const QString stem = Prefix(vuhf) + panel->GetModulationTag() + u'_';
+        QSet<QString> modelled, observed, shown;
         for (const auto& value : Tree::Instance()->FindNode(basePath)->GetValues())
         {
-            value->SetState(stDisabled);
-            value->SetState(stEnabled);
+            if (value->IsObserved())
+                observed << value->GetName();
+            if (value->GetName().startsWith(stem))
+                modelled << value->GetName();
         }
-        const auto editors = EditorsOf(*PanelOf(*dialog));
-        QVERIFY(editors.size() > 5);
-        for (QWidget* editor : editors)
-            QVERIFY2(!editor->isEnabled(), qPrintable(editor->objectName()));
-        QVERIFY(!dialog->findChild<VCComboBoxClassic*>(Demodulation()->GetName())->isEnabled());
+        const auto editors = EditorsOf(*panel);
+        for (auto editor = editors.cbegin(); editor != editors.cend(); ++editor)
+        {
+            shown << stem + editor.key();
+            QVERIFY2(editor.value()->isEnabled(), qPrintable(editor.key() + " is not bound"));
+        }
+        QCOMPARE(shown, modelled);
+        QCOMPARE(observed, modelled);
+    }
+
+    void anUnknownNameMakesNoPanel()
+    {
+        for (const char* name : {"", "psk", "PSK ", "SELCAL", "MFSK", "8PSK"})
+            QVERIFY2(!Make(QString::fromLatin1(name), false), name);
+    }
+
+    void commonAndOwnRowsAreTranslatedInContextsOfTheirOwn()
+    {
+        const ContextTranslator translator;
+        const auto panel = Make(QStringLiteral("FSK"), false);
+        QStringList texts;
+        for (QLabel* label : panel->findChildren<QLabel*>())
+            texts << label->text();
+        QVERIFY2(texts.contains("TKE::DemodulatorPanel|Baud rate :"), qPrintable(texts.join(u'\n')));
+        QVERIFY(texts.contains("TKE::DemodulatorPanelFSK|Block length :"));
+    }
+
+    void spacingsOfMcPSKAreStoredInTenths()
+    {
+        for (const auto& [name, shown] : {std::pair{"McPSK", u"110"}, std::pair{"McFSK", u"400"}})
+        {
+            const auto panel = Make(QString::fromLatin1(name), false);
+            QCOMPARE(panel->findChild<QTableWidget*>()->item(0, 0)->text(), shown);
+        }
     }
 
     void aNewSelectionReplacesThePanelAtOnce()
@@ -104,21 +147,25 @@ private Q_SLOTS:
         QVERIFY(!Open()->findChild<DemodulatorPanel*>());
     }
 
-    void theKeyboardWalksThroughAllDemodulations()
+    void theKeyboardWalksThroughAllDemodulationsAndLookingWritesNothing()
     {
         Demodulation()->SetFromText(AllNames().first());
         const auto dialog = Open();
         auto* selector = dialog->findChild<VCComboBoxClassic*>(Demodulation()->GetName());
-        selector->setFocus();
+        QStringList written;
+        Tree::Instance()->SetJournal([&](const JournalEntry& entry) { written << entry.value.GetName(); });
         for (const QString& name : AllNames().mid(1))
         {
+            selector->setFocus();
             QPointer<DemodulatorPanel> old = PanelOf(*dialog);
             QTest::keyClick(selector, Qt::Key_Down);
             QCOMPARE(Demodulation()->GetText(), name);
-            QVERIFY(!old);
-            QVERIFY(PanelOf(*dialog));
-            QVERIFY(selector->hasFocus());
+            QVERIFY(!old && PanelOf(*dialog) && selector->hasFocus());
+            for (qsizetype i = 0; i <= EditorsOf(*PanelOf(*dialog)).size() + 2; ++i)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
+        QCOMPARE(written.removeAll(Demodulation()->GetName()), AllNames().size() - 1);
+        QCOMPARE(written, QStringList());
     }
 
     void anObserverMayChangeTheSelectionAgain()
@@ -142,12 +189,11 @@ private Q_SLOTS:
 
     void anEditInThePanelMayReplaceThePanel_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QList<int>>("strokes");
-        QTest::newRow("combo box") << "MODTYPE" << QList<int>{Qt::Key_Down};
-        QTest::newRow("list of a combo box") << "MODTYPE" << QList<int>{Qt::Key_F4, Qt::Key_Down, Qt::Key_Return};
-        QTest::newRow("number typed") << "BAUDRATE" << QList<int>{Qt::Key_7, Qt::Key_Tab};
-        QTest::newRow("check box") << "EQUALIZERMODE" << QList<int>{Qt::Key_Space};
+        const Table<QString, QList<int>> row("key", "strokes");
+        row("combo box", "MODTYPE", QList<int>{Qt::Key_Down});
+        row("list of a combo box", "MODTYPE", QList<int>{Qt::Key_F4, Qt::Key_Down, Qt::Key_Return});
+        row("number typed", "BAUDRATE", QList<int>{Qt::Key_7, Qt::Key_Tab});
+        row("check box", "EQUALIZERMODE", QList<int>{Qt::Key_Space});
     }
     void anEditInThePanelMayReplaceThePanel()
     {
@@ -198,37 +244,6 @@ private Q_SLOTS:
         }
     }
 
-    void valuesAndDialogGoInEitherOrder()
-    {
-        auto dialog = Open();
-        QPointer<DemodulatorPanel> panel = PanelOf(*dialog);
-        Tree::Instance()->RemoveBranch(basePath);
-        QVERIFY(panel);
-        QTest::qWait(1);
-        init();
-        Demodulation()->SetFromText(QStringLiteral("PSK")); // another value than the dialog was built for
-        QVERIFY(panel);
-        dialog = Open();
-        dialog.reset();
-        for (const auto& value : Tree::Instance()->FindNode(basePath)->GetValues())
-            QVERIFY2(!value->IsObserved(), qPrintable(value->GetName()));
-    }
-
-    void lookingAtEveryDemodulationWritesNothing()
-    {
-        QStringList written;
-        const auto dialog = Open();
-        Tree::Instance()->SetJournal([&](const JournalEntry& entry) { written << entry.value.GetName(); });
-        for (const QString& name : AllNames())
-        {
-            Demodulation()->SetFromText(name);
-            for (qsizetype i = 0; i <= EditorsOf(*PanelOf(*dialog)).size() + 2; ++i)
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        written.removeAll(Demodulation()->GetName());
-        QCOMPARE(written, QStringList());
-    }
-
     void thePanelKeepsItsPlaceAndGrowsWithItsRowsOnly()
     {
         const auto dialog = Open();
@@ -250,10 +265,9 @@ private Q_SLOTS:
 
     void everyEditorCanBeReachedInASmallWindow_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("vuhf");
-        QTest::newRow("many common rows") << "FSK" << true;
-        QTest::newRow("a list") << "McPSK" << false;
+        const Table<QString, bool> row("name", "vuhf");
+        row("many common rows", "FSK", true);
+        row("a list", "McPSK", false);
     }
     void everyEditorCanBeReachedInASmallWindow()
     {

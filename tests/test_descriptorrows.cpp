@@ -1,3 +1,4 @@
+#include "common.h"
 #include "jobmodel/jobmodel.h"
 #include "keys/keymanager.h"
 #include "panelgrid.h"
@@ -5,8 +6,6 @@
 #include "widgets/vclistboxnumeric.h"
 
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTranslator>
 
 using namespace TKE;
 using PanelTest::basePath;
@@ -20,13 +19,11 @@ const JOBXMLGENERATOR::Parameter& Describe(const QByteArray& attributes)
 {
     static QTemporaryDir directory;
     static std::vector<std::shared_ptr<const JobModel>> models;
-    QFile file(directory.filePath(QString::number(models.size()) + QStringLiteral(".xml")));
-    if (file.open(QIODevice::WriteOnly))
-        file.write("<JobModel version=\"1\"><Group name=\"G\"><Parameter name=\"Key\" at=\"U\" label=\"Label\" "
-                   "description=\"Help\" " +
-                   attributes + "/></Group></JobModel>");
-    file.close();
-    models.push_back(JobModel::LoadFiles({file.fileName()}));
+    const QString fileName = directory.filePath(QString::number(models.size()));
+    WriteAll(fileName, "<JobModel version=\"1\"><Group name=\"G\"><Parameter name=\"Key\" at=\"U\" label=\"Label\" "
+                       "description=\"Help\" " +
+                           attributes + "/></Group></JobModel>");
+    models.push_back(JobModel::LoadFiles({fileName}));
     return *models.back()->GetGroups().at(0)->GetParameters().at(0);
 }
 
@@ -41,8 +38,7 @@ const QByteArray list = "kind=\"list\" default=\"3000000;5000000\" control=\"6\"
 class RowPanel : public ParameterDlg
 {
 public:
-    explicit RowPanel(const QString& path = basePath, bool readOnly = false)
-        : ParameterDlg(path, nullptr, QStringLiteral("RowPanel"), readOnly, false)
+    RowPanel() : ParameterDlg(basePath, nullptr, QStringLiteral("RowPanel"), false, false)
     {
         SetTranslationNamespace("TKE::RowPanel");
     }
@@ -59,16 +55,6 @@ ValueBase* Create(const QString& path, const JOBXMLGENERATOR::Parameter& paramet
     return Tree::Instance()->CreateValue(path, parameter.GetValueDescriptor());
 }
 
-/// Translates every text of the row panel.
-struct Foreign : QTranslator
-{
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "TKE::RowPanel") == 0 ? QStringLiteral("~") + QString::fromUtf8(text) : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 } // namespace
 
 class TestDescriptorRows : public QObject
@@ -84,14 +70,10 @@ private slots:
 
     void theControlTypePicksTheWidget_data()
     {
-        QTest::addColumn<QByteArray>("attributes");
-        QTest::addColumn<QString>("widget"); // class; empty: none
-        QTest::addColumn<bool>("hasLabel");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("columns");
-        const auto row = [](const char* name, const QByteArray& attributes, const char* widget, bool hasLabel = true,
-                            int rows = 1, int columns = 1)
-        { QTest::newRow(name) << attributes << QString::fromUtf8(widget) << hasLabel << rows << columns; };
+        const Table<QByteArray, QString, bool, int, int> table("attributes", "widget", "hasLabel", "rows", "columns");
+        const auto row = [&](const char* name, const QByteArray& attributes, const char* widget, bool hasLabel = true,
+                             int rows = 1, int columns = 1)
+        { table(name, attributes, widget, hasLabel, rows, columns); };
 
         const QByteArray whole = "kind=\"int\" default=\"1\" ";
         const QByteArray real = "kind=\"double\" default=\"1\" precision=\"2\" ";
@@ -145,34 +127,6 @@ private slots:
         QCOMPARE(panel.value.Get(), PanelTest::ValueOf("Key"));
     }
 
-    void precisionsAndFramesAreThoseOfTheRow()
-    {
-        const auto decimals = [](const QByteArray& attributes)
-        {
-            const auto& parameter = Describe(attributes);
-            Create(basePath + "Key", parameter);
-            RowPanel panel;
-            panel.Build(parameter);
-            const int result = PanelTest::Grid(panel).At(1, 3)->property("decimals").toInt();
-            Tree::Instance()->Clear();
-            return result;
-        };
-        const QByteArray real = "kind=\"double\" default=\"1\" control=\"3\" ";
-        QCOMPARE(decimals(real + "number=\"float\" precision=\"1\""), 1);
-        QCOMPARE(decimals(real + "number=\"double\" precision=\"3\""), 3);
-        QCOMPARE(decimals("kind=\"int\" default=\"1\" control=\"5\" number=\"long\""), 0);
-
-        const auto hasFrame = [](const QByteArray& attributes)
-        {
-            RowPanel panel;
-            panel.Build(Describe(attributes));
-            return qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->hasFrame();
-        };
-        QVERIFY(!hasFrame("kind=\"text\" default=\"\" control=\"4\""));
-        QVERIFY(!hasFrame(Frequency("1")));
-        QVERIFY(hasFrame(Frequency("2")));
-    }
-
     void frequenciesAsTextFollowTheUnitOfTheSettings()
     {
         const auto text = [](bool kiloHertz)
@@ -191,11 +145,9 @@ private slots:
 
     void aListOfFrequenciesHasNoLabelButAHeader_data()
     {
-        QTest::addColumn<bool>("kiloHertz");
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<double>("first");
-        QTest::newRow("kHz") << true << "Label [kHz]" << 3000.0;
-        QTest::newRow("MHz") << false << "Label [MHz]" << 3.0;
+        const Table<bool, QString, double> row("kiloHertz", "header", "first");
+        row("kHz", true, "Label [kHz]", 3000.0);
+        row("MHz", false, "Label [MHz]", 3.0);
     }
     void aListOfFrequenciesHasNoLabelButAHeader()
     {
@@ -232,21 +184,18 @@ private slots:
 
     void valuesAreFoundAtTheBasePathAndAbove_data()
     {
-        QTest::addColumn<QString>("where");
-        QTest::addColumn<bool>("search");
-        QTest::addColumn<bool>("rebase");
-        QTest::addColumn<bool>("isHeld");  // by the row
-        QTest::addColumn<bool>("isBound"); // by the widget
-        QTest::newRow("here") << "/J/T/P/Key" << true << false << true << true;
-        QTest::newRow("here, rebased") << "/J/T/P/Key" << true << true << true << true;
-        QTest::newRow("above") << "/J/T/Key" << true << false << true << false;
-        QTest::newRow("above, rebased") << "/J/T/Key" << true << true << true << true;
-        QTest::newRow("two levels above, rebased") << "/J/Key" << true << true << true << true;
-        QTest::newRow("below the root") << "/Key" << true << true << false << false;
-        QTest::newRow("mapped") << "/J/T/P/Full/Key" << false << false << true << true;
-        QTest::newRow("mapped, searched raw") << "/J/T/P/Full/Key" << true << false << false << false;
-        QTest::newRow("raw, looked up mapped") << "/J/T/P/Key" << false << false << false << false;
-        QTest::newRow("nowhere, rebased") << "/X/Key" << true << true << false << false;
+        // isHeld: by the row; isBound: by the widget
+        const Table<QString, bool, bool, bool, bool> row("where", "search", "rebase", "isHeld", "isBound");
+        row("here", "/J/T/P/Key", true, false, true, true);
+        row("here, rebased", "/J/T/P/Key", true, true, true, true);
+        row("above", "/J/T/Key", true, false, true, false);
+        row("above, rebased", "/J/T/Key", true, true, true, true);
+        row("two levels above, rebased", "/J/Key", true, true, true, true);
+        row("below the root", "/Key", true, true, false, false);
+        row("mapped", "/J/T/P/Full/Key", false, false, true, true);
+        row("mapped, searched raw", "/J/T/P/Full/Key", true, false, false, false);
+        row("raw, looked up mapped", "/J/T/P/Key", false, false, false, false);
+        row("nowhere, rebased", "/X/Key", true, true, false, false);
     }
     void valuesAreFoundAtTheBasePathAndAbove()
     {
@@ -276,45 +225,19 @@ private slots:
 
     void onlyTheToolTipOfAFrequencyIsTranslated()
     {
-        Foreign translator;
-        QCoreApplication::installTranslator(&translator);
+        const ContextTranslator translator;
         const auto check = [](const QByteArray& attributes, const QString& toolTip)
         {
             RowPanel panel;
             panel.Build(Describe(attributes + " panelUnit=\"unit\""));
             const PanelTest::Grid grid(panel);
-            QCOMPARE(grid.TextAt(1, 2), "~Label");
+            QCOMPARE(grid.TextAt(1, 2), "TKE::RowPanel|Label");
             QCOMPARE(grid.At(1, 2)->toolTip(), toolTip);
-            QCOMPARE(grid.TextAt(1, 4), "~unit");
+            QCOMPARE(grid.TextAt(1, 4), "TKE::RowPanel|unit");
         };
         check("kind=\"int\" default=\"1\" control=\"2\"", "Help");
         check("kind=\"text\" default=\"\" control=\"4\"", "Help");
-        check(Frequency("1"), "~Help");
-        QCoreApplication::removeTranslator(&translator);
-    }
-
-    void aReadOnlyPanelLocksTheWidget()
-    {
-        for (const QByteArray& attributes : {QByteArray("kind=\"int\" default=\"1\" control=\"2\""), Frequency(), list})
-        {
-            const auto& parameter = Describe(attributes);
-            ValueBase* value = Create(basePath + "Key", parameter);
-            RowPanel panel(basePath, true);
-            panel.Build(parameter);
-            value->SetState(stDisabled);
-            value->SetState(stEnabled);
-            const PanelTest::Grid grid(panel);
-            QVERIFY(!(parameter.IsDoubleList() ? grid.At(1, 2) : grid.At(1, 3))->isEnabled());
-            Tree::Instance()->Clear();
-        }
-    }
-
-    void theLabelIsTheBuddyOfItsWidget()
-    {
-        RowPanel panel;
-        panel.Build(Describe(Frequency()));
-        const PanelTest::Grid grid(panel);
-        QVERIFY(grid.At(1, 3)->isAncestorOf(grid.LabelAt(1, 2)->buddy()));
+        check(Frequency("1"), "TKE::RowPanel|Help");
     }
 
     void aStandInMakesAnEmptyRow()

@@ -18,8 +18,7 @@ class TestEditHistory : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<Editor> m_editor;
+    std::optional<Desk> m_editor;
     QByteArray m_start;
 
     EditHistory& History() { return m_editor->History(); }
@@ -49,38 +48,13 @@ class TestEditHistory : public QObject
         QCOMPARE(m_editor->Bytes(), end);
         QVERIFY(m_editor->window.isWindowModified());
     }
-    /// The path of the first node that offers this field.
-    QString NodeWith(const QString& name)
-    {
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-            if (HasDialog(node) && m_editor->window.Nodes().SelectNode(node.path))
-                if (QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-                    dialog && dialog->findChild<QWidget*>(name))
-                    return node.path;
-        return {};
-    }
-
 private slots:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
-        m_editor = std::make_unique<Editor>();
-        QVERIFY(m_editor->window.NewFromSample());
+        m_editor.emplace();
         m_start = m_editor->Bytes();
     }
-    void cleanup()
-    {
-        m_editor.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_editor.reset(); }
 
     void aTypedNumberIsOneStepThatIsNamed()
     {
@@ -189,8 +163,8 @@ private slots:
 
     void selectAllOfAPanelIsOneStep()
     {
-        const QString node = NodeWith(Keys::AUTORECORDING_RECORD_ALL);
-        auto* button = m_editor->Find<QPushButton>(node, Keys::AUTORECORDING_RECORD_ALL);
+        auto* button = m_editor->FirstWhere<QPushButton>(
+            [](QPushButton& each) { return each.objectName() == Keys::AUTORECORDING_RECORD_ALL; });
         QVERIFY(button);
         QTest::mouseClick(button, Qt::LeftButton);
         QVERIFY2(QRegularExpression("^[A-Z].*: .* -> .* and \\d more$").match(History().UndoText()).hasMatch(),
@@ -201,8 +175,8 @@ private slots:
 
     void theExcitersModeIsOneStepWithWhatItSwitches()
     {
-        const QString node = NodeWith("ExciterMode");
-        auto* mode = m_editor->Find<QComboBox>(node, "ExciterMode");
+        auto* mode =
+            m_editor->FirstWhere<QComboBox>([](QComboBox& each) { return each.objectName() == Keys::ExciterMode; });
         QVERIFY(mode);
         StepsBack();
         m_start = m_editor->Bytes();
@@ -227,21 +201,8 @@ private slots:
 
     void aListEditedCellByCellIsAStepForEachCell()
     {
-        VCListBoxNumeric* list = nullptr;
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-        {
-            m_editor->window.Nodes().SelectNode(node.path);
-            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-            for (int tab = 0; !list && dialog && tab < dialog->count(); ++tab)
-                for (auto* each : dialog->widget(tab)->findChildren<VCListBoxNumeric*>())
-                    if (each->isEnabled() && each->columnCount() == 1)
-                    {
-                        list = each;
-                        dialog->setCurrentIndex(tab);
-                    }
-            if (list)
-                break;
-        }
+        auto* list =
+            m_editor->FirstWhere<VCListBoxNumeric>([](VCListBoxNumeric& each) { return each.columnCount() == 1; });
         QVERIFY(list);
         StepsBack(); // what showing has chosen
         m_start = m_editor->Bytes();
@@ -270,20 +231,10 @@ private slots:
 
     void leavingTheTabOrTheNodeCommitsWhatIsBeingTyped()
     {
-        VCNumericFloatSpin* spin = nullptr;
-        QTabWidget* dialog = nullptr;
-        for (const JobNode& node : m_editor->window.Nodes().GetNodes())
-        {
-            m_editor->window.Nodes().SelectNode(node.path);
-            dialog = m_editor->window.Dialog().GetDialog();
-            if (dialog && dialog->count() > 1 && !m_editor->window.isWindowModified())
-                for (auto* each : dialog->currentWidget()->findChildren<VCNumericFloatSpin*>())
-                    if (each->isVisible() && each->isEnabled())
-                        spin = each;
-            if (spin)
-                break;
-        }
+        auto* spin = m_editor->FirstWhere<VCNumericFloatSpin>(
+            [this](VCNumericFloatSpin&) { return m_editor->window.Dialog().GetDialog()->count() > 1; });
         QVERIFY(spin);
+        QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
         const QString path = spin->GetBoundValue()->GetPathName();
         spin->setFocus();
         spin->selectAll();
@@ -372,7 +323,7 @@ private slots:
 
     void theMarkFollowsTheSavedStep()
     {
-        const QString file = m_directory->filePath("a.job.xml");
+        const QString file = m_editor->File("a.job.xml");
         const ValueBase& value = *Editor::Value(frequencyPath);
         const QString first = value.GetStoredText();
         m_editor->TypeFrequency("7040 k\t");
@@ -455,67 +406,30 @@ private slots:
         QFETCH(unsigned, seed);
         std::mt19937 random(seed);
         const auto pick = [&](auto size) { return decltype(size)(random() % quint32(size)); };
+        JobDocument& document = m_editor->window.Document();
         int structural = 0;
-        for (int round = 0; round < 70; ++round)
+        QString reason;
+        for (int round = 0; round < 150; ++round)
         {
             const auto nodes = m_editor->window.Nodes().GetNodes();
             const QString path = nodes[pick(nodes.size())].path;
-            QString reason;
             const QString name = "N" + QString::number(round);
-            switch (pick(12))
-            {
-            case 0:
-                structural += m_editor->window.Document().RenameNode(path, name, &reason);
-                break;
-            case 1:
-                structural += m_editor->window.Document().DuplicateNode(path, name, &reason);
-                break;
-            case 2:
-                if (path.count('/') > 4)
-                    structural += m_editor->window.Document().RemoveNode(path, &reason);
-                break;
-            default:
-                m_editor->window.Nodes().SelectNode(path);
-            }
-            QTabWidget* dialog = m_editor->window.Dialog().GetDialog();
-            if (!dialog)
-                continue;
-            dialog->setCurrentIndex(pick(dialog->count()));
-            for (int edit = 0; edit < 6; ++edit)
-            {
-                QList<QWidget*> fields;
-                for (QWidget* field : m_editor->window.Dialog().GetDialog()->currentWidget()->findChildren<QWidget*>())
-                    if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus))
-                        fields << field;
-                if (fields.isEmpty())
-                    break;
-                QPointer<QWidget> field = fields[pick(fields.size())];
-                field->setFocus();
-                switch (pick(5))
-                {
-                case 0:
-                    QTest::keyClick(field, Qt::Key_Up);
-                    break;
-                case 1:
-                    QTest::keyClick(field, Qt::Key_Down);
-                    break;
-                case 2:
-                    QTest::keyClick(field, Qt::Key_Space);
-                    break;
-                case 3:
-                    QTest::keyClicks(field, QString::number(random() % 100));
-                    break;
-                default:
-                    if (qobject_cast<QAbstractButton*>(field))
-                        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(6, field->height() / 2));
-                }
-                while (QWidget* popup = QApplication::activePopupWidget())
-                    popup->close();
-                if (pick(3) == 0)
-                    QCoreApplication::processEvents();
-                if (pick(9) == 0)
-                    History().Undo();
-            }
+            const quint32 choice = pick(16u);
+            if (choice == 0)
+                structural += document.RenameNode(path, name, &reason);
+            else if (choice == 1)
+                structural += document.DuplicateNode(path, name, &reason);
+            else if (choice == 2 && path.count('/') > 4)
+                structural += document.RemoveNode(path, &reason);
+            else if (choice < 5)
+                History().Undo();
+            else
+                for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
+                    if (pick(4u) == 0)
+                        value->SetStoredText(value->GetKind() == ValueKind::Bool ? (pick(2u) ? "true" : "false")
+                                                                                 : QString::number(pick(3u)));
+            if (choice % 2)
+                QCoreApplication::processEvents(); // what comes within one turn is one step
         }
         CommitPendingEdit();
         StepsForth();

@@ -1,4 +1,5 @@
 #include "application/errorhandler.h"
+#include "common.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/guicentral.h"
 #include "valuewidgets/numericvalue.h"
@@ -27,12 +28,10 @@ private slots:
 
     void numbersAreUnderstoodAsTheyAreTyped_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<double>("expected"); // NaN: refused
+        const Table<QString, QLocale, double> table("text", "locale", "expected"); // NaN: refused
         const double refused = std::nan("");
-        const auto row = [](const QString& text, const QLocale& locale, double expected)
-        { QTest::addRow("%s %s", qPrintable(text), qPrintable(locale.bcp47Name())) << text << locale << expected; };
+        const auto row = [&](const QString& text, const QLocale& locale, double expected)
+        { table(text + ' ' + locale.bcp47Name(), text, locale, expected); };
         row("12", german, 12);
         row(" -0,5 ", german, -0.5);
         row(QString::fromUtf8("−3"), german, -3);
@@ -75,14 +74,12 @@ private slots:
 
     void whatNoValueCanHoldExactlyIsRefused_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("factor");
-        QTest::newRow("integer") << int(ValueKind::Int) << "2147483648" << 1.0;
-        QTest::newRow("frequency that ends the whole numbers") << int(ValueKind::Frequency) << "9223372036854775807" << 1.0;
-        QTest::newRow("frequency without end") << int(ValueKind::Frequency) << "1e300" << 0.3;
-        QTest::newRow("infinite after the factor") << int(ValueKind::Double) << "1e308" << 0.3;
-        QTest::newRow("infinite") << int(ValueKind::Double) << "1e999" << 1.0;
+        const Table<int, QString, double> row("kind", "text", "factor");
+        row("integer", int(ValueKind::Int), "2147483648", 1.0);
+        row("frequency that ends the whole numbers", int(ValueKind::Frequency), "9223372036854775807", 1.0);
+        row("frequency without end", int(ValueKind::Frequency), "1e300", 0.3);
+        row("infinite after the factor", int(ValueKind::Double), "1e308", 0.3);
+        row("infinite", int(ValueKind::Double), "1e999", 1.0);
     }
     void whatNoValueCanHoldExactlyIsRefused()
     {
@@ -99,10 +96,8 @@ private slots:
 
     void frequenciesAreReadAndShownInExactHertz_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<qint64>("expected"); // -1: refused
-        const auto row = [](const QString& text, qint64 expected)
-        { QTest::newRow(qPrintable(text)) << text << expected; };
+        const Table<QString, qint64> table("text", "expected"); // -1: refused
+        const auto row = [&](const QString& text, qint64 expected) { table(text, text, expected); };
         row("433.92M", 433920000);
         row("433,92 MHz", 433920000);
         row("7040 k", 7040000);
@@ -135,11 +130,7 @@ private slots:
 
     void refusedEntriesStayInPlace_data()
     {
-        QTest::addColumn<ValueKind>("kind");
-        QTest::addColumn<bool>("spin");
-        QTest::addColumn<QString>("typed");
-        const auto row = [](const char* name, ValueKind kind, bool spin, const char* typed)
-        { QTest::newRow(name) << kind << spin << typed; };
+        const Table<ValueKind, bool, QString> row("kind", "spin", "typed");
         row("spin box: no number", ValueKind::Int, true, "abc");
         row("spin box: fraction of an integer", ValueKind::Int, true, "1,5");
         row("spin box: above the range", ValueKind::Int, true, "101");
@@ -158,15 +149,10 @@ private slots:
         ValueBase* value = MakeNumber(kind, kind == ValueKind::DateTime ? "2020-01-31T10:20:30" : "42", 0, 100);
         const QString stored = value->GetStoredText();
         Window window;
-        QWidget* widget = nullptr;
-        if (spin)
-            widget = window.Edit<VCNumericFloatSpin>(value);
-        else
-        {
-            auto* edit = window.Edit<VCLineEdit>(value);
+        auto* widget =
+            spin ? static_cast<QWidget*>(window.Edit<VCNumericFloatSpin>(value)) : window.Edit<VCLineEdit>(value);
+        if (auto* edit = qobject_cast<VCLineEdit*>(widget))
             edit->SuppressErrorMessage(true);
-            widget = edit;
-        }
         QLineEdit* field = spin ? widget->findChild<QLineEdit*>() : static_cast<QLineEdit*>(widget);
         widget->setToolTip("own");
         const QString shown = field->text();

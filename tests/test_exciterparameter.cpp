@@ -1,7 +1,7 @@
+#include "common.h"
 #include "jobmodel/exciterparameter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -17,8 +17,7 @@ const QString fileName = QStringLiteral("exciter_hf.xml");
 QByteArray OriginalFile()
 {
     const ExciterParameter parameters; // makes the compiled-in files available
-    QFile file(QStringLiteral(":/models/") + fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return ReadAll(QStringLiteral(":/models/") + fileName);
 }
 
 std::vector<const ExciterParameterGroup*> GroupsOf(const ExciterParameter& parameters)
@@ -38,12 +37,7 @@ class TestExciterParameter : public QObject
 private:
     std::unique_ptr<QTemporaryDir> m_directory;
 
-    void Write(const QByteArray& content) const
-    {
-        QFile file(m_directory->filePath(fileName));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
+    void Write(const QByteArray& content) const { WriteAll(m_directory->filePath(fileName), content); }
     // The compiled-in file with `from` exchanged.
     static QByteArray Changed(const QByteArray& from, const QByteArray& to)
     {
@@ -56,10 +50,9 @@ private slots:
 
     void theCompiledInFilesAreComplete_data()
     {
-        QTest::addColumn<bool>("vuhf");
-        QTest::addColumn<QString>("unit");
-        QTest::newRow("HF") << false << "[kHz]";
-        QTest::newRow("V/UHF") << true << "[MHz]";
+        const Table<bool, QString> row("vuhf", "unit");
+        row("HF", false, "[kHz]");
+        row("V/UHF", true, "[MHz]");
     }
     void theCompiledInFilesAreComplete()
     {
@@ -89,26 +82,24 @@ private slots:
 
     void aFaultyFileGivesOneErrorWithItsPlace_data()
     {
-        QTest::addColumn<QByteArray>("content"); // null: no file
-        QTest::addColumn<QString>("error");      // after the name of the file
+        // content: null: no file; error: after the name of the file
+        const Table<QByteArray, QString> row("content", "error");
         const QByteArray original = OriginalFile();
         const auto at = [&](const char* text, const char* rest)
         { return QStringLiteral(":%1:\\d+: ").arg(1 + original.left(original.indexOf(text)).count('\n')) + rest; };
-        QTest::newRow("missing") << QByteArray() << ": .+";
-        QTest::newRow("empty") << QByteArray("") << ".*: .+";
-        QTest::newRow("not well-formed") << QByteArray("<JobModel version=\"1\">\n<Group></JobModel>") << ":2:\\d+: .+";
-        QTest::newRow("cut off") << original.left(original.size() / 2) << ":\\d+:\\d+: .+";
-        QTest::newRow("faulty attribute")
-            << Changed("name=\"SmuLevel\" kind=\"double\"", "name=\"SmuLevel\" kind=\"doubel\"")
-            << at("\"SmuLevel\"", "G_EXC_SMU/SmuLevel: kind: .+");
-        QTest::newRow("parameters missing")
-            << Changed("\"SmuLevel\"", "\"Other\"").replace("\"SmuMessage\"", "\"Another\"")
-            << at("\"G_EXC_SMU\"", "G_EXC_SMU: .*: SmuLevel, SmuMessage");
-        QTest::newRow("mode missing") << Changed("\"ExciterMode\"", "\"Other\"")
-                                      << at("\"G_EXC_MODE\"", "G_EXC_MODE: .*: ExciterMode");
-        QTest::newRow("group missing") << Changed("\"G_EXC_SCU\"", "\"G_OTHER\"") << ": G_EXC_SCU: .*ScuRemark";
-        QTest::newRow("file of the other band")
-            << Changed("\"HF\"", "\"VUHF\"") << at("\"G_EXC_MODE\"", "G_EXC_MODE: .*: ExciterMode, ExciterAutostart");
+        row("missing", {}, ": .+");
+        row("empty", "", ".*: .+");
+        row("not well-formed", "<JobModel version=\"1\">\n<Group></JobModel>", ":2:\\d+: .+");
+        row("cut off", original.left(original.size() / 2), ":\\d+:\\d+: .+");
+        row("faulty attribute", Changed("name=\"SmuLevel\" kind=\"double\"", "name=\"SmuLevel\" kind=\"doubel\""),
+            at("\"SmuLevel\"", "G_EXC_SMU/SmuLevel: kind: .+"));
+        row("parameters missing", Changed("\"SmuLevel\"", "\"Other\"").replace("\"SmuMessage\"", "\"Another\""),
+            at("\"G_EXC_SMU\"", "G_EXC_SMU: .*: SmuLevel, SmuMessage"));
+        row("mode missing", Changed("\"ExciterMode\"", "\"Other\""),
+            at("\"G_EXC_MODE\"", "G_EXC_MODE: .*: ExciterMode"));
+        row("group missing", Changed("\"G_EXC_SCU\"", "\"G_OTHER\""), ": G_EXC_SCU: .*ScuRemark");
+        row("file of the other band", Changed("\"HF\"", "\"VUHF\""),
+            at("\"G_EXC_MODE\"", "G_EXC_MODE: .*: ExciterMode, ExciterAutostart"));
     }
     void aFaultyFileGivesOneErrorWithItsPlace()
     {

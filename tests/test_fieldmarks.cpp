@@ -1,32 +1,18 @@
+#include "common.h"
+#include "editorfixture.h"
 #include "jobedit/changemark.h"
-#include "jobedit/dialogpane.h"
 #include "jobedit/fieldmarks.h"
 #include "jobedit/fields.h"
-#include "jobedit/mainwindow.h"
 #include "jobedit/nightcolours.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/panelwindow.h"
-#include "keys/keys.h"
 #include "valuewidgets/vclineedit.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vctimeperiod.h"
 
-#include <QTest>
-#include <QtWidgets>
-
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
-
-ValueBase* Find(const QString& path)
-{
-    return Tree::Instance()->FindValue(path);
-}
 
 /// What the screen shows beside the field: "", "filled", "outlined" or "both".
 QString MarkBeside(QWidget* field)
@@ -47,27 +33,15 @@ QString MarkBeside(QWidget* field)
 /// Another content that the value takes.
 QString OtherContent(const ValueBase& value)
 {
-    const ValueDescriptor& descriptor = value.GetDescriptor();
-    const QString now = value.GetStoredText();
-    switch (value.GetKind())
-    {
-    case ValueKind::Bool:
-        return now == "true" ? "false" : "true";
-    case ValueKind::Selection:
-        for (const SelectionItem& item : descriptor.items)
-            if (QString::number(item.GetKey()) != now)
-                return QString::number(item.GetKey());
-        return {};
-    case ValueKind::Text:
-        return "11:11";
-    case ValueKind::DateTime:
-        return "2020-01-02T03:04:05";
-    case ValueKind::DoubleList:
-        return QString::number(descriptor.minimum.value_or(7)) + ';' + QString::number(descriptor.maximum.value_or(8));
-    default:
-        return QString::number(now.toDouble() == *descriptor.minimum ? *descriptor.maximum : *descriptor.minimum, 'f',
-                               QLocale::FloatingPointShortest);
-    }
+    const QString least = QString::number(value.GetDescriptor().minimum.value_or(7), 'f', 0);
+    const QString most = QString::number(value.GetDescriptor().maximum.value_or(8), 'f', 0);
+    Tree tree;
+    ValueBase* trial = tree.CreateValue(u"/A", value.GetDescriptor());
+    for (const QString& text : {QString("11:11"), QString("2020-01-02T03:04:05"), QString("true"), QString("false"),
+                                least + ';' + most, least, most, QString("0"), QString("1")})
+        if (text != value.GetStoredText() && trial->SetStoredText(text))
+            return text;
+    return {};
 }
 
 QMenu* OpenMenu()
@@ -104,64 +78,28 @@ class TestFieldMarks : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-
-    QTabWidget* Dialog() { return m_window->Dialog().GetDialog(); }
-
-    QLineEdit* FrequencyField()
-    {
-        m_window->Nodes().SelectNode(tunerPath);
-        return Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_FREQUENCY)->findChild<QLineEdit*>();
-    }
+    MainWindow& Window() { return m_desk->window; }
+    QTabWidget* Dialog() { return Window().Dialog().GetDialog(); }
 
     /// The first visible, enabled field of this class that any dialog shows.
     Fields::Field FieldOfClass(const char* name)
     {
-        const auto nodes = m_window->Nodes().GetNodes();
-        for (const JobNode& node : nodes)
-        {
-            m_window->Nodes().SelectNode(node.path);
-            for (int tab = 0; Dialog() && tab < Dialog()->count(); ++tab)
-            {
-                Dialog()->setCurrentIndex(tab);
-                QCoreApplication::processEvents();
-                for (const Fields::Field& field : Fields::VisibleIn(*Dialog()->currentWidget()))
-                    if (field.widget->inherits(name) && Fields::IsEditable(field) &&
-                        !field.widget->visibleRegion().isEmpty())
-                        return field;
-            }
-        }
-        return {};
+        QWidget* widget = m_desk->FirstWhere<QWidget>(
+            [&](QWidget& each) { return each.inherits(name) && Fields::IsEditable(Fields::Of(&each)); });
+        return widget ? Fields::Of(widget) : Fields::Field();
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        QSettings().clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->resize(1400, 950);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
+        m_desk.emplace();
+        Window().resize(1400, 950);
     }
-
     void cleanup()
     {
-        m_window.reset();
-        Tree::Instance()->Clear();
+        m_desk.reset();
         NightColours::Switch(false);
     }
 
@@ -175,62 +113,58 @@ private Q_SLOTS:
     {
         QFETCH(bool, night);
         NightColours::Switch(night);
-        ValueBase* value = Find(frequencyPath);
+        ValueBase* value = Editor::Value(frequencyPath);
         QVERIFY(value->SetToDefault());
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        QLineEdit* field = FrequencyField();
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QLineEdit* field = m_desk->FrequencyField();
         QCOMPARE(MarkBeside(field), "");
 
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClicks(field, "7040 k\t");
+        m_desk->TypeFrequency("7040 k\t");
         QCOMPARE(MarkBeside(field), "both");
-        QVERIFY(m_window->Save());
+        QVERIFY(Window().Save());
         QCOMPARE(MarkBeside(field), "outlined");
         QVERIFY(value->SetToDefault());
         QCOMPARE(MarkBeside(field), "filled");
         QVERIFY(value->SetStoredText("7040000"));
         QCOMPARE(MarkBeside(field), "outlined");
-        QVERIFY(field->isVisible() && m_window->childAt(field->mapTo(m_window.get(), QPoint(5, 5))) == field);
+        QVERIFY(field->isVisible() && Window().childAt(field->mapTo(&Window(), QPoint(5, 5))) == field);
     }
 
     void theMarksAreSwitchedInTheViewMenuAndStaySo()
     {
-        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
-        QVERIFY(MarkBeside(FrequencyField()) != "");
-        QAction* action = m_window->findChild<FieldMarks*>()->GetAction();
+        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
+        QVERIFY(MarkBeside(m_desk->FrequencyField()) != "");
+        QAction* action = Window().findChild<FieldMarks*>()->GetAction();
         action->trigger();
-        QCOMPARE(MarkBeside(FrequencyField()), "");
-        m_window->Nodes().SelectNode("/Jobs/Demo");
-        QCOMPARE(MarkBeside(FrequencyField()), "");
-        m_window.reset();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        QVERIFY(!m_window->findChild<FieldMarks*>()->GetAction()->isChecked());
+        QCOMPARE(MarkBeside(m_desk->FrequencyField()), "");
+        Window().Nodes().SelectNode("/Jobs/Demo");
+        QCOMPARE(MarkBeside(m_desk->FrequencyField()), "");
+        QVERIFY(!Editor().window.findChild<FieldMarks*>()->GetAction()->isChecked());
     }
 
     void theMarkIsSaidInWords()
     {
-        QVERIFY(Find(frequencyPath)->SetStoredText("7200000"));
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        QLineEdit* field = FrequencyField();
-        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
+        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7200000"));
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QLineEdit* field = m_desk->FrequencyField();
+        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
         QTRY_VERIFY(field->accessibleDescription().contains("Differs from the saved file"));
         QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), field->mapToGlobal(QPoint(3, 3)));
         QCoreApplication::sendEvent(field, &help);
         QVERIFY2(QToolTip::text().contains("saved file: 7.2 MHz") || QToolTip::text().contains("7200"),
                  qPrintable(QToolTip::text()));
-        QVERIFY(Find(frequencyPath)->SetToDefault());
-        QVERIFY(m_window->Save());
+        QVERIFY(Editor::Value(frequencyPath)->SetToDefault());
+        QVERIFY(Window().Save());
         QTRY_VERIFY(field->accessibleDescription().isEmpty());
     }
 
     void marksFollowScrollingAndWhatIsScrolledAwayHasNone()
     {
-        m_window->resize(700, 420);
+        Window().resize(700, 420);
         QCoreApplication::processEvents();
-        QVERIFY(Find(frequencyPath)->SetStoredText("7100000"));
-        QLineEdit* field = FrequencyField();
-        auto* area = m_window->Dialog().findChild<QScrollArea*>();
+        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
+        QLineEdit* field = m_desk->FrequencyField();
+        auto* area = Window().Dialog().findChild<QScrollArea*>();
         QScrollBar* bar = area->verticalScrollBar();
         QVERIFY(bar->maximum() > 20);
         bar->setValue(20);
@@ -245,13 +179,13 @@ private Q_SLOTS:
     void theMarksOfAPanelWindowGoWithTheValuesThatTheyStandFor()
     {
         const JobNode* node = nullptr;
-        for (const JobNode& one : m_window->Nodes().GetNodes())
+        for (const JobNode& one : Window().Nodes().GetNodes())
             if (!node && !FindDirectPanels(one).empty())
                 node = &one;
         QVERIFY(node);
         const QString path = node->path;
-        m_window->Nodes().SelectNode(path);
-        auto* panel = new PanelWindow(*node, *FindDirectPanels(*node).front(), m_window.get());
+        Window().Nodes().SelectNode(path);
+        auto* panel = new PanelWindow(*node, *FindDirectPanels(*node).front(), &Window());
         panel->show();
         QVERIFY(QTest::qWaitForWindowExposed(panel));
         auto fields = Fields::VisibleIn(*panel);
@@ -266,15 +200,14 @@ private Q_SLOTS:
 
     void everyKindOfFieldHasTheMenuAndIsResetByIt_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<bool>("keepsOwn");
-        QTest::newRow("line edit") << QByteArray("TKE::VCLineEdit") << true;
-        QTest::newRow("spin box") << QByteArray("TKE::VCNumericFloatSpin") << true;
-        QTest::newRow("combo box") << QByteArray("TKE::VCComboBoxClassic") << false;
-        QTest::newRow("check box") << QByteArray("TKE::VCCheckBox") << false;
-        QTest::newRow("group of buttons") << QByteArray("TKE::VCButtonGroup") << false;
-        QTest::newRow("list of numbers") << QByteArray("TKE::VCListBoxNumeric") << true;
-        QTest::newRow("date and time") << QByteArray("TKE::VCDateTimeEdit") << true;
+        const Table<QByteArray, bool> row("name", "keepsOwn");
+        row("line edit", "TKE::VCLineEdit", true);
+        row("spin box", "TKE::VCNumericFloatSpin", true);
+        row("combo box", "TKE::VCComboBoxClassic", false);
+        row("check box", "TKE::VCCheckBox", false);
+        row("group of buttons", "TKE::VCButtonGroup", false);
+        row("list of numbers", "TKE::VCListBoxNumeric", true);
+        row("date and time", "TKE::VCDateTimeEdit", true);
     }
     void everyKindOfFieldHasTheMenuAndIsResetByIt()
     {
@@ -289,7 +222,7 @@ private Q_SLOTS:
         QVERIFY(field.value->SetStoredText(other) && saved != other);
         QCoreApplication::processEvents();
         const auto shown = FieldOfClass(name.constData()); // the panel may be another one now
-        QCOMPARE(shown.value, Find(path));
+        QCOMPARE(shown.value, Editor::Value(path));
 
         RightClick(shown.widget, name.contains("Group") ? QPoint(4, 4) : QPoint());
         QMenu* menu = OpenMenu();
@@ -297,10 +230,10 @@ private Q_SLOTS:
         QAction* reset = Entry(menu, "Reset to Saved Value");
         QVERIFY(reset && reset->isEnabled());
         QCOMPARE(Entry(menu, "Reset to Saved") != menu->actions().front(), keepsOwn);
-        QVERIFY(Entry(menu, "Key: " + Find(path)->GetName()));
+        QVERIFY(Entry(menu, "Key: " + Editor::Value(path)->GetName()));
         QVERIFY(!Entry(menu, "Key: ")->isEnabled());
         Choose(menu, reset);
-        QCOMPARE(Find(path)->GetStoredText(), saved);
+        QCOMPARE(Editor::Value(path)->GetStoredText(), saved);
 
         // And by the keyboard, now with nothing to take back.
         const auto again = FieldOfClass(name.constData());
@@ -320,13 +253,13 @@ private Q_SLOTS:
         VCCheckableGroupBox box(nullptr, "box", {});
         auto* period = new VCTimePeriod(&box, "period");
         auto* other = new QLabel("other", &box);
-        QVERIFY(box.SetValue(Find("/T/On")) && period->SetPeriod_ValuePath("/T/Start", "/T/Stop"));
-        QCOMPARE(Fields::Of(period->findChild<QLabel*>("StopLabel")).value, Find("/T/Stop"));
-        QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Find("/T/Start"));
-        QCOMPARE(Fields::Of(&box).value, Find("/T/On"));
+        QVERIFY(box.SetValue(Editor::Value("/T/On")) && period->SetPeriod_ValuePath("/T/Start", "/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QLabel*>("StopLabel")).value, Editor::Value("/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Editor::Value("/T/Start"));
+        QCOMPARE(Fields::Of(&box).value, Editor::Value("/T/On"));
         QVERIFY(!Fields::Of(other).value);
         VCLineEdit locked;
-        QVERIFY(locked.Bind(Find("/T/Start")) && Fields::IsEditable(Fields::Of(&locked)));
+        QVERIFY(locked.Bind(Editor::Value("/T/Start")) && Fields::IsEditable(Fields::Of(&locked)));
         locked.Lock();
         QVERIFY(Fields::Of(&locked).value && !Fields::IsEditable(Fields::Of(&locked)));
         Tree::Instance()->RemoveBranch(u"/T");
@@ -335,7 +268,7 @@ private Q_SLOTS:
 
     void aLabelHasTheMenuOfItsField()
     {
-        QLineEdit* field = FrequencyField();
+        QLineEdit* field = m_desk->FrequencyField();
         QLabel* label = nullptr;
         for (QLabel* one : Dialog()->findChildren<QLabel*>())
             if (one->buddy() == field)
@@ -349,8 +282,8 @@ private Q_SLOTS:
 
     void nothingIsWrittenToADisabledValue()
     {
-        ValueBase* value = Find(frequencyPath);
-        QLineEdit* field = FrequencyField();
+        ValueBase* value = Editor::Value(frequencyPath);
+        QLineEdit* field = m_desk->FrequencyField();
         QVERIFY(value->SetStoredText("7100000"));
         RightClick(field);
         QMenu* menu = OpenMenu();
@@ -369,14 +302,14 @@ private Q_SLOTS:
 
     void theMenusOfTheWindowStayAsTheyAre()
     {
-        RightClick(m_window->Nodes().View()->viewport());
+        RightClick(Window().Nodes().View()->viewport());
         if (OpenMenu())
             OpenMenu()->close();
-        RightClick(FrequencyField());
+        RightClick(m_desk->FrequencyField());
         OpenMenu()->close();
-        m_window->EditMenu()->popup(QPoint());
-        QVERIFY(!Entry(m_window->EditMenu(), "Copy Path"));
-        m_window->EditMenu()->close();
+        Window().EditMenu()->popup(QPoint());
+        QVERIFY(!Entry(Window().EditMenu(), "Copy Path"));
+        Window().EditMenu()->close();
     }
 };
 

@@ -1,24 +1,16 @@
 #include "application/translationcenter.h"
+#include "common.h"
+#include "editorfixture.h"
 #include "ipcparam/parameterdlg.h"
-#include "jobedit/dialogpane.h"
 #include "jobedit/fieldindex.h"
 #include "jobedit/fieldnavigator.h"
 #include "jobedit/fieldtexts.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/nodepane.h"
-#include "keys/keys.h"
 #include "valuewidgets/valuelink.h"
 
-#include <QTest>
-#include <QtWidgets>
-
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
 
 /// The value that the widget, or what it is a part of, edits; empty when it edits none.
 QString PathOf(const QWidget* widget)
@@ -51,63 +43,38 @@ class TestFind : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QLineEdit* Text() { return m_window->findChild<QLineEdit*>("findText"); }
-    QTreeView* Hits() { return m_window->findChild<QTreeView*>("findHits"); }
+    MainWindow& Window() { return m_desk->window; }
+    QLineEdit* Text() { return Window().findChild<QLineEdit*>("findText"); }
+    QTreeView* Hits() { return Window().findChild<QTreeView*>("findHits"); }
     QString Cell(int row, int column) { return Hits()->model()->index(row, column).data().toString(); }
     void Find(const QString& text)
     {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        m_desk->Press(Qt::Key_F);
         QVERIFY(Text()->hasFocus());
         QTest::keyClicks(Text(), text);
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-    void init()
-    {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory->filePath("settings"));
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
-    }
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void init() { m_desk.emplace(); }
+    void cleanup() { m_desk.reset(); }
 
     void wordsFindTheBestFieldFirst_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("path"); // end of the first path; empty: nothing is found
+        // path: end of the first path; empty: nothing is found
+        const Table<QString, QString> row("words", "path");
         const QString tuner = "CS_TUNER/TUNER/";
-        QTest::newRow("label") << "tds_hf1/cs_tuner if bandwidth" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("words in any order and case")
-            << "BANDWIDTH cs_tuner IF tds_hf1" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("German label") << "cs_tuner zf-bandbreite" << tuner + Keys::TUNER_HF_NB_IFBANDWIDTH;
-        QTest::newRow("umlaut") << QString::fromUtf8("cs_tuner VERST\u00c4RKUNG")
-                                << tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD;
-        QTest::newRow("key") << "tuner_hf_nb_bfo tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
-        QTest::newRow("whole path") << tunerPath + Keys::TUNER_HF_NB_NF2_BANDWIDTH
-                                    << tuner + Keys::TUNER_HF_NB_NF2_BANDWIDTH;
-        QTest::newRow("description") << "offset for cw /tds_hf1/cs_tuner" << tuner + Keys::TUNER_HF_NB_BFOFREQUENCY;
-        QTest::newRow("unit") << QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1")
-                              << tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD;
-        QTest::newRow("a word that is nowhere") << "gain xyzzy"
-                                                << "";
-        QTest::newRow("no word") << " / "
-                                 << "";
+        row("label", "tds_hf1/cs_tuner if bandwidth", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("words in any order and case", "BANDWIDTH cs_tuner IF tds_hf1", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("German label", "cs_tuner zf-bandbreite", tuner + Keys::TUNER_HF_NB_IFBANDWIDTH);
+        row("umlaut", QString::fromUtf8("cs_tuner VERST\u00c4RKUNG"), tuner + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
+        row("key", "tuner_hf_nb_bfo tds_hf1/cs_tuner", tuner + Keys::TUNER_HF_NB_BFOFREQUENCY);
+        row("whole path", tunerPath + Keys::TUNER_HF_NB_NF2_BANDWIDTH, tuner + Keys::TUNER_HF_NB_NF2_BANDWIDTH);
+        row("description", "offset for cw /tds_hf1/cs_tuner", tuner + Keys::TUNER_HF_NB_BFOFREQUENCY);
+        row("unit", QString::fromUtf8("dB\u00b5V cs_tuner/tuner tds_hf1"), tuner + Keys::TUNER_HF_NB_SQUELCH_THRESHOLD);
+        row("a word that is nowhere", "gain xyzzy", "");
+        row("no word", " / ", "");
     }
     void wordsFindTheBestFieldFirst()
     {
@@ -145,9 +112,7 @@ private Q_SLOTS:
 
     void allPanelContextsOfTheCatalogueAreLookedInto()
     {
-        QFile file(QFINDTESTDATA("../translations/ipcparam_de.ts"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QString text = QString::fromUtf8(ReadAll(QFINDTESTDATA("../translations/ipcparam_de.ts")));
         static const QRegularExpression name("<name>(TKE::\\w*(?:Dlg|Panel\\w*))</name>");
         int count = 0;
         for (auto match = name.globalMatch(text); match.hasNext(); ++count)
@@ -162,7 +127,7 @@ private Q_SLOTS:
 
     void aFieldIsFoundAndGoneToByKeyboard()
     {
-        m_window->Nodes().View()->setFocus();
+        Window().Nodes().View()->setFocus();
         Find("tds_hf1 cs_tuner mgcvalue");
         const QString path = tunerPath + Keys::TUNER_HF_NB_MGCVALUE;
         QCOMPARE(Cell(0, 0), QStringLiteral("Value"));
@@ -176,14 +141,14 @@ private Q_SLOTS:
         QTest::keyClick(Text(), Qt::Key_Return);
         QCOMPARE(PathOf(QApplication::focusWidget()), second);
         QVERIFY(!Text()->isVisible());
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
 
         QWidget* field = QApplication::focusWidget();
         Find("gain");
         QTest::keyClick(Text(), Qt::Key_Escape);
         QVERIFY(!Text()->isVisible());
         QCOMPARE(QApplication::focusWidget(), field);
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void aFieldStandsUnderItsLabelInTheLanguageThatRuns()
@@ -211,13 +176,13 @@ private Q_SLOTS:
         QCOMPARE(rows(), 0);
         QTest::keyClick(Text(), Qt::Key_Return);
         QVERIFY(Text()->hasFocus());
-        QVERIFY(m_window->NewFromSample());
+        QVERIFY(Window().NewFromSample());
         QVERIFY(!Text()->isVisible());
     }
 
     void everyFieldThatADialogShowsIsReached()
     {
-        const QSet<QString> shown = ShownPaths(m_window->Nodes().GetNodes());
+        const QSet<QString> shown = ShownPaths(Window().Nodes().GetNodes());
         int count = 0;
         for (const QString& path : shown)
         {
@@ -225,7 +190,7 @@ private Q_SLOTS:
             static const QRegularExpression grouped("/JOB_WORKFLOW|PERIOD_ST");
             if (qHash(path, 1) % 4 != 0 || path.contains(grouped))
                 continue;
-            const bool isReached = FieldNavigator(*m_window).GoTo(path);
+            const bool isReached = FieldNavigator(Window()).GoTo(path);
             QWidget* focus = QApplication::focusWidget();
             // Opening a panel may disable what does not apply in it.
             if (Tree::Instance()->FindValue(path)->GetState() != stEnabled)
@@ -235,7 +200,7 @@ private Q_SLOTS:
             ++count;
         }
         QVERIFY(count > 100);
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void valuesOfNodesWithoutADialogAreReachedInADialogOfAnotherNode_data()
@@ -251,7 +216,7 @@ private Q_SLOTS:
         QFETCH(QString, node);
         int reached = 0;
         for (const auto& value : Tree::Instance()->FindNode(node)->GetValues())
-            if (FieldNavigator(*m_window).GoTo(value->GetPathName()) && value->GetState() == stEnabled)
+            if (FieldNavigator(Window()).GoTo(value->GetPathName()) && value->GetState() == stEnabled)
             {
                 QCOMPARE(PathOf(QApplication::focusWidget()), value->GetPathName());
                 ++reached;
@@ -262,31 +227,31 @@ private Q_SLOTS:
     void whatNoDialogShowsIsToldAndItsNodeSelected()
     {
         const QString hiddenPath = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/STATE_AUTOMATICMODE";
-        QVERIFY(!FieldNavigator(*m_window).GoTo(hiddenPath));
-        QVERIFY(!FieldNavigator(*m_window).GoTo("/Nowhere/X"));
-        m_window->Nodes().SelectNode(tunerPath);
+        QVERIFY(!FieldNavigator(Window()).GoTo(hiddenPath));
+        QVERIFY(!FieldNavigator(Window()).GoTo("/Nowhere/X"));
+        Window().Nodes().SelectNode(tunerPath);
         Find(hiddenPath);
         QTest::keyClick(Text(), Qt::Key_Return);
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, ParameterDlg::GetParentPath(hiddenPath + '/'));
-        QVERIFY(m_window->statusBar()->currentMessage().contains(hiddenPath));
-        QVERIFY(m_window->Nodes().View()->hasFocus());
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, ParameterDlg::GetParentPath(hiddenPath + '/'));
+        QVERIFY(Window().statusBar()->currentMessage().contains(hiddenPath));
+        QVERIFY(Window().Nodes().View()->hasFocus());
     }
 
     void aFieldThatDoesNotApplyIsShownAndTold()
     {
-        m_window->Dialog().SetForm(Form::StandAlone);
+        Window().Dialog().SetForm(Form::StandAlone);
         const QString path = tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH;
-        QVERIFY(FieldNavigator(*m_window).GoTo(path));
-        QCOMPARE(m_window->Dialog().GetForm(), Form::StandAlone);
-        auto* field = m_window->Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        QVERIFY(FieldNavigator(Window()).GoTo(path));
+        QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
+        auto* field = Window().Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
         QVERIFY(field && field->isVisible() && !field->hasFocus());
-        QVERIFY(m_window->statusBar()->currentMessage().contains(path));
+        QVERIFY(Window().statusBar()->currentMessage().contains(path));
     }
 
     void theFilterOfTheNodesKeepsAKeyOfItsOwn()
     {
-        QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
-        QVERIFY(m_window->Nodes().Filter()->hasFocus());
+        QTest::keyClick(&Window(), Qt::Key_L, Qt::ControlModifier);
+        QVERIFY(Window().Nodes().Filter()->hasFocus());
     }
 
     void aThousandChainsAreSearchedWhileOneTypes()

@@ -1,25 +1,20 @@
+#include "editorfixture.h"
 #include "jobedit/frequencyplan.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/planactions.h"
 #include "jobedit/planexport.h"
 #include "jobedit/planpane.h"
 #include "jobedit/planview.h"
+#include "common.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QXmlStreamReader>
-#include <QtWidgets>
-#include <algorithm>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
 
 const QString job = QStringLiteral("/Jobs/Demo/");
-const QString tunerPath = job + "TDS_HF1/CS_TUNER/TUNER/";
 
 const PlanLane* LaneOf(const FrequencyPlan& plan, const QString& path)
 {
@@ -48,72 +43,45 @@ class TestFrequencyPlan : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-    FrequencyPlan Plan() const { return FrequencyPlan::Of(m_window->Document().GetNodes(), *Tree::Instance()); }
-    PlanPane& Pane() const { return m_window->findChild<PlanActions*>()->Pane(); }
-    PlanView& Hf() const { return *Pane().View(Band::Hf); }
+    MainWindow& Window() { return m_desk->window; }
+    FrequencyPlan Plan() { return FrequencyPlan::Of(Window().Document().GetNodes(), *Tree::Instance()); }
+    PlanPane& Pane() { return Window().findChild<PlanActions*>()->Pane(); }
+    PlanView& Hf() { return *Pane().View(Band::Hf); }
     void ShowPlan()
     {
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QVERIFY(Hf().isVisible() && Hf().hasFocus());
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("frequencyplan");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        QSettings().clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->resize(1300, 1000);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
+        m_desk.emplace();
+        Window().resize(1300, 1000);
     }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_desk.reset(); }
 
     void aChainsLaneSaysWhatItDoes_data()
     {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QStringList>("marks");
-        QTest::newRow("tuner with a scan that is off")
-            << "TDS_HF1/CS_TUNER/TUNER/"
-            << QStringList{"Scan: 3 MHz to 3.5 MHz (switched off)", "Receive frequency: 10 MHz, bandwidth 2.7 kHz",
-                           "Scan list 1: 3.5 MHz (switched off)", "Scan list 2: 5.732 MHz (switched off)",
-                           "Scan list 3: 6.501 MHz (switched off)"};
-        QTest::newRow("down-converter in a wideband")
-            << "TDS_HFWB/CS_VOICE/VOICE/"
-            << QStringList{"Wideband reception: 8 MHz, bandwidth 2 MHz",
-                           "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
-                           "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
-                           "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"};
-        QTest::newRow("receiver scan") << "TDS_WBRX/CS_WBRX/RECEIVER/"
-                                       << QStringList{"Panorama: 100 MHz, bandwidth 10 MHz",
-                                                      "Receiver scan 1: 118 MHz to 137 MHz",
-                                                      "Receiver scan 2: 156 MHz to 162 MHz",
-                                                      "Receive frequency: 100 MHz, bandwidth 120 kHz"};
-        QTest::newRow("ranges of channel nodes")
-            << "TDS_EXC/CS_RASTER/DETECTOR/"
-            << QStringList{"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"};
-        QTest::newRow("emitters") << "TDS_EXC/CS_SIM/SIMULATION/"
-                                  << QStringList{"Simulated emitter 1: 10 MHz", "Simulated emitter 2: 10.01 MHz",
-                                                 "Simulated emitter 3: 10.02 MHz"};
+        const Table<QString, QStringList> row("node", "marks");
+        row("tuner with a scan that is off", "TDS_HF1/CS_TUNER/TUNER/",
+            {"Scan: 3 MHz to 3.5 MHz (switched off)", "Receive frequency: 10 MHz, bandwidth 2.7 kHz",
+             "Scan list 1: 3.5 MHz (switched off)", "Scan list 2: 5.732 MHz (switched off)",
+             "Scan list 3: 6.501 MHz (switched off)"});
+        row("down-converter in a wideband", "TDS_HFWB/CS_VOICE/VOICE/",
+            {"Wideband reception: 8 MHz, bandwidth 2 MHz",
+             "Wideband reception, second channel: 12 MHz, bandwidth 2 MHz",
+             "Channel frequency: 8.5 MHz, bandwidth 10 kHz",
+             "Channel frequency, second channel: 8.51 MHz, bandwidth 10 kHz"});
+        row("receiver scan", "TDS_WBRX/CS_WBRX/RECEIVER/",
+            {"Panorama: 100 MHz, bandwidth 10 MHz", "Receiver scan 1: 118 MHz to 137 MHz",
+             "Receiver scan 2: 156 MHz to 162 MHz", "Receive frequency: 100 MHz, bandwidth 120 kHz"});
+        row("ranges of channel nodes", "TDS_EXC/CS_RASTER/DETECTOR/",
+            {"Detected range 1: 3 MHz to 3.4 MHz", "Detected range 2: 3.5 MHz to 3.9 MHz"});
+        row("emitters", "TDS_EXC/CS_SIM/SIMULATION/",
+            {"Simulated emitter 1: 10 MHz", "Simulated emitter 2: 10.01 MHz", "Simulated emitter 3: 10.02 MHz"});
     }
     void aChainsLaneSaysWhatItDoes()
     {
@@ -163,17 +131,13 @@ private Q_SLOTS:
 
     void aMarkStandsOnTheAxisOfItsBand_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("content");
-        QTest::addColumn<bool>("onHf");
-        QTest::addColumn<bool>("onVuhf");
+        const Table<QString, QString, bool, bool> row("value", "content", "onHf", "onVuhf");
         const QString external = "TDS_EXT/CS_EXT/TUNER/TUNER_EXT_FREQUENCY";
-        QTest::newRow("last of HF") << external << "30000000" << true << false;
-        QTest::newRow("external receiver above HF") << external << "100000000" << false << true;
-        QTest::newRow("V/UHF device below 30 MHz") << "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY"
-                                                   << "25000000" << false << true;
-        QTest::newRow("range over both") << "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE"
-                                         << "20000000;40000000" << true << true;
+        row("last of HF", external, "30000000", true, false);
+        row("external receiver above HF", external, "100000000", false, true);
+        row("V/UHF device below 30 MHz", "TDS_VUHF1/CS_TUNER/TUNER/TUNER_VUHF_FREQUENCY", "25000000", false, true);
+        row("range over both", "TDS_HF1/CS_DATA/DATATRANS/SURVEILLANCE_SEQ_FREQ_RANGE", "20000000;40000000", true,
+            true);
     }
     void aMarkStandsOnTheAxisOfItsBand()
     {
@@ -196,14 +160,13 @@ private Q_SLOTS:
 
     void frequenciesReadExactly_data()
     {
-        QTest::addColumn<qint64>("hertz");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << qint64(0) << "0 Hz";
-        QTest::newRow("below 1 kHz") << qint64(999) << "999 Hz";
-        QTest::newRow("kHz") << qint64(12500) << "12,5 kHz";
-        QTest::newRow("MHz") << qint64(433'920'001) << "433,920001 MHz";
-        QTest::newRow("GHz to the last Hz") << qint64(1'234'567'891) << "1,234567891 GHz";
-        QTest::newRow("round") << qint64(3'000'000'000) << "3 GHz";
+        const Table<qint64, QString> row("hertz", "text");
+        row("zero", qint64(0), "0 Hz");
+        row("below 1 kHz", qint64(999), "999 Hz");
+        row("kHz", qint64(12500), "12,5 kHz");
+        row("MHz", qint64(433'920'001), "433,920001 MHz");
+        row("GHz to the last Hz", qint64(1'234'567'891), "1,234567891 GHz");
+        row("round", qint64(3'000'000'000), "3 GHz");
     }
     void frequenciesReadExactly()
     {
@@ -214,14 +177,13 @@ private Q_SLOTS:
 
     void theAxisHasRoundFrequenciesThatDoNotTouch_data()
     {
-        QTest::addColumn<double>("from");
-        QTest::addColumn<double>("to");
-        QTest::addColumn<QString>("text"); // one that is there
-        QTest::newRow("HF") << 0.0 << 30e6 << "15 MHz";
-        QTest::newRow("a channel") << 10.0e6 << 10.005e6 << "10001 kHz";
-        QTest::newRow("broadcast") << 87.5e6 << 108e6 << "90 MHz";
-        QTest::newRow("a V/UHF channel") << 145.0e6 << 145.05e6 << "145.02 MHz";
-        QTest::newRow("up to 3 GHz") << 20e6 << 3e9 << "1.0 GHz";
+        // text: one that is there
+        const Table<double, double, QString> row("from", "to", "text");
+        row("HF", 0.0, 30e6, "15 MHz");
+        row("a channel", 10.0e6, 10.005e6, "10001 kHz");
+        row("broadcast", 87.5e6, 108e6, "90 MHz");
+        row("a V/UHF channel", 145.0e6, 145.05e6, "145.02 MHz");
+        row("up to 3 GHz", 20e6, 3e9, "1.0 GHz");
     }
     void theAxisHasRoundFrequenciesThatDoNotTouch()
     {
@@ -301,18 +263,18 @@ private Q_SLOTS:
     {
         ShowPlan();
         Hf().SelectPath(tunerPath); // scrolls to it
-        m_window->Nodes().SelectNode(job + "TDS_HFWB/CS_VOICE/VOICE/");
+        Window().Nodes().SelectNode(job + "TDS_HFWB/CS_VOICE/VOICE/");
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_VOICE/VOICE/");
         Hf().SelectPath(tunerPath);
         QTest::mouseClick(Hf().viewport(), Qt::LeftButton, {}, Hf().PlaceOf(tunerPath, 20e6));
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
         // From the last chain of a section to the first of the next: the heading is passed over.
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
         QTest::keyClick(&Hf(), Qt::Key_Return);
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
         QTest::keyClick(&Hf(), Qt::Key_Up);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HF1/CS_VOICE/VOICE/");
         QVERIFY(Hf().accessibleDescription().contains("Receive frequency: 10 MHz"));
@@ -321,7 +283,7 @@ private Q_SLOTS:
     void thePlanFollowsEdits()
     {
         ShowPlan();
-        m_window->Nodes().SelectNode(tunerPath);
+        Window().Nodes().SelectNode(tunerPath);
         Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
         Set(tunerPath + "SCAN_STATUS", "true");
         QTRY_VERIFY(Hf().SelectedText().contains("Receive frequency: 7.0405 MHz"));
@@ -330,7 +292,7 @@ private Q_SLOTS:
         QVERIFY(Hf().SelectedText().contains("Scan list 1: 3.5 MHz (switched off)"));
         // A channel's own node belongs to the lane of its chain.
         const QString emitters = job + "TDS_EXC/CS_SIM/SIMULATION/";
-        m_window->Nodes().SelectNode(emitters);
+        Window().Nodes().SelectNode(emitters);
         Set(emitters + "Emitter2/EmitterFrequency", "12345678");
         QTRY_VERIFY(Hf().SelectedText().contains("Simulated emitter 2: 12.345678 MHz"));
     }
@@ -338,9 +300,9 @@ private Q_SLOTS:
     void aPlanBehindAnotherTabComesToTheFront()
     {
         ShowPlan();
-        m_window->findChild<QDockWidget*>("messageDock")->raise();
+        Window().findChild<QDockWidget*>("messageDock")->raise();
         QTRY_VERIFY(Hf().visibleRegion().isEmpty());
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QTRY_VERIFY(!Hf().visibleRegion().isEmpty());
     }
 
@@ -364,10 +326,10 @@ private Q_SLOTS:
     void aPlanThatWasHiddenIsUpToDateWhenShown()
     {
         ShowPlan();
-        QTest::keyClick(m_window.get(), Qt::Key_F8);
+        QTest::keyClick(&Window(), Qt::Key_F8);
         QVERIFY(!Hf().isVisible());
         Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
-        m_window->Nodes().SelectNode(tunerPath);
+        Window().Nodes().SelectNode(tunerPath);
         ShowPlan();
         QVERIFY(Hf().SelectedText().contains("7.0405 MHz"));
     }
@@ -385,11 +347,9 @@ private Q_SLOTS:
     void thePicturesHoldAllChains()
     {
         FileError error;
-        QVERIFY(m_window->Document().SaveAs(File("a <b> & \"c\".job.xml"), error));
-        QVERIFY2(ExportPlan(m_window->Document(), File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
-        QFile file(File("plan.svg"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader reader(&file);
+        QVERIFY(Window().Document().SaveAs(m_desk->File("a <b> & \"c\".job.xml"), error));
+        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
+        QXmlStreamReader reader(ReadAll(m_desk->File("plan.svg")));
         QString texts;
         while (!reader.atEnd())
             if (reader.readNext() == QXmlStreamReader::Characters)
@@ -400,15 +360,16 @@ private Q_SLOTS:
         for (const PlanLane& lane : plan.GetLanes())
             QVERIFY2(texts.contains(lane.title), qPrintable(lane.title));
 
-        QVERIFY2(ExportPlan(m_window->Document(), File("plan.png"), {1200, 2000}, error), qPrintable(error.reason));
-        const QImage picture(File("plan.png"));
+        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.png"), {1200, 2000}, error),
+                 qPrintable(error.reason));
+        const QImage picture(m_desk->File("plan.png"));
         QCOMPARE(picture.size(), QSize(1200, 2000));
         QSet<QRgb> colours;
         for (int y = 0; y < picture.height(); y += 3)
             for (int x = 0; x < picture.width(); x += 3)
                 colours.insert(picture.pixel(x, y));
         QVERIFY(colours.size() > 20);
-        QVERIFY(!m_window->Document().IsModified());
+        QVERIFY(!Window().Document().IsModified());
     }
 
     void aPictureThatCannotBeWrittenLeavesTheFile_data()
@@ -420,15 +381,12 @@ private Q_SLOTS:
     void aPictureThatCannotBeWrittenLeavesTheFile()
     {
         QFETCH(QString, name);
-        QFile there(File("plan.txt"));
-        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
-        there.close();
+        WriteAll(m_desk->File("plan.txt"), "kept");
         FileError error;
-        QVERIFY(!ExportPlan(m_window->Document(), File(name), {800, 0}, error));
-        QCOMPARE(error.file, File(name));
+        QVERIFY(!ExportPlan(Window().Document(), m_desk->File(name), {800, 0}, error));
+        QCOMPARE(error.file, m_desk->File(name));
         QVERIFY(!error.reason.isEmpty());
-        QVERIFY(there.open(QIODevice::ReadOnly));
-        QCOMPARE(there.readAll(), QByteArray("kept"));
+        QCOMPARE(ReadAll(m_desk->File("plan.txt")), QByteArray("kept"));
     }
 };
 

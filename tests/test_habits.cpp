@@ -1,14 +1,8 @@
-#include "jobedit/dialogpane.h"
+#include "editorfixture.h"
 #include "jobedit/guidewindow.h"
 #include "jobedit/hintbar.h"
 #include "jobedit/languages.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/nightcolours.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/recentfiles.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 // The catalogues stand in a static library.
 static void InitResources()
@@ -16,24 +10,10 @@ static void InitResources()
     Q_INIT_RESOURCE(ipcparam_translations);
 }
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
-
-/// How well one colour is read on the other: 1 to 21.
-double Contrast(const QColor& one, const QColor& other)
-{
-    const auto luminance = [](const QColor& colour)
-    {
-        const auto linear = [](double part)
-        { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-    };
-    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-    return (high + 0.05) / (low + 0.05);
-}
 
 QChar MnemonicOf(QString text)
 {
@@ -48,52 +28,38 @@ class TestHabits : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Surroundings> m_place;
+    std::optional<Editor> m_editor;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-    void MakeWindow()
-    {
-        m_window.reset();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
+    MainWindow& Window() { return m_editor->window; }
+    QString File(const QString& name) const { return m_place->File(name); }
     QString PathOf(const char* type)
     {
-        return std::ranges::find(m_window->Nodes().GetNodes(), QString(type), &JobNode::type)->path;
+        return std::ranges::find(Window().Nodes().GetNodes(), QString(type), &JobNode::type)->path;
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        InitResources();
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-    }
-
+    void initTestCase() { InitResources(); }
     void init()
     {
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        m_place.emplace();
         Languages::Apply("en");
-        MakeWindow();
-        QVERIFY(m_window->NewFromSample());
+        m_editor.emplace();
+        QVERIFY(Window().NewFromSample());
     }
-
     void cleanup()
     {
-        m_window.reset();
-        Tree::Instance()->Clear();
+        m_editor.reset();
+        m_place.reset();
         Languages::Apply("en");
     }
 
     void aFileThatIsDroppedAnywhereIsOpened()
     {
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        QVERIFY(m_window->NewFromSample());
-        m_window->Nodes().SelectNode(PathOf("IPC_TUNER_HF"));
-        auto* field = m_window->Dialog().GetDialog()->findChild<QLineEdit*>();
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        QVERIFY(Window().NewFromSample());
+        Window().Nodes().SelectNode(PathOf("IPC_TUNER_HF"));
+        auto* field = Window().Dialog().GetDialog()->findChild<QLineEdit*>();
         const QString before = field->text();
         const QPointer<QLineEdit> watched = field;
         QMimeData files;
@@ -105,48 +71,48 @@ private Q_SLOTS:
         QDropEvent drop({2, 2}, Qt::CopyAction, &files, Qt::LeftButton, {});
         QCoreApplication::sendEvent(field, &drop);
         QCOMPARE(watched->text(), before);
-        QTRY_COMPARE(m_window->Document().GetFileName(), File("a.job.xml"));
+        QTRY_COMPARE(Window().Document().GetFileName(), File("a.job.xml"));
 
         files.setUrls({QUrl::fromLocalFile("/a"), QUrl::fromLocalFile("/b")});
         QDragEnterEvent two({2, 2}, Qt::CopyAction, &files, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(m_window.get(), &two);
+        QCoreApplication::sendEvent(&Window(), &two);
         QVERIFY(!two.isAccepted());
     }
 
     void aFileOpensWhereItWasLeft()
     {
         const QString path = PathOf("IPC_FULL");
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        QVERIFY(m_window->Nodes().SelectNode(path));
-        m_window->Dialog().SetForm(Form::StandAlone);
-        m_window->Dialog().GetDialog()->setCurrentIndex(4);
-        QVERIFY(m_window->close());
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        QVERIFY(Window().Nodes().SelectNode(path));
+        Window().Dialog().SetForm(Form::StandAlone);
+        Window().Dialog().GetDialog()->setCurrentIndex(4);
+        QVERIFY(Window().close());
 
-        MakeWindow();
-        QVERIFY(m_window->NewFromSample());
-        QVERIFY(m_window->Nodes().GetCurrentNode()->path != path);
-        QVERIFY(m_window->OpenFile(File("a.job.xml")));
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, path);
-        QCOMPARE(m_window->Dialog().GetForm(), Form::StandAlone);
-        QCOMPARE(m_window->Dialog().GetDialog()->currentIndex(), 4);
-        QVERIFY(!m_window->isWindowModified());
+        m_editor.emplace();
+        QVERIFY(Window().NewFromSample());
+        QVERIFY(Window().Nodes().GetCurrentNode()->path != path);
+        QVERIFY(Window().OpenFile(File("a.job.xml")));
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, path);
+        QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
+        QCOMPARE(Window().Dialog().GetDialog()->currentIndex(), 4);
+        QVERIFY(!Window().isWindowModified());
     }
 
     void theWindowComesBackAsItWas()
     {
-        m_window->resize(1000, 700);
-        m_window->MessageDock()->hide();
-        QVERIFY(m_window->close());
-        MakeWindow();
-        QCOMPARE(m_window->size(), QSize(1000, 700));
-        QVERIFY(!m_window->MessageDock()->isVisible());
+        Window().resize(1000, 700);
+        Window().MessageDock()->hide();
+        QVERIFY(Window().close());
+        m_editor.emplace();
+        QCOMPARE(Window().size(), QSize(1000, 700));
+        QVERIFY(!Window().MessageDock()->isVisible());
     }
 
     void aRecentFileThatIsGoneIsMarked()
     {
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
         RecentFiles::Add(File("gone.job.xml"));
-        auto* menu = m_window->findChild<RecentFiles*>();
+        auto* menu = Window().findChild<RecentFiles*>();
         emit menu->aboutToShow();
         QVERIFY(menu->actions().at(0)->text().endsWith("gone.job.xml (not there)"));
         QVERIFY(menu->actions().at(1)->text().endsWith("a.job.xml"));
@@ -154,22 +120,22 @@ private Q_SLOTS:
 
     void theHintIsOfferedUntilItIsNotWanted()
     {
-        auto* hint = m_window->findChild<HintBar*>();
+        auto* hint = Window().findChild<HintBar*>();
         QVERIFY(!hint->isVisible());
-        m_window->OfferHint();
+        Window().OfferHint();
         QVERIFY(hint->isVisible());
         QTest::mouseClick(hint->findChild<QPushButton*>("neverAgain"), Qt::LeftButton);
         QVERIFY(!hint->isVisible());
-        MakeWindow();
-        m_window->OfferHint();
-        QVERIFY(!m_window->findChild<HintBar*>()->isVisible());
+        m_editor.emplace();
+        Window().OfferHint();
+        QVERIFY(!Window().findChild<HintBar*>()->isVisible());
     }
 
     void f1OpensTheGuideOnce()
     {
-        QTest::keyClick(m_window.get(), Qt::Key_F1);
-        QTest::keyClick(m_window.get(), Qt::Key_F1);
-        const auto guides = m_window->findChildren<GuideWindow*>();
+        QTest::keyClick(&Window(), Qt::Key_F1);
+        QTest::keyClick(&Window(), Qt::Key_F1);
+        const auto guides = Window().findChildren<GuideWindow*>();
         QCOMPARE(guides.size(), 1);
         auto* browser = guides.first()->findChild<QTextBrowser*>();
         QVERIFY(browser->toPlainText().contains("guide for operators"));
@@ -188,12 +154,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         Languages::Apply(language);
-        MakeWindow();
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
+        m_editor.emplace();
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
         QSet<const QAction*> inMenus;
         QHash<QKeySequence, QString> shortcuts;
-        QList<std::pair<QString, QList<QAction*>>> menus{{"menu bar", m_window->menuBar()->actions()}};
-        for (QMenu* menu : m_window->findChildren<QMenu*>())
+        QList<std::pair<QString, QList<QAction*>>> menus{{"menu bar", Window().menuBar()->actions()}};
+        for (QMenu* menu : Window().findChildren<QMenu*>())
         {
             emit menu->aboutToShow();
             menus << std::pair(menu->title(), menu->actions());
@@ -212,7 +178,7 @@ private Q_SLOTS:
             }
             QVERIFY2(title != "menu bar" || mnemonics.size() == actions.size(), "A menu without a mnemonic.");
         }
-        for (const QAction* action : m_window->findChildren<QAction*>())
+        for (const QAction* action : Window().findChildren<QAction*>())
         {
             if (action->isSeparator() || action->text().isEmpty())
                 continue;
@@ -229,40 +195,6 @@ private Q_SLOTS:
         }
         for (const auto key : {QKeySequence::New, QKeySequence::Open, QKeySequence::Save, QKeySequence::Find})
             QVERIFY(shortcuts.contains(QKeySequence(key)));
-    }
-
-    void whatIsDimmedCanStillBeReadInBothPalettes_data()
-    {
-        QTest::addColumn<bool>("night");
-        QTest::newRow("day") << false;
-        QTest::newRow("night") << true;
-    }
-    void whatIsDimmedCanStillBeReadInBothPalettes()
-    {
-        QFETCH(bool, night);
-        const auto restore = qScopeGuard([] { NightColours::Switch(false); });
-        NightColours::Switch(night);
-        QCoreApplication::processEvents();
-        const auto* model = m_window->Nodes().View()->model();
-        // One of the nodes below the job that have no dialog.
-        const auto found = model->match(model->index(0, 0), Qt::DisplayRole, "PROFILES", 1, Qt::MatchExactly | Qt::MatchRecursive);
-        QCOMPARE(found.size(), 1);
-        const QBrush dimmed = found.first().data(Qt::ForegroundRole).value<QBrush>();
-        const QPalette palette = m_window->Nodes().View()->palette();
-        for (const auto role : {QPalette::Base, QPalette::AlternateBase})
-        {
-            QVERIFY(Contrast(palette.color(QPalette::Text), palette.color(role)) > 7);
-            const QImage sheet = [&]
-            {
-                // Dimmed texts may be half transparent.
-                QImage image(1, 1, QImage::Format_RGB32);
-                image.fill(palette.color(role));
-                QPainter(&image).fillRect(0, 0, 1, 1, dimmed);
-                return image;
-            }();
-            const double contrast = Contrast(sheet.pixelColor(0, 0), palette.color(role));
-            QVERIFY2(contrast > 3, qPrintable(QString::number(contrast)));
-        }
     }
 };
 

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
 #include "keys/keymanager.h"
@@ -5,8 +6,6 @@
 #include "value/tree.h"
 
 #include <QPointer>
-#include <QTest>
-#include <QTranslator>
 
 #include <climits>
 #include <map>
@@ -63,28 +62,6 @@ std::unique_ptr<Host> Make(bool isJob, const QString& jobPath = setPath)
                  : std::make_unique<Host>(taskPath, nullptr, false, false, false, taskPath, ns);
 }
 
-/// Calls a function on every content change of what it is attached to.
-struct Listener : IObserver
-{
-    explicit Listener(std::function<void()> f) : function(std::move(f)) {}
-    void Update(Observable*, TChangeCode code) override
-    {
-        if (code == ccContent)
-            function();
-    }
-    std::function<void()> function;
-};
-
-/// Translates every text of the host.
-struct Foreign : QTranslator
-{
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "TKE::IPCParam") == 0 ? QStringLiteral("~") + QLatin1StringView(text) : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 BoolValue* CreateBool(QLatin1StringView key)
 {
     return Tree::Instance()->CreateValue<BoolValue>(taskPath + key);
@@ -110,12 +87,10 @@ private slots:
 
     void anEntryPointHasItsTitleAndItsTabs_data()
     {
-        QTest::addColumn<OpenCall>("open");
-        QTest::addColumn<QString>("job");
-        QTest::addColumn<QString>("standAlone"); // null: the same
+        const Table<OpenCall, QString, QString> table("open", "job", "standAlone");
         const auto row =
-            [](const char* title, const char* variant, OpenCall open, const char* job, const char* standAlone)
-        { QTest::addRow("%s|%s", title, variant) << open << QString(job) << QString(standAlone ? standAlone : job); };
+            [&](const QString& title, const char* variant, OpenCall open, const char* job, const char* standAlone)
+        { table(title + '|' + variant, open, job, standAlone ? standAlone : job); };
 
         // clang-format off
         row("Classifier DDC Configuration", "HF", [](Host& h) { h.ClassifierDDCDlg(1, false, false, 1); }, "10 12 16 18 26 27 29 41", "5 18 29");
@@ -200,7 +175,8 @@ private slots:
         host->ExciterDlg(1, false);
         QCOMPARE(host->Wanted(), "21 22"); // no such value
         auto* value = Tree::Instance()->CreateValue<ValueSelection>(tdsPath + Keys::ExciterMode);
-        const std::map<int, QString> kinds{{-1, ""}, {2, ""}, {3, " 23"}, {7, " 23"}, {8, " 24"}, {10, " 24"}, {11, ""}};
+        const std::map<int, QString> kinds{{-1, ""},   {2, ""},     {3, " 23"}, {7, " 23"},
+                                           {8, " 24"}, {10, " 24"}, {11, ""}};
         for (const auto& [mode, row] : kinds)
         {
             value->SetStoredText(QString::number(mode));
@@ -282,9 +258,9 @@ private slots:
 
     void tabsFollowTheAutomaticMode_data()
     {
-        QTest::addColumn<OpenCall>("open");
-        QTest::addColumn<QString>("values"); // of the mode and the classification: true, false or missing
-        QTest::addColumn<QString>("states"); // of the tuner, the demodulator with its like and the classifier
+        // values: of the mode and the classification, true, false or missing; states: of the tuner, the demodulator
+        // with its like and the classifier
+        const Table<OpenCall, QString, QString> table("open", "values", "states");
         const std::pair<const char*, OpenCall> classifiers[] = {
             {"classifier HF", [](Host& h) { h.ClassifierDlg(1, 1); }},
             {"classifier VUHF", [](Host& h) { h.ClassifierVUHFDlg(1, 1); }},
@@ -294,11 +270,11 @@ private slots:
             {"data VUHF", [](Host& h) { h.DataTransVUHFDlg(1, true); }},
             {"data DDC", [](Host& h) { h.DataTransDDCDlg(1, false, true); }}};
         using Cases = std::initializer_list<std::pair<const char*, const char*>>;
-        const auto rows = [](const auto& calls, Cases cases)
+        const auto rows = [&](const auto& calls, Cases cases)
         {
             for (const auto& [name, open] : calls)
                 for (const auto& [values, states] : cases)
-                    QTest::addRow("%s %s", name, values) << open << QString(values) << QString(states);
+                    table(QString(name) + ' ' + values, open, values, states);
         };
         rows(classifiers, {{"--", "+-+"}, {"t-", "+-+"}, {"ff", "+++"}, {"ft", "+-+"}, {"tf", "---"}, {"tt", "---"}});
         rows(dataTransmissions, {{"--", "+++"}, {"ft", "+++"}, {"tf", "--+"}});
@@ -366,17 +342,15 @@ private slots:
     void aTranslatedTitleMakesUpdateInert()
     {
         BoolValue* mode = CreateBool(Keys::STATE_AUTOMATICMODE);
-        Foreign translator;
-        QCoreApplication::installTranslator(&translator);
+        const ContextTranslator translator;
         const auto host = Make(true);
         host->DataTransDlg(1, false);
-        QCOMPARE(host->windowTitle(), "~Data Transmission HF Configuration");
-        QVERIFY(host->Tabs().contains(QStringLiteral("~Tuner")));
+        QCOMPARE(host->windowTitle(), "TKE::IPCParam|Data Transmission HF Configuration");
+        QVERIFY(host->Tabs().contains(QStringLiteral("TKE::IPCParam|Tuner")));
         mode->SetBool(true);
         QCOMPARE(host->States({19}), "19+");
         host->DataTransDlg(1, false); // the entry point itself applies the value
         QCOMPARE(host->States({19}), "19-");
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void theScanTabNeedsAScanStatus()
@@ -395,8 +369,8 @@ private slots:
         auto host = Make(true);
         const auto reopen = [&] { host->DataTransVUHFDlg(1, true); };
         // Called before the host hears of the change, and after it.
-        Listener before(reopen);
-        Listener after(reopen);
+        Hearer before(reopen);
+        Hearer after(reopen);
         mode->Attach(&before);
         host->DataTransDlg(1, true);
         mode->Attach(&after);
@@ -407,8 +381,8 @@ private slots:
         mode->SetBool(false);
         QCOMPARE(host->States({19, 20}), "20+");
 
-        before.function = [&] { host.reset(); };
-        after.function = [] {};
+        before.act = [&] { host.reset(); };
+        after.act = {};
         mode->SetBool(true);
         QVERIFY(!host);
     }
@@ -430,35 +404,6 @@ private slots:
         QCOMPARE(host->windowTitle(), "Tuner VUHF Configuration");
         QCOMPARE(host->Wanted(), "20 31 41");
         QCOMPARE(host->States({19, 20}), "20+"); // and not disabled by the rule of the first one
-    }
-
-    void hostAndTreeDieInEitherOrder()
-    {
-        CreateBool(Keys::STATE_AUTOMATICMODE);
-        CreateBool(Keys::STATE_AUTOMATICCLASSIFICATION);
-        Tree::Instance()->CreateValue<FrequencyValue>(taskPath + Keys::TUNER_HF_NB_FREQUENCY);
-        auto host = Make(true);
-        host->ClassifierDlg(1, 1);
-        Tree::Instance()->Clear();
-        host->ClassifierDlg(1, 1); // on a tree without values
-        QCOMPARE(host->States({19}), "19+");
-        init();
-        auto* mode = CreateBool(Keys::STATE_AUTOMATICMODE);
-        CreateBool(Keys::STATE_AUTOMATICCLASSIFICATION);
-        mode->SetBool(true); // values that came later are not observed before the next call
-        host->ClassifierDlg(1, 1);
-        QCOMPARE(host->States({19}), "19-");
-        host.reset();
-        mode->SetBool(false);
-
-        // A parent takes the host and its panels along.
-        auto parent = std::make_unique<QWidget>();
-        auto* child =
-            std::make_unique<Host>(taskPath, parent.get(), false, false, false, taskPath, QString()).release();
-        child->TunerNBDlg(1);
-        const QPointer<ParameterDlg> panel = child->Panel(19);
-        parent.reset();
-        QVERIFY(!panel);
     }
 };
 

@@ -1,6 +1,6 @@
+#include "common.h"
 #include "jobmodel/jobmodel.h"
 
-#include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -34,9 +34,8 @@ private:
 
     QString Write(const QString& name, const QByteArray& text)
     {
-        QFile file(m_directory.filePath(name));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-        return written ? file.fileName() : QString();
+        WriteAll(m_directory.filePath(name), text);
+        return m_directory.filePath(name);
     }
     std::shared_ptr<const JobModel> Read(const QByteArray& text)
     {
@@ -81,16 +80,15 @@ private slots:
 
     void aDescriptorSaysWhatARowNeeds_data()
     {
-        QTest::addColumn<QString>("numbers"); // float, double, long, integer, list
-        QTest::addColumn<int>("control");
-        QTest::addColumn<int>("subControl"); // -1: not valid
-        QTest::newRow("kind='selection' default='1' control='0'") << "-----" << 0 << -1;
-        QTest::newRow("kind='int' default='1' control='5' subControl='3' number='long'") << "--L--" << 5 << 3;
-        QTest::newRow("kind='double' default='1' control='3' number='float'") << "F----" << 3 << -1;
-        QTest::newRow("kind='double' default='1'") << "-D---" << 3 << -1;
-        QTest::newRow("kind='int' default='1'") << "---I-" << 2 << -1;
-        QTest::newRow("kind='frequency' default='1' control='6' subControl='0'") << "-----" << 6 << 0;
-        QTest::newRow("kind='list' default='1;2' control='6'") << "----S" << 6 << -1;
+        // numbers: float, double, long, integer, list; subControl: -1: not valid
+        const Table<QString, int, int> row("numbers", "control", "subControl");
+        row("kind='selection' default='1' control='0'", "-----", 0, -1);
+        row("kind='int' default='1' control='5' subControl='3' number='long'", "--L--", 5, 3);
+        row("kind='double' default='1' control='3' number='float'", "F----", 3, -1);
+        row("kind='double' default='1'", "-D---", 3, -1);
+        row("kind='int' default='1'", "---I-", 2, -1);
+        row("kind='frequency' default='1' control='6' subControl='0'", "-----", 6, 0);
+        row("kind='list' default='1;2' control='6'", "----S", 6, -1);
     }
     void aDescriptorSaysWhatARowNeeds()
     {
@@ -139,12 +137,9 @@ private slots:
 
     void whatIsFaultyIsNamedWithItsLineAndTheRestIsUsed_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("reason"); // a piece of it
-        QTest::addColumn<int>("line");
-
-        const auto row = [](const QByteArray& element, const char* reason)
-        { QTest::newRow(element.constData()) << Parameters("\n<" + element + "/>") << QString(reason) << 5; };
+        const Table<QByteArray, QString, int> table("text", "reason", "line"); // reason: a piece of it
+        const auto row = [&](const QByteArray& element, const char* reason)
+        { table(element, Parameters("\n<" + element + "/>"), reason, 5); };
         row("Parameter name='P' at='M' default='1'", "kind");
         row("Parameter name='P' kind='complex' at='M' default='1'", "complex");
         row("Parameter name='P' kind='int' at='M'", "default");
@@ -154,7 +149,8 @@ private slots:
         row("Parameter name='P' kind='int' at='M' default='5' min='3x'", "3x");
         for (const char* number : {"nan", "inf", "-inf", "1e999"})
             for (const char* limit : {"min", "max", "step"})
-                row("Parameter name='P' kind='double' at='M' default='5' " + QByteArray(limit) + "='" + number + "'", limit);
+                row("Parameter name='P' kind='double' at='M' default='5' " + QByteArray(limit) + "='" + number + "'",
+                    limit);
         row("Parameter name='P' kind='double' at='M' default='inf'", "default");
         row("Parameter name='P' kind='int' at='M' default='5' precision='-1'", "precision");
         row("Parameter name='P' kind='list' at='M' default='5' rows='2000000000'", "2000000000");
@@ -170,17 +166,17 @@ private slots:
         row("Rule target='LAST' source='NOWHERE' equals='1'", "NOWHERE");
         row("Rule target='LAST' source='FIRST' equals='on'", "on");
         row("Colour", "Colour");
-        QTest::newRow("cut off") << Parameters({}).chopped(22) << "well-formed" << 5;
-        QTest::newRow("empty") << QByteArray() << "well-formed" << 0; // none of the rest is there
-        QTest::newRow("entities that grow")
-            << QByteArray("<!DOCTYPE JobModel [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"
-                          "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>")
-            << "document type" << 0;
-        QTest::newRow("attribute of megabytes")
-            << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>" << "longer" << 0;
-        QTest::newRow("no UTF-8") << QByteArray("<JobModel version=\"1\">\n\xE4\xE4</JobModel>") << "UTF-8" << 0;
-        QTest::newRow("another root") << QByteArray("<Job version=\"1\"/>") << "Job" << 0;
-        QTest::newRow("no group") << QByteArray("<JobModel version=\"1\"/>") << "no group" << 0;
+        table("cut off", Parameters({}).chopped(22), "well-formed", 5);
+        table("empty", {}, "well-formed", 0); // none of the rest is there
+        table("entities that grow",
+              "<!DOCTYPE JobModel [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"
+              "<JobModel version=\"1\"><Group name=\"&b;\"/></JobModel>",
+              "document type", 0);
+        table("attribute of megabytes",
+              "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>", "longer", 0);
+        table("no UTF-8", "<JobModel version=\"1\">\n\xE4\xE4</JobModel>", "UTF-8", 0);
+        table("another root", "<Job version=\"1\"/>", "Job", 0);
+        table("no group", "<JobModel version=\"1\"/>", "no group", 0);
     }
     void whatIsFaultyIsNamedWithItsLineAndTheRestIsUsed()
     {

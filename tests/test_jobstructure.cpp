@@ -1,3 +1,4 @@
+#include "common.h"
 #include "jobmodel/jobfile.h"
 
 #include <QTemporaryDir>
@@ -37,11 +38,9 @@ class TestJobStructure : public QObject
 
     void Load(const QByteArray& text)
     {
-        QFile file(m_directory.filePath("a.job.xml"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-        file.close();
+        WriteAll(m_directory.filePath("a.job.xml"), text);
         FileError error;
-        QVERIFY2(m_job->Load(file.fileName(), &error), qPrintable(error.ToText()));
+        QVERIFY2(m_job->Load(m_directory.filePath("a.job.xml"), &error), qPrintable(error.ToText()));
         QCOMPARE(m_job->ToUtf8(), text);
     }
     static ValueBase* At(const QString& path) { return Tree::Instance()->FindValue(path); }
@@ -117,16 +116,11 @@ private slots:
 
     void namesThatCannotBeAreRefused_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("empty") << "AB"
-                               << "";
-        QTest::newRow("no segment") << "AB/IN"
-                                    << "..";
-        QTest::newRow("two segments") << "AB/IN"
-                                      << "a/b";
-        QTest::newRow("no node") << "NOWHERE"
-                                 << "a";
+        const Table<QString, QString> row("path", "name");
+        row("empty", "AB", "");
+        row("no segment", "AB/IN", "..");
+        row("two segments", "AB/IN", "a/b");
+        row("no node", "NOWHERE", "a");
     }
     void namesThatCannotBeAreRefused()
     {

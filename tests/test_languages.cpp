@@ -1,14 +1,9 @@
-#include "jobedit/dialogpane.h"
+#include "editorfixture.h"
 #include "jobedit/editor.h"
 #include "jobedit/languages.h"
-#include "jobedit/messagelist.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/panelwindow.h"
-#include "keys/keys.h"
 
 #include <QLockFile>
-#include <QtTest>
-#include <QtWidgets>
 
 // The catalogues stand in a static library.
 static void InitResources()
@@ -18,24 +13,18 @@ static void InitResources()
 
 using namespace JOBEDIT;
 using namespace TKE;
-
-namespace
-{
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
-
-} // namespace
+using EditorTest::frequencyPath;
+using EditorTest::tunerPath;
 
 class TestLanguages : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
+    std::optional<EditorTest::Surroundings> m_place;
     std::unique_ptr<Editor> m_editor;
 
     MainWindow& Window() { return m_editor->Window(); }
-    QString File(const QString& name) const { return m_directory->filePath(name); }
+    QString File(const QString& name) const { return m_place->File(name); }
 
     QLineEdit* FrequencyField()
     {
@@ -60,17 +49,10 @@ class TestLanguages : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        InitResources();
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-    }
-
+    void initTestCase() { InitResources(); }
     void init()
     {
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
+        m_place.emplace();
         Languages::Apply("en");
         m_editor = std::make_unique<Editor>(JobModel::Load());
         Window().show();
@@ -82,7 +64,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_editor.reset();
-        Tree::Instance()->Clear();
+        m_place.reset();
         Languages::Apply("en");
     }
 

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "numericlistwindow.h"
 
 using namespace TKE;
@@ -110,15 +111,14 @@ private slots:
 
     void leavingACellByAnyWayStoresIt_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<double>("stored");
-        QTest::addColumn<int>("column"); // where the editor is open afterwards
-        QTest::newRow("Return") << int(Qt::Key_Return) << 9e6 << -1;
-        QTest::newRow("Tab") << int(Qt::Key_Tab) << 9e6 << 2;
-        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab) << 9e6 << 0;
-        QTest::newRow("Down") << int(Qt::Key_Down) << 9e6 << -1;
-        QTest::newRow("another field") << 0 << 9e6 << -1;
-        QTest::newRow("Escape") << int(Qt::Key_Escape) << 2e6 << -1;
+        // column: where the editor is open afterwards
+        const Table<int, double, int> row("key", "stored", "column");
+        row("Return", int(Qt::Key_Return), 9e6, -1);
+        row("Tab", int(Qt::Key_Tab), 9e6, 2);
+        row("Shift+Tab", int(Qt::Key_Backtab), 9e6, 0);
+        row("Down", int(Qt::Key_Down), 9e6, -1);
+        row("another field", 0, 9e6, -1);
+        row("Escape", int(Qt::Key_Escape), 2e6, -1);
     }
     void leavingACellByAnyWayStoresIt()
     {
@@ -134,9 +134,12 @@ private slots:
         QTEST(Editor(window.list) ? window.list->currentColumn() : -1, "column");
     }
 
-    void tabMovesThroughTheCellsAndLeavesTheTableAtItsEnds()
+    void tabMovesThroughTheCellsAndLeavesTheTableAtItsEndsAndWritesNothing()
     {
-        MakeList("1e6;2e6;3e6;4e6");
+        const QString stored = "3000000.125;4063000;1500000;1600000"; // neither in order nor to be shown in full
+        Counter counter;
+        DoubleListValue* value = MakeList(stored);
+        value->Attach(&counter);
         const ListWindow window(2, 0, 5, true, megahertz);
         window.before->setFocus();
         for (int cell = 0; cell < 4; ++cell)
@@ -153,6 +156,10 @@ private slots:
         QVERIFY(window.list->hasFocus());
         QTest::keyClick(window.list, Qt::Key_Backtab);
         QVERIFY(window.before->hasFocus());
+        Press(window.list, Qt::Key_F2);
+        for (int cell = 1; cell < 4; ++cell)
+            Press(Editor(window.list), Qt::Key_Tab); // from editor to editor
+        QCOMPARE(counter.count, 0);
     }
 
     void aChangeFromOutsideDiscardsTheEdit()
@@ -187,22 +194,126 @@ private slots:
         QCOMPARE(Shown(&list), "1"); // keeps its look
     }
 
+    void aNewRowIsStoredWhenItIsComplete()
+    {
+        DoubleListValue* value = MakeList("1e6;2e6;7e6;8e6");
+        const ListWindow window(2, 0, 5, true, megahertz);
+        Counter counter;
+        value->Attach(&counter);
+        window.list->setCurrentCell(0, 0);
+        Press(window.list, Qt::Key_Insert);
+        QCOMPARE(window.list->currentRow(), 2); // a sorted list takes it at its end
+        Press(window.list, Qt::Key_Insert);
+        QCOMPARE(window.list->rowCount(), 3);
+        TypeAndLeave(window.list, "5"); // on to the cell that is missing
+        QCOMPARE(counter.count, 0);
+        TypeAndLeave(window.list, "x"); // refused: it is still missing
+        Editor(window.list)->selectAll();
+        TypeAndLeave(window.list, "4");
+        QCOMPARE(value->GetStoredText(), "1000000;2000000;4000000;5000000;7000000;8000000");
+        QCOMPARE(window.list->currentRow(), 1);
+        QCOMPARE(counter.count, 1);
+    }
+
+    void aNewRowOfAnUnsortedListComesBelowTheCurrentOne()
+    {
+        DoubleListValue* value = MakeList("3e6;1e6");
+        const ListWindow window(1, 0, 3, false, megahertz);
+        window.list->setCurrentCell(0, 0);
+        QCOMPARE(OpenMenu(window.list)[0]->text(), "&New row");
+        OpenMenu(window.list)[0]->trigger();
+        TypeAndLeave(window.list, "2", Qt::Key_Tab);
+        QCOMPARE(value->GetStoredText(), "3000000;2000000;1000000");
+        QCOMPARE(window.list->currentRow(), 2);
+        Press(Editor(window.list), Qt::Key_Escape);
+        Press(window.list, Qt::Key_Insert); // no room
+        QCOMPARE(window.list->rowCount(), 3);
+        QVERIFY(!OpenMenu(window.list)[0]->isEnabled());
+    }
+
+    void anIncompleteRowIsDropped_data()
+    {
+        QTest::addColumn<Way>("way");
+        const auto add = [](const char* name, const Way& way) { QTest::newRow(name) << way; };
+        add("Escape", [](const ListWindow& window) { Press(Editor(window.list), Qt::Key_Escape); });
+        add("another row", [](const ListWindow& window) { TypeAndLeave(window.list, "x", Qt::Key_Up); });
+        add("another field",
+            [](const ListWindow& window)
+            {
+                Editor(window.list)->clear();
+                window.other->setFocus();
+            });
+        add("change from outside",
+            [](const ListWindow& window) { window.list->GetBoundValue()->SetStoredText("1000000;3000000"); });
+        add("disabled", [](const ListWindow& window) { window.list->GetBoundValue()->SetState(stDisabled); });
+    }
+    void anIncompleteRowIsDropped()
+    {
+        QFETCH(Way, way);
+        DoubleListValue* value = MakeList("1e6;2e6");
+        const ListWindow window(2, 0, 5, true, megahertz);
+        Press(window.list, Qt::Key_Insert);
+        TypeAndLeave(window.list, "5", Qt::Key_Tab);
+        QCOMPARE(window.list->rowCount(), 2);
+        QTest::keyClicks(Editor(window.list), "6");
+        way(window);
+        QCOMPARE(window.list->rowCount(), 1);
+        QCOMPARE(value->GetValue().size(), 2);
+        QVERIFY(!Editor(window.list));
+    }
+
+    void rowsAreDeletedDownToTheLeastNumber()
+    {
+        DoubleListValue* value = MakeList("3e6;1e6;2e6");
+        const ListWindow window(1, 2, 5, false, megahertz);
+        window.list->setCurrentIndex({});
+        QVERIFY(!OpenMenu(window.list)[1]->isEnabled());
+        Press(window.list, Qt::Key_Delete);
+        Press(Type(window.list, 1, 0, "1"), Qt::Key_Delete); // in the editor: a character
+        Press(Editor(window.list), Qt::Key_Escape);
+        QCOMPARE(window.list->rowCount(), 3);
+        QVERIFY(OpenMenu(window.list)[1]->isEnabled());
+        for (int i = 0; i < 2; ++i)
+        {
+            Press(window.list, Qt::Key_Delete);
+            QCOMPARE(value->GetStoredText(), "3000000;2000000");
+            QCOMPARE(window.list->currentRow(), 1);
+        }
+        QCOMPARE(OpenMenu(window.list)[1]->text(), "&Delete row");
+        QVERIFY(!OpenMenu(window.list)[1]->isEnabled());
+    }
+
+    void rowsAreCopiedAndPasted()
+    {
+        DoubleListValue* value = MakeList("1e6;2.5e6");
+        const ListWindow window(2, 0, 4, true, megahertz);
+        window.list->setCurrentCell(0, 1);
+        Press(window.list, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), "1\t2.5");
+        Paste(window.list, "9\t8\r\n5\nbad\tline\n2000\t4000\n4,5\t4.6\n20\t21\n30\t31\n");
+        QCOMPARE(Shown(window.list), "1-2.5 4.5-4.6 8-9 20-21"); // the first three good lines
+        QCOMPARE(value->GetValue().size(), 8);
+        Counter counter;
+        value->Attach(&counter);
+        Paste(window.list, "nothing\nof use");
+        QCOMPARE(counter.count, 0);
+    }
+
     void whoHearsOfAnEditMayDeleteTheTable_data()
     {
-        QTest::addColumn<int>("opening"); // what opens an editor
-        QTest::addColumn<Way>("edit");
-        const auto add = [](const char* name, int opening, const Way& edit) { QTest::newRow(name) << opening << edit; };
+        // opening: what opens an editor
+        const Table<int, Way> row("opening", "edit");
         const auto press = [](Qt::Key key)
         { return Way([=](const ListWindow&) { Press(QApplication::focusWidget(), key); }); };
-        add("Return", Qt::Key_F2, press(Qt::Key_Return));
-        add("Tab", Qt::Key_F2, press(Qt::Key_Tab));
-        add("Down", Qt::Key_F2, press(Qt::Key_Down));
-        add("another field", Qt::Key_F2, [](const ListWindow& window) { window.other->setFocus(); });
-        add("another window", Qt::Key_F2, [](const ListWindow&) { Window().Open(); });
-        add("new row", Qt::Key_Insert, press(Qt::Key_Return));
-        add("Delete", 0, press(Qt::Key_Delete));
-        add("paste", 0, [](const ListWindow& window) { Paste(window.list, "5"); });
-        add("menu", 0, [](const ListWindow& window) { OpenMenu(window.list)[1]->trigger(); });
+        row("Return", Qt::Key_F2, press(Qt::Key_Return));
+        row("Tab", Qt::Key_F2, press(Qt::Key_Tab));
+        row("Down", Qt::Key_F2, press(Qt::Key_Down));
+        row("another field", Qt::Key_F2, [](const ListWindow& window) { window.other->setFocus(); });
+        row("another window", Qt::Key_F2, [](const ListWindow&) { Window().Open(); });
+        row("new row", Qt::Key_Insert, press(Qt::Key_Return));
+        row("Delete", 0, press(Qt::Key_Delete));
+        row("paste", 0, [](const ListWindow& window) { Paste(window.list, "5"); });
+        row("menu", 0, [](const ListWindow& window) { OpenMenu(window.list)[1]->trigger(); });
     }
     void whoHearsOfAnEditMayDeleteTheTable()
     {

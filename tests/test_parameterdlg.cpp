@@ -1,15 +1,12 @@
 #include "application/arexception.h"
 #include "application/cfgcenter.h"
 #include "configuration.h"
-#include "framework/panelrows.h"
 #include "ipcparam/parameterdlg.h"
 #include "ipcparam/tkeoptions.h"
 #include "keys/keymanager.h"
 #include "value/tree.h"
 #include "valuewidgets/guicentral.h"
 #include "valuewidgets/vccheckbox.h"
-#include "valuewidgets/vccomboboxclassic.h"
-#include "widgets/vccheckablegroupbox.h"
 
 #include <QTest>
 #include <QtWidgets>
@@ -34,22 +31,16 @@ ValueDescriptor Described(ValueKind kind, std::vector<SelectionItem> items = {})
 class OpenPanel : public ParameterDlg
 {
 public:
-    explicit OpenPanel(const QString& path = basePath, bool readOnly = false, bool plainGrid = false)
-        : ParameterDlg(path, nullptr, QStringLiteral("OpenPanel"), readOnly, plainGrid)
+    explicit OpenPanel(bool plainGrid = false)
+        : ParameterDlg(basePath, nullptr, QStringLiteral("OpenPanel"), false, plainGrid)
     {
     }
 
     using ParameterDlg::AddCheckBoxFromVT;
     using ParameterDlg::AddCheckBoxFromVTParent;
-    using ParameterDlg::AddComboFromVT;
-    using ParameterDlg::AddFloatSpinFromVT;
     using ParameterDlg::AddFrequencyFromVT;
-    using ParameterDlg::AddIntSpinFromVT;
     using ParameterDlg::AddLabel;
-    using ParameterDlg::AddLineEditFromVT;
     using ParameterDlg::AddObserver;
-    using ParameterDlg::AddVerticalButtonGroupFromVT;
-    using ParameterDlg::CreateCheckableGroupBoxFromVT;
     using ParameterDlg::DeleteObserver;
     using ParameterDlg::Enable;
     using ParameterDlg::EnableUp;
@@ -185,7 +176,7 @@ private Q_SLOTS:
     {
         for (const bool plain : {false, true})
         {
-            OpenPanel panel(basePath, false, plain);
+            OpenPanel panel(plain);
             panel.SetTitle("Title");
             QCOMPARE(panel.GetTitle(), QString(plain ? "" : "Title"));
             QCOMPARE(panel.layout() == panel.Grid(), plain);
@@ -228,36 +219,6 @@ private Q_SLOTS:
         QCOMPARE(box->objectName(), QString("FLAG"));
     }
 
-    void aReadOnlyPanelStaysDisabledWhateverTheValueSays()
-    {
-        Tree& tree = *Tree::Instance();
-        tree.CreateValue<BoolValue>(basePath + "BOOL");
-        tree.CreateValue<IntValue>(basePath + "INT");
-        tree.CreateValue<DoubleValue>(basePath + "DOUBLE");
-        tree.CreateValue<FrequencyValue>(basePath + "FREQUENCY");
-        tree.CreateValue<TextValue>(basePath + "TEXT");
-        const ValueDescriptor choice = Described(ValueKind::Selection, {{0, "Off"}, {1, "On"}});
-        tree.CreateValue(basePath + "CHOICE", choice);
-        OpenPanel panel(basePath, true);
-        QGridLayout* grid = panel.Grid();
-        panel.AddCheckBoxFromVT(grid, 0, 0, 1, 1, "BOOL", "b", false);
-        panel.AddIntSpinFromVT(grid, 1, 0, 1, 1, "INT", false, 1.0);
-        panel.AddFloatSpinFromVT(grid, 2, 0, 1, 1, "DOUBLE", 1, false, 1.0);
-        panel.AddFrequencyFromVT(grid, 3, 0, 1, 1, "FREQUENCY", false, false);
-        panel.AddLineEditFromVT(grid, 4, 0, 1, 1, "TEXT", true, false);
-        panel.AddComboFromVT(grid, 5, 0, 1, 1, "CHOICE", false);
-        panel.AddVerticalButtonGroupFromVT(grid, 6, 0, 1, 1, "CHOICE", "t", false);
-        grid->addWidget(panel.CreateCheckableGroupBoxFromVT("BOOL", "title", "", false), 7, 0);
-        panel.show();
-        for (const auto& value : tree.FindNode(basePath)->GetValues())
-        {
-            value->SetState(stDisabled);
-            value->SetState(stEnabled);
-        }
-        for (int row = 0; row < 8; ++row)
-            QVERIFY2(!grid->itemAtPosition(row, 0)->widget()->isEnabled(), qPrintable(QString::number(row)));
-    }
-
     void theFrequencyUnitSuitsTheValue()
     {
         auto* value = Tree::Instance()->CreateValue<FrequencyValue>(basePath + "F");
@@ -270,17 +231,6 @@ private Q_SLOTS:
             panel.AddFrequencyFromVT(panel.Grid(), 1, 0, 1, 1, "NONE", true, false); // has no say
             QCOMPARE(int(GuiCentral::Instance().GetFrequencyUnit()), unit);
         }
-    }
-
-    void aRowsLabelIsItsWidgetsBuddy()
-    {
-        Tree::Instance()->CreateValue<IntValue>(basePath + "INT");
-        OpenPanel panel;
-        PanelRows(panel, *panel.Grid()).IntSpin({1, 4, 1, 2}, "Replay :", "INT", "Hz");
-        const auto at = [&](int column) { return panel.Grid()->itemAtPosition(1, column)->widget(); };
-        QCOMPARE(qobject_cast<QLabel*>(at(4))->buddy(), at(6));
-        QCOMPARE(at(5), at(4));
-        QCOMPARE(qobject_cast<QLabel*>(at(7))->text(), QString("Hz"));
     }
 
     void hiddenPanelsThatShareAnswerWithTheSizeOfTheirLike()
@@ -367,8 +317,8 @@ private Q_SLOTS:
         };
         // The slots that single resources answer, the last two of them without switches only.
         const std::map<int, QList<int>> slotsOf{{5, {2, 4, 11}}, {8, {9, 12}}, {10, {7}}, {13, {6, 8}},
-                                             {18, {3, 5}},    {20, {}},     {34, {1}}, {38, {0, 2, 11}},
-                                             {39, {2, 11}},   {41, {0}}};
+                                                {18, {3, 5}},    {20, {}},     {34, {1}}, {38, {0, 2, 11}},
+                                                {39, {2, 11}},   {41, {0}}};
         for (const auto& [resource, slotNumbers] : slotsOf)
         {
             AvailableResources resources;

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "widgetfixture.h"
 #include "widgets/vccheckablegroupbox.h"
 #include "widgets/vcdateperiod.h"
@@ -49,25 +50,6 @@ class TestPeriodWidgets : public QObject
 
 private slots:
     void cleanup() { CleanUp(); }
-
-    void aGroupBoxFollowsTheStateOfItsValueUnlessLocked()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "false");
-        value->SetState(stDisabled);
-        VCCheckableGroupBox box(nullptr, "Box", "Tip");
-        QVERIFY(!box.isEnabled() && box.isCheckable());
-        QVERIFY(box.SetValue(value));
-        QVERIFY(!box.isEnabled());
-        value->SetState(stEnabled);
-        QVERIFY(box.isEnabled());
-        value->SetState(stDisabled);
-        QVERIFY(!box.isEnabled());
-        box.Lock();
-        value->SetState(stEnabled);
-        QVERIFY(!box.isEnabled());
-        value->SetBool(true);
-        QVERIFY(box.isChecked());
-    }
 
     void aGroupBoxTakesBooleansAndSelectionsOnly()
     {
@@ -122,40 +104,12 @@ private slots:
         QCOMPARE(value->GetStoredText(), QString("1"));
     }
 
-    void aGroupBoxForgetsAReleasedValue()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "true");
-        VCCheckableGroupBox box(nullptr, "Box", {});
-        box.SetValue(value);
-        value->SetState(stReleased);
-        value->SetState(stDisabled);
-        value->SetBool(false);
-        QVERIFY(box.isChecked() && box.isEnabled()); // it keeps its look
-        box.SetValue(value);
-        Tree::Instance()->Clear();
-        box.setChecked(!box.isChecked());
-    }
-
-    void aGroupBoxMayBeDeletedByItsOwnWrite()
-    {
-        ValueBase* value = Make(path, ValueKind::Bool, "false");
-        QPointer<VCCheckableGroupBox> box(new VCCheckableGroupBox(nullptr, "Box", {}));
-        box->setTitle("Title");
-        box->SetValue(value);
-        Counter rebuild([&] { delete box; });
-        value->Attach(&rebuild);
-        Open(*box);
-        QTest::mouseClick(box, Qt::LeftButton, {}, {10, 8});
-        QVERIFY(!box && value->GetBool());
-    }
-
     void aPeriodNeedsBothValues_data()
     {
-        QTest::addColumn<bool>("start");
-        QTest::addColumn<bool>("stop");
-        QTest::newRow("no start") << false << true;
-        QTest::newRow("no stop") << true << false;
-        QTest::newRow("neither") << false << false;
+        const Table<bool, bool> row("start", "stop");
+        row("no start", false, true);
+        row("no stop", true, false);
+        row("neither", false, false);
     }
     void aPeriodNeedsBothValues()
     {

@@ -1,18 +1,11 @@
-#include "jobedit/dialogpane.h"
+#include "editorfixture.h"
 #include "jobedit/longwork.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/messagelist.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/panelwindow.h"
-#include "jobedit/recentfiles.h"
 #include "valuewidgets/vclabel.h"
 
-#include <QtTest>
-#include <QtWidgets>
 #include <set>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
@@ -71,16 +64,17 @@ class TestPseudoTranslation : public QObject
     Q_OBJECT
 
     PseudoTranslator m_translator;
-    QTemporaryDir m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
     std::set<QString> m_exceptions;
     QStringList m_unmarked;
     QStringList m_clipped;
 
+    MainWindow& Window() { return m_desk->window; }
+
     /// Texts that are not translated, and why.
     void CollectExceptions()
     {
-        for (const auto& group : m_window->Document().ConfiguredModel()->GetGroups())
+        for (const auto& group : Window().Document().ConfiguredModel()->GetGroups())
             for (const auto& parameter : group->GetParameters())
             {
                 // The job model is data: whoever writes it chooses its language.
@@ -91,7 +85,7 @@ class TestPseudoTranslation : public QObject
             }
         // Labels too, but for two the panels have texts of their own.
         m_exceptions.merge(std::set<QString>{"Use Hoprate for Matching", R"(Bandwidth (Min\Nominal\Max))"});
-        for (const JobNode& node : m_window->Nodes().GetNodes()) // what the job calls its nodes
+        for (const JobNode& node : Window().Nodes().GetNodes()) // what the job calls its nodes
             m_exceptions.merge(std::set<QString>{node.name, node.path, node.type});
         m_exceptions.merge(
             std::set<QString>{"Hz", "kHz", "MHz", "GHz", "dB", "dBm", "ms", "Bd"}); // the same in all languages
@@ -170,54 +164,37 @@ class TestPseudoTranslation : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QLocale::setDefault(QLocale::C);
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_directory.path());
-        QCoreApplication::installTranslator(&m_translator);
-    }
-
+    void initTestCase() { QCoreApplication::installTranslator(&m_translator); }
     void init()
     {
         m_unmarked.clear();
         m_clipped.clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
+        m_desk.emplace();
         CollectExceptions();
     }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
-
+    void cleanup() { m_desk.reset(); }
     void cleanupTestCase() { QCoreApplication::removeTranslator(&m_translator); }
 
     void everyTextOfTheWindowIsTranslatedAndFits()
     {
-        for (QMenu* menu : m_window->findChildren<QMenu*>())
+        for (QMenu* menu : Window().findChildren<QMenu*>())
             emit menu->aboutToShow();
-        for (QDockWidget* dock : m_window->findChildren<QDockWidget*>())
+        for (QDockWidget* dock : Window().findChildren<QDockWidget*>())
             dock->show();
-        m_window->OfferHint();
-        LongWork work("‹Long work›", m_window.get());
+        Window().OfferHint();
+        LongWork work("‹Long work›", &Window());
         QTest::qWait(LongWork::ShownAfterMs + 20);
         QVERIFY(work.Progress(1, 2));
-        QVERIFY(m_window->findChild<QFrame*>("longWork"));
-        CheckAll("window", *m_window);
-        CheckFit("window", *m_window);
-        Check("window", "title", m_window->windowTitle());
+        QVERIFY(Window().findChild<QFrame*>("longWork"));
+        CheckAll("window", Window());
+        CheckFit("window", Window());
+        Check("window", "title", Window().windowTitle());
         Verdict();
     }
 
     void everyQuestionIsTranslatedAndFits()
     {
-        const QString file = m_directory.filePath("a.job.xml");
+        const QString file = m_desk->File("a.job.xml");
         for (const QString& name : {file, QString("nowhere.xml"), QString("/nowhere/a.xml")})
             m_exceptions.insert(QFileInfo(name).absoluteFilePath() + ":"); // where a reason follows
         int asked = 0;
@@ -235,21 +212,14 @@ private Q_SLOTS:
                 dialog->reject();
             });
         user.start(10);
-        const auto change = []
-        {
-            ValueBase* value = Tree::Instance()->FindValue(u"/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY");
-            QVERIFY(value->SetStoredText("7100000"));
-        };
-        QVERIFY(m_window->SaveTo(file));
-        QVERIFY(!m_window->OpenFile("nowhere.xml")); // not to be read
-        change();
-        QVERIFY(!m_window->NewFromSample()); // not saved
-        QFile other(file);
-        QVERIFY(other.open(QIODevice::Append) && other.write(" ") == 1);
-        other.close();
-        QVERIFY(!m_window->Save());                   // changed by somebody else
-        QVERIFY(!m_window->SaveTo("/nowhere/a.xml")); // not to be written
-        for (QAction* action : m_window->findChildren<QAction*>())
+        QVERIFY(Window().SaveTo(file));
+        QVERIFY(!Window().OpenFile("nowhere.xml")); // not to be read
+        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
+        QVERIFY(!Window().NewFromSample()); // not saved
+        WriteAll(file, ReadAll(file) + ' ');
+        QVERIFY(!Window().Save());                   // changed by somebody else
+        QVERIFY(!Window().SaveTo("/nowhere/a.xml")); // not to be written
+        for (QAction* action : Window().findChildren<QAction*>())
             if (action->text().contains("About"))
                 action->trigger();
         QCOMPARE(asked, 5);
@@ -267,7 +237,7 @@ private Q_SLOTS:
         QFETCH(Form, form);
         int shown = 0;
         std::set<QString> seen;
-        for (const JobNode& node : m_window->Nodes().GetNodes())
+        for (const JobNode& node : Window().Nodes().GetNodes())
         {
             const std::unique_ptr<QTabWidget> dialog = MakeDialog(node, form, nullptr);
             if (!dialog || !seen.insert(node.type + QString::number(int(node.band))).second)
@@ -291,10 +261,10 @@ private Q_SLOTS:
 
     void everyPanelWindowIsTranslatedAndFits()
     {
-        for (const JobNode& node : m_window->Nodes().GetNodes())
+        for (const JobNode& node : Window().Nodes().GetNodes())
             for (const DirectPanel* panel : FindDirectPanels(node))
             {
-                auto* window = new PanelWindow(node, *panel, m_window.get());
+                auto* window = new PanelWindow(node, *panel, &Window());
                 window->show();
                 QCoreApplication::processEvents();
                 m_exceptions.insert(node.path + " -"); // the title names the node

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/alarmconditionsspdlg.h"
 #include "ipcparam/autorecordingdlg.h"
@@ -92,106 +93,39 @@ private Q_SLOTS:
         KeyManager::Instance()->Clear();
     }
 
-    void everyEditorIsBoundToTheOneValueThatTheModelPutsThere_data() { AddKinds(); }
-    void everyEditorIsBoundToTheOneValueThatTheModelPutsThere()
+    void aReadOnlyPanelThatIsOpenedDirectlyStaysDisabledWhateverTheValuesSay_data()
     {
-        QFETCH(const PanelKind*, kind);
-        MapAndFill(*kind);
-        const PanelPtr panel = kind->make(false);
-        for (const auto& parameter : ParametersOf(*kind))
-        {
-            const QString key = parameter->GetUniqueParameterName();
-            const auto widgets = panel->findChildren<QWidget*>(key);
-            QVERIFY2(widgets.size() == (key == AUTORECORDING_RECORDRESULTS ? 0 : 1), qPrintable(key));
-            if (widgets.isEmpty())
-                continue;
-            const bool isMapped = parameter->GetPlace() == JOBXMLGENERATOR::Place::Mapped;
-            ValueBase* bound = Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? fullName : QString()) + key);
-            bound->SetState(stEnabled); // some values are disabled by their panel
-            Tree::Instance()->FindValue(kind->valuesAt + (isMapped ? QString() : fullName) + key)->SetState(stDisabled);
-            QVERIFY2(widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
-            bound->SetState(stDisabled);
-            QVERIFY2(!widgets.first()->isEnabledTo(panel.get()), qPrintable(key));
-        }
+        AddKinds({&profile, &profileHeader});
     }
-
-    void viewingAPanelWithAndWithoutValuesWritesNothingAndItOutlivesThem_data() { AddKinds(); }
-    void viewingAPanelWithAndWithoutValuesWritesNothingAndItOutlivesThem()
-    {
-        QFETCH(const PanelKind*, kind);
-        const PanelPtr unbound = kind->make(false);
-        Fill(kind->group, kind->valuesAt);
-        StartJournal();
-        const PanelPtr bound = kind->make(false);
-        for (ParameterDlg* panel : {bound.get(), unbound.get()})
-        {
-            panel->show();
-            QVERIFY(QTest::qWaitForWindowActive(panel));
-            for (int i = 0; i < 40; ++i)
-                QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : panel, Qt::Key_Tab);
-            QCOMPARE(m_written, QStringList());
-            Tree::Instance()->Clear();
-        }
-        bound->grab(); // while its values are gone
-    }
-
-    void aReadOnlyPanelStaysDisabledWhateverTheValuesSay_data()
-    {
-        AddKinds({&autoRecording, &activity, &profile, &profileHeader});
-    }
-    void aReadOnlyPanelStaysDisabledWhateverTheValuesSay()
+    void aReadOnlyPanelThatIsOpenedDirectlyStaysDisabledWhateverTheValuesSay()
     {
         QFETCH(const PanelKind*, kind);
         Fill(kind->group, kind->valuesAt);
         const PanelPtr panel = kind->make(true);
         for (const auto& parameter : ParametersOf(*kind))
         {
-            const QString key = parameter->GetUniqueParameterName();
-            ValueBase* value = Tree::Instance()->FindValue(kind->valuesAt + key);
+            ValueBase* value = ValueOf(parameter->GetUniqueParameterName());
             value->SetState(stDisabled);
             value->SetState(stEnabled);
-            if (const auto* widget = panel->findChild<QWidget*>(key))
-                QVERIFY2(!widget->isEnabledTo(panel.get()), qPrintable(key));
+            if (const auto* widget = panel->findChild<QWidget*>(value->GetName()))
+                QVERIFY2(!widget->isEnabledTo(panel.get()), qPrintable(value->GetName()));
         }
-        if (const auto* button = panel->findChild<QWidget*>(AUTORECORDING_RECORD_ALL)) // no value is behind it
-            QVERIFY(button->isEnabledTo(panel.get()));
+        const PanelPtr buttons = autoRecording.make(true); // no value is behind a button
+        QVERIFY(buttons->findChild<QWidget*>(AUTORECORDING_RECORD_ALL)->isEnabledTo(buttons.get()));
     }
 
-    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost_data() { AddKinds(); }
-    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost()
+    void aPanelHasRoomAtTheSizeOfTheHost_data() { AddKinds(); }
+    void aPanelHasRoomAtTheSizeOfTheHost()
     {
         QFETCH(const PanelKind*, kind);
         Fill(kind->group, kind->valuesAt);
         const PanelPtr panel = kind->make(false);
         panel->resize(775, 480);
         panel->show();
-        QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
         QCOMPARE(panel->size(), QSize(775, 480)); // a window cannot be smaller than its layout needs
-        QSet<QWidget*> buddies;
         for (const QLabel* label : panel->findChildren<QLabel*>())
-        {
-            buddies.insert(label->buddy());
             QVERIFY2(!label->wordWrap() || label->height() >= label->heightForWidth(label->width()),
                      qPrintable(label->text()));
-        }
-        for (const auto& parameter : ParametersOf(*kind))
-        {
-            auto* widget = panel->findChild<QWidget*>(parameter->GetUniqueParameterName());
-            const auto* box = qobject_cast<QCheckBox*>(widget);
-            QVERIFY2(!widget || buddies.contains(widget) || !widget->accessibleName().isEmpty() ||
-                         (box && !box->text().isEmpty()),
-                     qPrintable(parameter->GetUniqueParameterName()));
-        }
-    }
-
-    void theReducedFormOffersTheResultsAndNoButton()
-    {
-        Fill(autoRecording.group);
-        const AutoRecordingDlg panel(basePath, nullptr, true, false);
-        QTest::keyClick(panel.findChild<QCheckBox*>(), Qt::Key_Space);
-        QVERIFY(ValueOf(AUTORECORDING_RECORDRESULTS)->GetBool());
-        QCOMPARE(BoundNames(panel), QSet<QString>{AUTORECORDING_RECORDRESULTS});
-        QVERIFY(panel.findChildren<QPushButton*>().isEmpty());
     }
 
     void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data()
@@ -230,45 +164,6 @@ private Q_SLOTS:
         QVERIFY(!panel);
         QVERIFY(ValueOf(AUTORECORDING_BITSTREAM)->GetBool());
         QVERIFY(!ValueOf(AUTORECORDING_FAX)->GetBool());
-    }
-
-    void theFlagsChooseTheGroupsOfActivityGeneration_data()
-    {
-        QTest::addColumn<bool>("energy");
-        QTest::addColumn<bool>("level");
-        QTest::addColumn<bool>("conventional");
-        QTest::addColumn<QString>("groups"); // with the place of each
-        QTest::newRow("none") << false << false << false << "Database 0,1";
-        QTest::newRow("level") << false << true << true << "Level 0,0; Session 0,1; Database 1,1";
-        QTest::newRow("energy") << true << false << true
-                                << "Energy 0,0; Session 0,1; DDem 1,0; Database 1,1; Classifier 2,0";
-        QTest::newRow("both") << true << true << false
-                              << "Level 0,0; Session 0,1; Energy 1,0; Database 1,1; DDem 2,0; Classifier 3,0";
-    }
-    void theFlagsChooseTheGroupsOfActivityGeneration()
-    {
-        QFETCH(bool, energy);
-        QFETCH(bool, level);
-        QFETCH(bool, conventional);
-        QFETCH(QString, groups);
-        Fill(activity.group, node);
-        const ActivityGenerationDlg panel(basePath, nullptr, energy, level, conventional, false);
-        const Grid grid(panel);
-        QStringList titles;
-        for (int cell = 0; cell < 8; ++cell)
-        {
-            if (const auto* box = qobject_cast<QGroupBox*>(grid.At(cell / 2, cell % 2)))
-                titles.append(QStringLiteral("%1 %2,%3").arg(box->title()).arg(cell / 2).arg(cell % 2));
-        }
-        QCOMPARE(titles.join(QStringLiteral("; ")), groups);
-        QCOMPARE(panel.findChildren<QWidget*>(SessionCloseTime).size(), 1);
-        QCOMPARE(panel.findChild<QWidget*>(DbWriteClass) != nullptr, energy);
-
-        const auto* detection = panel.findChild<QWidget*>(DetConvMinBurstDuration);
-        QCOMPARE(detection != nullptr, conventional);
-        // Its group is a child of the panel outside of all layouts.
-        QVERIFY(!detection || detection->parentWidget()->parentWidget() == &panel);
-        QVERIFY(!detection || panel.layout()->indexOf(detection->parentWidget()) == -1);
     }
 
     void aProfileDisablesWhatIsShownOnlyAndNothingElse()

@@ -1,21 +1,17 @@
 #include "application/translationcenter.h"
+#include "editorfixture.h"
 #include "jobedit/chains.h"
 #include "jobedit/chaintitles.h"
-#include "jobedit/mainwindow.h"
 #include "jobedit/report.h"
 #include "jobedit/reportactions.h"
+#include "common.h"
 
-#include <QTest>
 #include <QXmlStreamReader>
-#include <QtWidgets>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
 
 /// What a reader sees of a report.
 struct Document
@@ -88,10 +84,10 @@ class TestReport : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
+    std::optional<Surroundings> m_place;
     std::unique_ptr<JobDocument> m_document;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
+    QString File(const QString& name) const { return m_place->File(name); }
     void Set(const QString& path, const QString& stored)
     {
         ValueBase* value = Tree::Instance()->FindValue(path);
@@ -106,26 +102,17 @@ class TestReport : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("report");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
+        m_place.emplace();
         m_document = std::make_unique<JobDocument>(JobModel::Load());
         FileError error;
         QVERIFY(m_document->NewFromSample(error));
     }
-
     void cleanup()
     {
         m_document.reset();
-        Tree::Instance()->Clear();
+        m_place.reset();
     }
 
     void everyValueOfTheJobIsInTheHtml()
@@ -134,46 +121,31 @@ private Q_SLOTS:
         QVERIFY2(html.fault.isEmpty(), qPrintable(html.fault));
         QVERIFY(!html.reachesOutside);
         QVERIFY(html.links.size() > 50 && (html.links - html.ids).isEmpty());
-        QFile file(File("report.html"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll().count("<td class=\"k\">"), qsizetype(Tree::Instance()->ValueCount()));
+        QCOMPARE(ReadAll(File("report.html")).count("<td class=\"k\">"), qsizetype(Tree::Instance()->ValueCount()));
         QVERIFY(html.text.contains("Monitoring of HF and V/UHF channels"));
         QVERIFY(!m_document->IsModified());
     }
 
     void contentsAreShownAsPeopleReadThem_data()
     {
-        QTest::addColumn<QString>("value"); // below the job
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QStringList>("cells"); // without the key
+        // value: below the job; cells: without the key
+        const Table<QString, QString, QStringList> row("value", "stored", "cells");
         const QString on = "\u25cf";
         const QString tuner = "TDS_HF1/CS_TUNER/TUNER/";
-        QTest::newRow("frequency") << tuner + "TUNER_HF_NB_FREQUENCY"
-                                   << "7040500" << QStringList{on, "Frequency", "7.0405|default: 10 MHz", "MHz"};
-        QTest::newRow("selection") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
-                                   << "4" << QStringList{on, "Demodulation", "CW|default: USB", ""};
-        QTest::newRow("selection with a unit") << tuner + "TUNER_HF_NB_AGCDECAY"
-                                               << "50" << QStringList{on, "Decay", "50|default: 500 ms", "ms"};
-        QTest::newRow("unknown key") << tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD"
-                                     << "77" << QStringList{on, "Demodulation", "77|default: USB", ""};
-        QTest::newRow("several keys")
-            << "JOB_RESOURCES"
-            << "1;5"
-            << QStringList{on, "Resources",
-                           "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""};
-        QTest::newRow("list of frequencies")
-            << tuner + "SCAN_SEQ_EXCL_FREQ_RANGE"
-            << "3000000;3000100"
-            << QStringList{on, "Excluded ranges", "3 MHz; 3.0001 MHz|default: empty", ""};
-        QTest::newRow("switch") << tuner + "SCAN_STATUS"
-                                << "true" << QStringList{on, "Scan On/Off", "on|default: off", ""};
-        QTest::newRow("emptied text") << "JOB_AUTHOR"
-                                      << "" << QStringList{on, "Author", "|default: Operator 1", ""};
-        QTest::newRow("as by default") << "JOB_AUTHOR"
-                                       << "Operator 1" << QStringList{"", "Author", "Operator 1", ""};
-        QTest::newRow("label with a colon and a unit of the panel")
-            << "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency"
-            << "10010000" << QStringList{"", "Emitter2, Frequency", "10.01", "MHz"};
+        row("frequency", tuner + "TUNER_HF_NB_FREQUENCY", "7040500",
+            {on, "Frequency", "7.0405|default: 10 MHz", "MHz"});
+        row("selection", tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD", "4", {on, "Demodulation", "CW|default: USB", ""});
+        row("selection with a unit", tuner + "TUNER_HF_NB_AGCDECAY", "50", {on, "Decay", "50|default: 500 ms", "ms"});
+        row("unknown key", tuner + "TUNER_HF_NB_ANALOGDEMOD_METHOD", "77", {on, "Demodulation", "77|default: USB", ""});
+        row("several keys", "JOB_RESOURCES", "1;5",
+            {on, "Resources", "HF receiver 1, HF wideband tuner|default: HF receiver 1, V/UHF receiver 1", ""});
+        row("list of frequencies", tuner + "SCAN_SEQ_EXCL_FREQ_RANGE", "3000000;3000100",
+            {on, "Excluded ranges", "3 MHz; 3.0001 MHz|default: empty", ""});
+        row("switch", tuner + "SCAN_STATUS", "true", {on, "Scan On/Off", "on|default: off", ""});
+        row("emptied text", "JOB_AUTHOR", "", {on, "Author", "|default: Operator 1", ""});
+        row("as by default", "JOB_AUTHOR", "Operator 1", {"", "Author", "Operator 1", ""});
+        row("label with a colon and a unit of the panel", "TDS_EXC/CS_SIM/SIMULATION/Emitter2/EmitterFrequency",
+            "10010000", {"", "Emitter2, Frequency", "10.01", "MHz"});
     }
     void contentsAreShownAsPeopleReadThem()
     {
@@ -249,8 +221,7 @@ private Q_SLOTS:
         QVERIFY(WriteReport(*m_document, File("changes.pdf"), {.onlyChanges = true}, {}, error));
         const auto pages = [&](const QString& name)
         {
-            QFile file(File(name));
-            const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            const QByteArray bytes = ReadAll(File(name));
             return bytes.startsWith("%PDF-") && bytes.trimmed().endsWith("%%EOF") ? bytes.count("/Type /Page\n") : -1;
         };
         QVERIFY2(pages("all.pdf") > 30, qPrintable(QString::number(pages("all.pdf"))));
@@ -280,9 +251,7 @@ private Q_SLOTS:
         FileError error;
         Set("/Jobs/Demo/JOB_AUTHOR", QString("word ").repeated(10000));
         QVERIFY(WriteReport(*m_document, File("long.pdf"), {.onlyChanges = true}, {}, error));
-        QFile file(File("long.pdf"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().count("/Type /Page\n") > 10);
+        QVERIFY(ReadAll(File("long.pdf")).count("/Type /Page\n") > 10);
     }
 
     void progressGrowsAndCancelLeavesTheFile_data()
@@ -294,18 +263,14 @@ private Q_SLOTS:
     void progressGrowsAndCancelLeavesTheFile()
     {
         QFETCH(QString, name);
-        QFile there(File(name));
-        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
-        there.close();
+        WriteAll(File(name), "kept");
         FileError error;
         int calls = 0;
         const auto cancel = [&](qint64, qint64) { return ++calls < 2; };
         QVERIFY(!WriteReport(*m_document, File(name), {}, cancel, error));
         QCOMPARE(calls, 2);
         QVERIFY(error.reason.isEmpty());
-        QVERIFY(there.open(QIODevice::ReadOnly));
-        QCOMPARE(there.readAll(), QByteArray("kept"));
-        there.close();
+        QCOMPARE(ReadAll(File(name)), QByteArray("kept"));
 
         qint64 last = 0;
         const auto follow = [&](qint64 done, qint64 all)
@@ -337,27 +302,17 @@ private Q_SLOTS:
     void theMenuOffersTheReport()
     {
         m_document.reset();
-        Tree::Instance()->Clear();
-        {
-            MainWindow window(JobModel::Load());
-            window.show();
-            QVERIFY(QTest::qWaitForWindowActive(&window));
-            QVERIFY(window.NewFromSample());
-            bool asked = false;
-            QTimer::singleShot(0, &window,
-                               [&]
-                               {
-                                   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-                                   asked = dialog && dialog->objectName() == "reportDialog";
-                                   if (dialog)
-                                       QTest::keyClick(dialog, Qt::Key_Escape);
-                               });
-            QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
-            QVERIFY(asked);
-            QVERIFY(window.findChild<ReportActions*>()->WriteTo(File("window.pdf"), {.onlyChanges = true}));
-            QVERIFY(QFile::exists(File("window.pdf")));
-        }
-        Tree::Instance()->Clear();
+        Desk desk;
+        const Next escape(
+            [](QDialog& dialog)
+            {
+                QCOMPARE(dialog.objectName(), "reportDialog");
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            });
+        desk.Press(Qt::Key_P);
+        QVERIFY(escape.HasActed());
+        QVERIFY(desk.window.findChild<ReportActions*>()->WriteTo(File("window.pdf"), {.onlyChanges = true}));
+        QVERIFY(QFile::exists(File("window.pdf")));
     }
 };
 

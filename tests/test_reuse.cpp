@@ -1,54 +1,18 @@
+#include "editorfixture.h"
 #include "jobedit/addnodedialog.h"
 #include "jobedit/chains.h"
-#include "jobedit/dialogpane.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/messagelist.h"
 #include "jobedit/nodeactions.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/otherjob.h"
 #include "jobedit/presetdialog.h"
 #include "jobedit/reuseactions.h"
-#include "keys/keys.h"
+#include "common.h"
 
-#include <QTest>
-#include <QtWidgets>
-
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
 
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
 const QString vuhfPath = QStringLiteral("/Jobs/Demo/TDS_VUHF1/CS_TUNER/TUNER/");
-
-/// Does this with the next modal dialog.
-class Next : public QObject
-{
-public:
-    explicit Next(std::function<void(QDialog&)> act) : m_act(std::move(act))
-    {
-        m_timer.callOnTimeout(this,
-                              [this]
-                              {
-                                  if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-                                  {
-                                      m_timer.stop();
-                                      const QPointer<QDialog> open(dialog);
-                                      m_act(*dialog);
-                                      if (open && QTest::currentTestFailed())
-                                          open->reject(); // the test goes on
-                                  }
-                              });
-        m_timer.start(10);
-    }
-    bool HasActed() const { return !m_timer.isActive(); }
-
-private:
-    std::function<void(QDialog&)> m_act;
-    QTimer m_timer;
-};
 
 } // namespace
 
@@ -56,60 +20,41 @@ class TestReuse : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
-    static ValueBase* Value(const QString& path) { return Tree::Instance()->FindValue(path); }
-    static QString Text(const QString& path) { return Value(path) ? Value(path)->GetStoredText() : "(missing)"; }
-    QTreeView* NodeView() { return m_window->Nodes().View(); }
-    bool Has(const QString& path) const { return m_window->Document().File().FindNodeSpec(path); }
+    MainWindow& Window() { return m_desk->window; }
+    static ValueBase* Value(const QString& path) { return Editor::Value(path); }
+    static QString Text(const QString& path) { return Editor::Stored(path); }
+    QTreeView* NodeView() { return Window().Nodes().View(); }
+    bool Has(const QString& path) { return Window().Document().File().FindNodeSpec(path); }
     /// Selects these nodes, the first as the current one.
     void Select(const QStringList& paths)
     {
-        m_window->activateWindow(); // a dialog that closes gives it back only on some platforms
-        QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+        Window().activateWindow(); // a dialog that closes gives it back only on some platforms
+        QTRY_COMPARE(QApplication::activeWindow(), &Window());
         for (const QString& path : paths)
-            QVERIFY(m_window->Nodes().SelectNode(path));
+            QVERIFY(Window().Nodes().SelectNode(path));
         QItemSelection selection;
         for (const QString& path : paths)
         {
-            m_window->Nodes().SelectNode(path);
+            Window().Nodes().SelectNode(path);
             selection.select(NodeView()->currentIndex(), NodeView()->currentIndex());
         }
-        m_window->Nodes().SelectNode(paths.first());
+        Window().Nodes().SelectNode(paths.first());
         NodeView()->selectionModel()->select(selection,
                                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         NodeView()->setFocus();
-        QCOMPARE(m_window->Nodes().GetSelectedNodes().size(), size_t(paths.size()));
+        QCOMPARE(Window().Nodes().GetSelectedNodes().size(), size_t(paths.size()));
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-        QLocale::setDefault(QLocale::C);
-    }
-
     void init()
     {
+        m_desk.emplace();
         QDir(QFileInfo(Presets().FileOf("x")).path()).removeRecursively();
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
         QGuiApplication::clipboard()->clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
     }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_desk.reset(); }
 
     void aCopiedChainIsPastedIntoAllSelectedOnesWhereItFits()
     {
@@ -125,10 +70,10 @@ private Q_SLOTS:
         QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(Text(voicePath + key), QString("7040000"));
         QCOMPARE(Text(classifier + key), QString("7040000"));
-        QVERIFY(m_window->Messages().GetText().contains(vuhfPath + key + " was not written"));
-        QVERIFY(!m_window->Messages().GetText().contains(voicePath));
-        QVERIFY(m_window->isWindowModified());
-        m_window->Document().History().Undo();
+        QVERIFY(Window().Messages().GetText().contains(vuhfPath + key + " was not written"));
+        QVERIFY(!Window().Messages().GetText().contains(voicePath));
+        QVERIFY(Window().isWindowModified());
+        Window().Document().History().Undo();
         QCOMPARE(Text(voicePath + key), QString("10000000"));
         QCOMPARE(Text(classifier + key), QString("10000000"));
         QCOMPARE(Text(tunerPath + key), QString("7040000"));
@@ -138,10 +83,10 @@ private Q_SLOTS:
     {
         // What the widgets of a tab write to is what its copy holds: values of the channel set above the chain too.
         QSet<QString> kinds;
-        for (const JobNode& node : std::vector(m_window->Nodes().GetNodes()))
+        for (const JobNode& node : std::vector(Window().Nodes().GetNodes()))
         {
-            m_window->Nodes().SelectNode(node.path);
-            QTabWidget* dialog = m_window->Dialog().GetDialog();
+            Window().Nodes().SelectNode(node.path);
+            QTabWidget* dialog = Window().Dialog().GetDialog();
             for (int tab = 0; dialog && tab < dialog->count(); ++tab)
             {
                 dialog->setCurrentIndex(tab);
@@ -156,7 +101,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(kinds.size(), 2);
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void aTabIsCopiedFromTheDialogAndPastedElsewhere()
@@ -164,16 +109,16 @@ private Q_SLOTS:
         const QString key = Keys::TUNER_HF_NB_FREQUENCY;
         Value(tunerPath + key)->SetStoredText("7040000");
         Select({tunerPath});
-        QTabWidget* dialog = m_window->Dialog().GetDialog();
+        QTabWidget* dialog = Window().Dialog().GetDialog();
         for (int tab = 0; tab < dialog->count(); ++tab)
             if (dialog->currentWidget()->findChild<QWidget*>(key) == nullptr)
                 dialog->setCurrentIndex(tab);
-        QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(&Window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
         const QString text = QGuiApplication::clipboard()->text();
         QVERIFY(text.contains(key));
         QVERIFY(text.count('\n') < int(Tree::Instance()->FindNode(tunerPath)->GetValues().size()));
         Select({voicePath});
-        QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(&Window(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(Text(voicePath + key), QString("7040000"));
     }
 
@@ -190,7 +135,7 @@ private Q_SLOTS:
         Select({data});
         QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(Text(data + "Data/" + key), value->GetStoredText());
-        QVERIFY(!m_window->Messages().GetText().contains("was not written"));
+        QVERIFY(!Window().Messages().GetText().contains("was not written"));
         value->SelectKey(value->GetItems().front().GetKey());
         QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
         Select({plain});
@@ -200,15 +145,14 @@ private Q_SLOTS:
 
     void whatTheClipboardHoldsBesidesIsNotPasted_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("text") << QByteArray("text/plain") << QByteArray("a\tb\n");
+        const Table<QByteArray, QByteArray> row("type", "content");
+        row("text", "text/plain", "a\tb\n");
         const QByteArray own = "application/x-jobedit-parameters";
-        QTest::newRow("damaged") << own << QByteArray("{\"format\":");
-        QTest::newRow("something else") << own << QByteArray("{}");
-        QTest::newRow("newer") << own << QByteArray(R"({"format":"jobedit-parameters","version":2,"values":[]})");
-        QTest::newRow("without content")
-            << own << QByteArray(R"({"format":"jobedit-parameters","version":1,"values":[{"path":"A"}]})");
+        row("damaged", own, "{\"format\":");
+        row("something else", own, "{}");
+        row("newer", own, QByteArray(R"({"format":"jobedit-parameters","version":2,"values":[]})"));
+        row("without content", own,
+            QByteArray(R"({"format":"jobedit-parameters","version":1,"values":[{"path":"A"}]})"));
     }
     void whatTheClipboardHoldsBesidesIsNotPasted()
     {
@@ -219,8 +163,8 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->setMimeData(data);
         Select({voicePath});
         QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
-        QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().statusBar()->currentMessage().isEmpty());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void anItemThatTheTargetLacksIsRefused()
@@ -233,7 +177,7 @@ private Q_SLOTS:
         ParameterSet set;
         set.parameters.push_back({selection->GetName(), "98765", {}, {}});
         const QString before = selection->GetStoredText();
-        const WriteResult result = WriteValues(m_window->Document(), {}, set.ChangesFor(tunerPath));
+        const WriteResult result = WriteValues(Window().Document(), {}, set.ChangesFor(tunerPath));
         QCOMPARE(result.refused.size(), size_t(1));
         QCOMPARE(selection->GetStoredText(), before);
     }
@@ -241,14 +185,11 @@ private Q_SLOTS:
     void aValueThatAnotherOneSetsHoldsWhatWasWritten()
     {
         // The panel of the exciter sets the switches when the mode changes.
-        struct Panel : IObserver
-        {
-            void Update(Observable*, TChangeCode) override { Value(voicePath + "OFFSET")->SetStoredText("0"); }
-        } panel;
+        Hearer panel{[] { Value(voicePath + "OFFSET")->SetStoredText("0"); }};
         auto* offset = Tree::Instance()->CreateValue<IntValue>(QString(voicePath + "OFFSET"));
         auto* mode = Tree::Instance()->CreateValue<IntValue>(QString(voicePath + "MODE"));
         mode->Attach(&panel);
-        WriteValues(m_window->Document(), {}, {{offset->GetPathName(), "5"}, {mode->GetPathName(), "1"}});
+        WriteValues(Window().Document(), {}, {{offset->GetPathName(), "5"}, {mode->GetPathName(), "1"}});
         QCOMPARE(offset->GetValue(), 5);
         QCOMPARE(mode->GetValue(), 1);
     }
@@ -262,8 +203,9 @@ private Q_SLOTS:
     void presetsAreKeptUnderAnyName()
     {
         QFETCH(QString, name);
-        const QStringList before = QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-        Presets presets(File("presets"));
+        const QStringList before =
+            QDir(QFileInfo(m_desk->File("x")).path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        Presets presets(m_desk->File("presets"));
         QVERIFY(presets.NameFault(name).isEmpty());
         QString reason;
         const ParameterSet set{"here", "T", {{"A", "1\n2", "label", "text"}}};
@@ -278,7 +220,8 @@ private Q_SLOTS:
         QVERIFY(!presets.Rename(name, "other", reason));
         QVERIFY(presets.Remove(name, reason));
         QVERIFY(!presets.Load(name, reason));
-        QStringList others = QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QStringList others =
+            QDir(QFileInfo(m_desk->File("x")).path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
         others.removeOne("presets");
         QCOMPARE(others, before);
     }
@@ -295,7 +238,7 @@ private Q_SLOTS:
                     QTest::keyClicks(dialog.findChild<QLineEdit*>("name"), "mine");
                     QTest::keyClick(&dialog, Qt::Key_Return);
                 });
-            for (QAction* action : m_window->EditMenu()->findChild<QMenu*>()->actions())
+            for (QAction* action : Window().EditMenu()->findChild<QMenu*>()->actions())
                 if (action->text().contains("Chain"))
                     return action->trigger();
         };
@@ -304,9 +247,7 @@ private Q_SLOTS:
         save();
         QCOMPARE(Presets().GetNames(), QStringList{"mine"});
 
-        QFile file(Presets().FileOf("mine"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{damaged") > 0);
-        file.close();
+        WriteAll(Presets().FileOf("mine"), "{damaged");
         {
             std::unique_ptr<Next> question;
             QTimer::singleShot(50, this,
@@ -326,16 +267,16 @@ private Q_SLOTS:
         QVERIFY(!Presets().Load("mine", reason));
         {
             Next box([](QDialog& dialog) { dialog.reject(); });
-            m_window->findChild<ReuseActions*>()->ApplyPreset("mine");
+            Window().findChild<ReuseActions*>()->ApplyPreset("mine");
             QVERIFY(box.HasActed());
         }
-        QVERIFY(m_window->Messages().GetText().contains(Presets().FileOf("mine")));
+        QVERIFY(Window().Messages().GetText().contains(Presets().FileOf("mine")));
         QVERIFY(Presets().Remove("mine", reason));
         save();
 
         Select({voicePath});
-        auto* dialog = new PresetDialog(m_window.get());
-        connect(dialog, &PresetDialog::Chosen, m_window->findChild<ReuseActions*>(), &ReuseActions::ApplyPreset);
+        auto* dialog = new PresetDialog(&Window());
+        connect(dialog, &PresetDialog::Chosen, Window().findChild<ReuseActions*>(), &ReuseActions::ApplyPreset);
         dialog->show();
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
         QVERIFY(dialog->findChild<QLabel*>("details")->text().contains(tunerPath));
@@ -345,18 +286,18 @@ private Q_SLOTS:
 
     void aChainOfEveryKindCanBeAddedAndSaved()
     {
-        m_window->Nodes().SelectNode("/Jobs/Demo"); // no dialog that follows
-        const auto kinds = NodeKinds(m_window->Document().GetModel());
+        Window().Nodes().SelectNode("/Jobs/Demo"); // no dialog that follows
+        const auto kinds = NodeKinds(Window().Document().GetModel());
         QSet<const Chain*> chains;
         for (const NodeKind& kind : kinds)
         {
             for (const QString& near : {QString(), tunerPath, vuhfPath})
             {
-                const auto places = PlacesFor(kind, m_window->Document(), near);
+                const auto places = PlacesFor(kind, Window().Document(), near);
                 QVERIFY2(!places.empty(), qPrintable(kind.spec.type));
                 QString reason;
                 const QString name = UniqueNodeName(places[0].ParentPath(), kind.spec.name);
-                const QString path = AddNodeOfKind(m_window->Document(), kind, places[0], name, reason);
+                const QString path = AddNodeOfKind(Window().Document(), kind, places[0], name, reason);
                 QVERIFY2(!path.isEmpty(), qPrintable(kind.spec.type + reason));
                 const JobNode node{path, name, kind.spec.type, kind.spec.band, kind.spec.dataForm};
                 chains << FindChain(node);
@@ -365,8 +306,8 @@ private Q_SLOTS:
         }
         chains.remove(nullptr);
         QCOMPARE(size_t(chains.size()), Chains().size());
-        QVERIFY(m_window->SaveTo(File("all.job.xml")));
-        QVERIFY(JobFile::Check(File("all.job.xml")).isEmpty());
+        QVERIFY(Window().SaveTo(m_desk->File("all.job.xml")));
+        QVERIFY(JobFile::Check(m_desk->File("all.job.xml")).isEmpty());
     }
 
     void aChainIsAddedByKeyboard()
@@ -395,15 +336,15 @@ private Q_SLOTS:
         QTest::keyClick(NodeView(), Qt::Key_Insert);
         QVERIFY(next.HasActed());
         const QString added = "/Jobs/Demo/TDS_HF1/CS_VOICE2/NIGHT/";
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, added);
-        QVERIFY(m_window->Dialog().GetDialog());
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, added);
+        QVERIFY(Window().Dialog().GetDialog());
         // The channel set has the antenna of its kind.
         const auto& antenna = Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues();
         QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" + antenna.front()->GetName()));
-        QVERIFY(m_window->isWindowModified());
-        m_window->Document().History().Undo();
+        QVERIFY(Window().isWindowModified());
+        Window().Document().History().Undo();
         QVERIFY(!Has("/Jobs/Demo/TDS_HF1/CS_VOICE2/"));
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void nodesAreRenamedAndDuplicatedWithAllBelowThem_data()
@@ -436,11 +377,11 @@ private Q_SLOTS:
                 QTest::keyClick(name, Qt::Key_Return);
             });
         if (duplicate)
-            m_window->findChild<NodeActions*>()->Duplicate();
+            Window().findChild<NodeActions*>()->Duplicate();
         else
             QTest::keyClick(NodeView(), Qt::Key_F2);
         QVERIFY(next.HasActed());
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, after);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, after);
         QCOMPARE(Text(after + key), QString("7040000"));
         QCOMPARE(Has(before), duplicate);
         QCOMPARE(Tree::Instance()->FindNode(after)->GetNodes().size(), size_t(1));
@@ -451,7 +392,7 @@ private Q_SLOTS:
         Select({tunerPath});
         QTest::keyClick(NodeView(), Qt::Key_Delete);
         QVERIFY(!Has(tunerPath));
-        QVERIFY(!m_window->Nodes().SelectNode(tunerPath));
+        QVERIFY(!Window().Nodes().SelectNode(tunerPath));
 
         const QStringList both{"/Jobs/Demo/TDS_HF1/CS_VOICE/", voicePath, vuhfPath};
         for (const auto answer : {QMessageBox::No, QMessageBox::Yes})
@@ -468,10 +409,10 @@ private Q_SLOTS:
             for (const QString& path : both)
                 QCOMPARE(Has(path), answer == QMessageBox::No);
         }
-        QVERIFY(!m_window->Nodes().SelectNode(vuhfPath));
-        m_window->Document().History().Undo();
+        QVERIFY(!Window().Nodes().SelectNode(vuhfPath));
+        Window().Document().History().Undo();
         for (const QString& path : both)
-            QVERIFY2(Has(path) && m_window->Nodes().SelectNode(path), qPrintable(path));
+            QVERIFY2(Has(path) && Window().Nodes().SelectNode(path), qPrintable(path));
         Select({"/Jobs/Demo/"});
         QTest::keyClick(NodeView(), Qt::Key_Delete);
         QVERIFY(Has("/Jobs/Demo/"));

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "widgetfixture.h"
 #include "widgets/vclistboxstring.h"
 
@@ -68,17 +69,13 @@ private slots:
 
     void spaceAndClicksToggleLines_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<bool>("multiple");
-        QTest::addColumn<QString>("checked");
-        QTest::newRow("add") << "30" << 0 << "10;30" << true << "ten thirty";
-        QTest::newRow("last one") << "20" << 1 << "" << true << "";
-        QTest::newRow("unknown keys are kept") << "7;10;99" << 1 << "7;10;20;99" << true << "ten twenty";
-        QTest::newRow("one of several") << "10" << 2 << "30" << false << "thirty";
-        QTest::newRow("the one stays") << "10" << 0 << "10" << false << "ten";
-        QTest::newRow("unknown one") << "99" << 1 << "20" << false << "twenty";
+        const Table<QString, int, QString, bool, QString> table("before", "row", "after", "multiple", "checked");
+        table("add", "30", 0, "10;30", true, "ten thirty");
+        table("last one", "20", 1, "", true, "");
+        table("unknown keys are kept", "7;10;99", 1, "7;10;20;99", true, "ten twenty");
+        table("one of several", "10", 2, "30", false, "thirty");
+        table("the one stays", "10", 0, "10", false, "ten");
+        table("unknown one", "99", 1, "20", false, "twenty");
     }
     void spaceAndClicksToggleLines()
     {

@@ -1,9 +1,9 @@
+#include "common.h"
 #include "value/idledisposal.h"
 #include "value/tree.h"
 
 #include <QtTest>
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <random>
 
@@ -23,13 +23,6 @@ using namespace TKE;
 
 namespace
 {
-
-struct Hearer final : IObserver
-{
-    explicit Hearer(std::function<void(Observable*, TChangeCode)> action) : onUpdate(std::move(action)) {}
-    void Update(Observable* source, TChangeCode code) override { onUpdate(source, code); }
-    std::function<void(Observable*, TChangeCode)> onUpdate;
-};
 
 const ValueDescriptor& text = ValueDescriptor::Plain(ValueKind::Text);
 
@@ -59,7 +52,7 @@ private slots:
         for (int i = 0; i < count; ++i)
             values.push_back(m_tree.CreateValue<TextValue>(QString("/A/%1/B/K%2").arg(i % 3).arg(i), text));
         int told = 0;
-        Hearer hearer([&](Observable*, TChangeCode code) { told += code == ccState && m_tree.ValueCount() == 0; });
+        Hearer hearer([&] { told += hearer.codes.back() == ccState && m_tree.ValueCount() == 0; });
         for (ValueBase* value : values)
             value->Attach(&hearer);
         m_tree.ClearLater();
@@ -78,10 +71,7 @@ private slots:
 
     void AValueIsFoundByItsPathAndByNoOther_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("node");
-        const auto row = [](const char* name, const QString& path, const QString& node)
-        { QTest::newRow(name) << path << node; };
+        const Table<QString, QString> row("path", "node");
         row("deep", "/Jobs/Demo/TDS_1/KEY", "/Jobs/Demo/TDS_1");
         row("below the root", "/K", "/");
         row("beside the root, in a node", "JOBMANAGEMENT/IPC_TYPE", "JOBMANAGEMENT");
@@ -216,9 +206,9 @@ private slots:
         std::map<QString, QString> told;
         bool released = true, whole = true;
         Hearer hearer(
-            [&](Observable* source, TChangeCode)
+            [&]
             {
-                auto* value = static_cast<ValueBase*>(source);
+                auto* value = static_cast<ValueBase*>(hearer.source);
                 released = released && value->GetState() == stReleased && !m_tree.FindValue(value->GetPathName());
                 told[value->GetPathName()] = value->GetText();
                 for (const Node* node = value->GetNode(); node; node = node->GetParent())
@@ -263,10 +253,7 @@ private slots:
 
     void WhoHearsOfAnEndMayRemoveMore_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("further");
-        const auto row = [](const char* name, const char* first, const char* further)
-        { QTest::newRow(name) << first << further; };
+        const Table<QString, QString> row("first", "further");
         row("a branch, then one beside it", "/a/b", "/x");
         row("a branch, then the one above it", "/a/b", "/a");
         row("a branch, then all", "/a/b", "");
@@ -278,12 +265,11 @@ private slots:
         QFETCH(QString, first);
         QFETCH(QString, further);
         QStringList told;
-        Hearer remover([&](Observable*, TChangeCode)
-                       { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
+        Hearer remover([&] { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
         Hearer witness(
-            [&](Observable* source, TChangeCode)
+            [&]
             {
-                const auto* value = static_cast<ValueBase*>(source);
+                const auto* value = static_cast<ValueBase*>(witness.source);
                 told += value->GetNode()->GetParent()->GetPathName() + u'|' + value->GetPathName();
             });
         for (const char* path : {"/a/b/K", "/a/b/L", "/a/b/c/M", "/a/N", "/x/y/O"})
@@ -304,21 +290,20 @@ private slots:
         for (const ValueKind kind : {ValueKind::Text, ValueKind::Selection})
         {
             ValueBase* value = m_tree.CreateValue(u"/a/K", ValueDescriptor::Plain(kind));
-            std::vector<int> codes;
-            Hearer remover([&](Observable*, TChangeCode) { m_tree.RemoveBranch(u"/a"); });
-            Hearer later([&](Observable*, TChangeCode code) { codes.push_back(code); });
+            Hearer remover([&] { m_tree.RemoveBranch(u"/a"); });
+            Hearer later;
             value->Attach(&remover);
             value->Attach(&later);
             QVERIFY(value->SetStoredText(QStringLiteral("1")));
             QCOMPARE(m_tree.ValueCount(), size_t(0));
             // The round of the write ended with the value; of its end all were told.
-            QVERIFY(codes == std::vector<int>{ccState});
+            QVERIFY(later.codes == std::vector<int>{ccState});
         }
     }
 
     void ValuesMadeWhileOthersEndStay()
     {
-        Hearer maker([&](Observable*, TChangeCode) { m_tree.CreateValue(u"/a/NEW", text); });
+        Hearer maker([&] { m_tree.CreateValue(u"/a/NEW", text); });
         m_tree.CreateValue(u"/a/OLD", text)->Attach(&maker);
         m_tree.Clear();
         QVERIFY(m_tree.FindValue(u"/a/NEW") && !m_tree.FindValue(u"/a/OLD"));
@@ -327,14 +312,13 @@ private slots:
 
     void ATreeThatDiesReportsTheEndOfItsValues()
     {
-        int ends = 0;
-        Hearer hearer([&](Observable*, TChangeCode) { ++ends; });
+        Hearer hearer;
         {
             Tree tree;
             tree.CreateValue(u"/a/K", text)->Attach(&hearer);
             tree.CreateValue(u"K", text)->Attach(&hearer);
         }
-        QCOMPARE(ends, 2);
+        QCOMPARE(hearer.codes.size(), size_t(2));
     }
 
     void RandomGrowthAndRemovalKeepEveryPathRight_data()

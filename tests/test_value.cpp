@@ -1,26 +1,14 @@
+#include "common.h"
 #include "value/tree.h"
 #include "value/valueobservingptr.h"
 
 #include <QtTest>
-#include <functional>
 #include <limits>
 
 using namespace TKE;
 
 namespace
 {
-
-struct Hearer final : IObserver
-{
-    void Update(Observable*, TChangeCode code) override
-    {
-        codes.push_back(code);
-        if (onUpdate)
-            onUpdate();
-    }
-    std::vector<int> codes;
-    std::function<void()> onUpdate;
-};
 
 ValueDescriptor Ranged(ValueKind kind, double minimum, double maximum)
 {
@@ -71,11 +59,9 @@ private slots:
 
     void TextIsTakenExactlyOrRefused_data()
     {
-        QTest::addColumn<ValueKind>("kind");
-        QTest::addColumn<QStringList>("taken");
-        QTest::addColumn<QStringList>("refused");
-        const auto row = [](ValueKind kind, const char* name, const QStringList& taken, const QStringList& refused)
-        { QTest::newRow(name) << kind << taken << refused; };
+        const Table<ValueKind, QStringList, QStringList> table("kind", "taken", "refused");
+        const auto row = [&](ValueKind kind, const char* name, const QStringList& taken, const QStringList& refused)
+        { table(name, kind, taken, refused); };
         row(ValueKind::Bool, "bool", {"true", "false"}, {"", "True", "1", "yes", "true "});
         row(ValueKind::Int, "int", {"0", "-7", "2147483647", "-2147483648"},
             {"", " 7", "7 ", "+7", "7.0", "1,000", "2147483648", "0x10", "1e3", "٧"});
@@ -155,12 +141,11 @@ private slots:
 
     void AWriteIsToldOnceAndNotToTheWriter_data()
     {
-        QTest::addColumn<ValueDescriptor>("descriptor");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, ValueDescriptor descriptor, const char* initial, const char* text)
+        const Table<ValueDescriptor, QString> table("descriptor", "text");
+        const auto row = [&](const char* name, ValueDescriptor descriptor, const char* initial, const char* text)
         {
             descriptor.defaultText = initial;
-            QTest::newRow(name) << descriptor << text;
+            table(name, descriptor, text);
         };
         row("bool", ValueDescriptor::Plain(ValueKind::Bool), "true", "false");
         row("int", level, "-3", "5");
@@ -228,7 +213,7 @@ private slots:
         QString last;
         const auto let = [&](std::unique_ptr<ValueBase> value, const char* stored)
         {
-            hearer.onUpdate = [&last, watched = value.get()]
+            hearer.act = [&last, watched = value.get()]
             { last = watched->GetPathName() + watched->GetText() + QString::number(watched->GetState()); };
             value->SetStoredText(stored);
             value->Attach(&hearer);
@@ -305,7 +290,7 @@ private slots:
         auto* mainValue = m_tree.CreateValue<IntValue>(u"/N/MAIN", level);
         auto* follower = m_tree.CreateValue<ValueSelection>(u"/N/FOLLOWER", mode);
         Hearer hearer;
-        hearer.onUpdate = [&] { follower->SelectKey(7); };
+        hearer.act = [&] { follower->SelectKey(7); };
         mainValue->Attach(&hearer);
         QStringList seen;
         m_tree.SetJournal(

@@ -1,41 +1,23 @@
-#include "jobedit/dialogpane.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/messagelist.h"
-#include "jobedit/nodepane.h"
+#include "editorfixture.h"
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
-#include "keys/keys.h"
+#include "common.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
-#include <QtWidgets>
 
-using namespace JOBEDIT;
-using namespace TKE;
-
-namespace
-{
-
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString frequencyPath = tunerPath + Keys::TUNER_HF_NB_FREQUENCY;
-
-ValueBase* Find(const QString& path)
-{
-    return Tree::Instance()->FindValue(path);
-}
-
-} // namespace
+using namespace EditorTest;
 
 class TestValuesDock : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MainWindow> m_window;
+    std::optional<Desk> m_desk;
     ValuesDock* m_dock = nullptr;
 
-    QString File(const QString& name) const { return m_directory->filePath(name); }
+    MainWindow& Window() { return m_desk->window; }
+    static ValueBase* Find(const QString& path) { return Editor::Value(path); }
+
     ValuesModel& Model() { return m_dock->Model(); }
     QTreeView* View() { return m_dock->View(); }
 
@@ -79,36 +61,17 @@ class TestValuesDock : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QStandardPaths::setTestModeEnabled(true);
-    }
-
     void init()
     {
-        QLocale::setDefault(QLocale::C);
-        m_directory = std::make_unique<QTemporaryDir>();
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        QSettings().clear();
-        m_window = std::make_unique<MainWindow>(JobModel::Load());
-        m_window->resize(1500, 1000);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QVERIFY(m_window->NewFromSample());
-        QVERIFY(m_window->SaveTo(File("a.job.xml")));
-        m_dock = m_window->findChild<ValuesDock*>();
-        QTest::keyClick(m_window.get(), Qt::Key_F9);
+        m_desk.emplace();
+        Window().resize(1500, 1000);
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        m_dock = Window().findChild<ValuesDock*>();
+        m_desk->Press(Qt::Key_F9, {});
         QVERIFY(m_dock->isVisible() && m_dock->Filter()->hasFocus());
         Settle();
     }
-
-    void cleanup()
-    {
-        m_window.reset();
-        Tree::Instance()->Clear();
-    }
+    void cleanup() { m_desk.reset(); }
 
     void allValuesAreListedAsATreeAndFlat_data()
     {
@@ -128,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(Model().rowCount() == listed.size(), !asTree);
         for (const QString& path : {listed.front(), listed.back(), frequencyPath})
             QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
-        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(!Window().isWindowModified());
     }
 
     void theFilterLooksIntoEveryText_data()
@@ -158,7 +121,7 @@ private Q_SLOTS:
     void onlyChangedValuesAreListedWhenAskedFor()
     {
         QVERIFY(Find(frequencyPath)->SetToDefault());
-        QVERIFY(m_window->Save());
+        QVERIFY(Window().Save());
         Switch("onlyFromSaved", true);
         Settle();
         QVERIFY(Listed().isEmpty());
@@ -166,7 +129,7 @@ private Q_SLOTS:
         QTRY_COMPARE(Listed(), QStringList{frequencyPath});
         const QModelIndex content = ContentOf(frequencyPath);
         QVERIFY(content.data().toString() != content.siblingAtColumn(ValueListing::Saved).data().toString());
-        QVERIFY(m_window->Save());
+        QVERIFY(Window().Save());
         QTRY_VERIFY(Listed().isEmpty());
         Switch("onlyFromSaved", false);
         Switch("onlyFromDefault", true);
@@ -179,13 +142,13 @@ private Q_SLOTS:
 
     void onlyTheSelectedNodeIsListedWhenAskedFor()
     {
-        m_window->Nodes().SelectNode(tunerPath);
+        Window().Nodes().SelectNode(tunerPath);
         Switch("onlyThisNode", true);
         Settle();
         QVERIFY(Listed().contains(frequencyPath));
         for (const QString& path : Listed())
             QVERIFY(path.startsWith(tunerPath));
-        m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
+        Window().Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
         Settle();
         QVERIFY(!Listed().isEmpty() && !Listed().contains(frequencyPath));
     }
@@ -243,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(Find(frequencyPath)->GetStoredText(), "7040000");
         QTRY_VERIFY(View()->hasFocus());
         QVERIFY(ContentOf(frequencyPath).data().toString().startsWith("7040 "));
-        QVERIFY(m_window->isWindowModified());
+        QVERIFY(Window().isWindowModified());
     }
 
     void everyKindIsEditedByItsEditor()
@@ -263,15 +226,15 @@ private Q_SLOTS:
         QTest::keyClick(combo, row == 0 ? Qt::Key_Down : Qt::Key_Up);
         QTest::keyClick(combo, Qt::Key_Return);
         QTRY_VERIFY(View()->hasFocus());
-        QVERIFY(m_window->Document().DiffersFromSaved(*Find(selection)));
+        QVERIFY(Window().Document().DiffersFromSaved(*Find(selection)));
 
         QWidget* editor = Edit(list);
         QVERIFY(editor);
         static_cast<QLineEdit*>(editor)->selectAll();
         QTest::keyClicks(editor, "nothing");
         QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_VERIFY(m_window->Messages().GetText().contains(list));
-        QVERIFY(!m_window->Document().DiffersFromSaved(*Find(list)));
+        QTRY_VERIFY(Window().Messages().GetText().contains(list));
+        QVERIFY(!Window().Document().DiffersFromSaved(*Find(list)));
     }
 
     void whatIsTypedIntoTheListFilters()
@@ -294,55 +257,44 @@ private Q_SLOTS:
 
     void returnOnARowGoesToTheNodeOfTheField()
     {
-        m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
+        Window().Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
         QSignalSpy wanted(m_dock, &ValuesDock::Activated);
         View()->setCurrentIndex(Model().IndexOf(frequencyPath));
         QTest::keyClick(View(), Qt::Key_Return);
         QCOMPARE(wanted.size(), 1);
         QCOMPARE(wanted.front().front().toString(), frequencyPath);
-        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
     }
 
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited_data()
     {
-        QTest::addColumn<bool>("asTree");
-        QTest::addColumn<bool>("scanning");
-        QTest::newRow("tree, settled") << true << false;
-        QTest::newRow("tree, under way") << true << true;
-        QTest::newRow("flat, settled") << false << false;
-        QTest::newRow("flat, under way") << false << true;
+        const Table<bool, bool> row("asTree", "scanning");
+        row("tree, settled", true, false);
+        row("tree, under way", true, true);
+        row("flat, settled", false, false);
+        row("flat, under way", false, true);
     }
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited()
     {
         QFETCH(bool, asTree);
         QFETCH(bool, scanning);
         // Whoever hears of the old values' end may look at the list.
-        struct Looker : IObserver
-        {
-            explicit Looker(std::function<void()> look) : m_look(std::move(look)) {}
-            void Update(Observable*, TChangeCode) override { m_look(); }
-            std::function<void()> m_look;
-        };
         Switch("asTree", asTree);
         QTest::keyClicks(m_dock->Filter(), "TUNER");
         Settle();
         QVERIFY(Edit(frequencyPath));
         int looked = 0;
-        Looker looker(
-            [&]
-            {
-                looked += int(Listed().size());
-                m_dock->grab();
-            });
+        Hearer looker{[&]
+                      {
+                          looked += int(Listed().size());
+                          m_dock->grab();
+                      }};
         Find(frequencyPath)->Attach(&looker);
         if (scanning)
             Switch("onlyFromDefault", true);
-        QFile small(File("b.job.xml"));
-        QVERIFY(small.open(QIODevice::WriteOnly));
-        small.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">\n  <Node name=\"/T\" "
-                    "type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\">\n  </Node>\n</Job>\n");
-        small.close();
-        QVERIFY(m_window->OpenFile(File("b.job.xml")));
+        WriteAll(m_desk->File("b.job.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">"
+                                            "<Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\"/></Job>");
+        QVERIFY(Window().OpenFile(m_desk->File("b.job.xml")));
         Switch("onlyFromDefault", false);
         Settle();
         const QStringList listed = Listed();
@@ -361,7 +313,7 @@ private Q_SLOTS:
         QCOMPARE(index.data(), QVariant());
         QVERIFY(!Model().setData(index, "1"));
         m_dock->grab();
-        emit m_window->Document().NodesChanged();
+        emit Window().Document().NodesChanged();
         Settle();
         QCOMPARE(size_t(Listed().size()), Tree::Instance()->ValueCount());
     }

@@ -76,19 +76,6 @@ private Q_SLOTS:
         KeyManager::Instance()->Clear();
     }
 
-    void everyEditorIsBoundToTheOneValueThatTheModelPutsThere()
-    {
-        const OpenPanel panel(m_dataNode);
-        QStringList bound;
-        for (const QWidget* widget : panel.findChildren<QWidget*>())
-            bound.append(Grid::PathOf(widget));
-        for (const auto& parameter : Parameters())
-        {
-            const QString path = PathOf(*parameter);
-            QVERIFY2(parameter->GetPlace() == Place::Demodulator || bound.count(path) == 1, qPrintable(path));
-        }
-    }
-
     void theModeIsChosenByKeyboardWhileTheBoxesFollow()
     {
         OpenPanel panel(m_dataNode);
@@ -221,20 +208,6 @@ private Q_SLOTS:
         QCOMPARE(ComboAt(*panel, 3)->GetBoundValue(), nullptr);
         panel->Update(nullptr, ccState); // no value, no source
         panel.reset();
-    }
-
-    void viewingWritesNothing()
-    {
-        int writes = 0;
-        Tree::Instance()->SetJournal([&](const JournalEntry&) { ++writes; });
-        {
-            OpenPanel panel(m_dataNode);
-            panel.show();
-            QVERIFY(QTest::qWaitForWindowActive(&panel));
-            for (int i = 0; i < 20; ++i)
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        QCOMPARE(writes, 0);
     }
 };
 

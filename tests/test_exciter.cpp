@@ -1,29 +1,37 @@
+#include "application/cfgcenter.h"
+#include "application/errorhandler.h"
+#include "common.h"
 #include "exciterfixture.h"
-#include "ipcparam/ipcparam.h"
-#include "jobmodel/jobfile.h"
-#include "valuewidgets/vcfrequency.h"
 
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace ExciterTest;
+using PanelTest::Place;
 
-class TestExciterModes : public QObject
+class TestExciter : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { FillTree(); }
-    void cleanup() { Tree::Instance()->Clear(); }
+    void cleanup()
+    {
+        Tree::Instance()->Clear();
+        CfgCenter::Instance()->SetDirectory(QString());
+    }
 
     void theModeDecidesOnTheSwitches_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("switches");
-        const std::array<const char*, 12> rows{"---- true", "---- false", "---- true", "+-+- true",
-                                               "+--+ true", "+--+ true",  "++-- true", "++-- true",
-                                               "---- true", "---- true",  "---- true", "---- true"};
-        for (int mode = 0; mode < int(rows.size()); ++mode)
-            QTest::addRow("%d", mode) << mode << QString::fromUtf8(rows[size_t(mode)]);
+        const Table<int, QString> row("mode", "switches");
+        for (const int mode : {0, 1, 2, 8, 9, 10, 11})
+            row(QString::number(mode), mode, mode == 1 ? "---- false" : "---- true");
+        row("3", 3, "+-+- true");
+        row("4", 4, "+--+ true");
+        row("5", 5, "+--+ true");
+        row("6", 6, "++-- true");
+        row("7", 7, "++-- true");
     }
     void theModeDecidesOnTheSwitches()
     {
@@ -97,8 +105,7 @@ private slots:
 
     void theModeDecidesWhatCanBeEdited_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("disabled");
+        const Table<int, QString> table("mode", "disabled");
         const QString always = QStringLiteral("RasterThresholdAbs ScuBlankingTime");
         const QString wde = QStringLiteral("SmuDeviation SmuFrequency SmuMessage SmuModulation SmuModulationDepth "
                                            "SmuModulationSource SmuSymbolRate SmuToneFrequency");
@@ -111,7 +118,7 @@ private slots:
         {
             QStringList names = (QStringList(more) << always).join(u' ').split(u' ');
             names.sort();
-            QTest::addRow("%d", mode) << mode << names.join(u' ');
+            table(QString::number(mode), mode, names.join(u' '));
         };
         for (const int mode : {0, 1, 2, 11})
             row(mode, {});
@@ -139,18 +146,14 @@ private slots:
 
     void rulesFollowTheirOwnValue_data()
     {
-        QTest::addColumn<QString>("panel");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QStringList>("texts");    // the stored content of the value ...
-        QTest::addColumn<QStringList>("disabled"); // ... and what it disables
-        QTest::newRow("blanking") << "ExciterSCUDlg" << QString(ScuBlanking) << QStringList{"true", "false"}
-                                  << QStringList{"", "ScuBlankingTime"};
+        // texts: the stored content of the value ...; disabled: ... and what it disables
+        const Table<QString, QString, QStringList, QStringList> row("panel", "key", "texts", "disabled");
+        row("blanking", "ExciterSCUDlg", QString(ScuBlanking), {"true", "false"}, {"", "ScuBlankingTime"});
         // An unknown threshold mode leaves things as they are.
-        QTest::newRow("threshold") << "WDERasterDetectorDlg" << QString(RasterThresholdMode)
-                                   << QStringList{"0", "7", "1"}
-                                   << QStringList{"RasterThresholdRel", "RasterThresholdRel", "RasterThresholdAbs"};
-        QTest::newRow("fading") << "WDESimulationDlg" << QString(SimulationFading) << QStringList{"false", "true"}
-                                << QStringList{"SimulationChannelModel SimulationSeed", ""};
+        row("threshold", "WDERasterDetectorDlg", QString(RasterThresholdMode), {"0", "7", "1"},
+            {"RasterThresholdRel", "RasterThresholdRel", "RasterThresholdAbs"});
+        row("fading", "WDESimulationDlg", QString(SimulationFading), {"false", "true"},
+            {"SimulationChannelModel SimulationSeed", ""});
     }
     void rulesFollowTheirOwnValue()
     {
@@ -195,57 +198,109 @@ private slots:
         QCOMPARE(Switches(), "++-- true");
     }
 
-    void theModeDecidesOnTheTabsOfTheSample_data()
+    void aReadOnlyPanelStaysLockedAndAppliesNoRule()
     {
-        QTest::addColumn<bool>("isJob");
-        QTest::addColumn<int>("mode");
-        for (const bool isJob : {true, false})
+        const auto panels = MakeAll(true);
+        for (const int mode : {4, 9, 2, 3})
         {
-            for (int mode = -1; mode <= 11; ++mode)
-                QTest::addRow("%s %d", isJob ? "job" : "stand-alone", mode) << isJob << mode;
+            SetMode(mode);
+            QCOMPARE(Disabled(), QString());
         }
-    }
-    void theModeDecidesOnTheTabsOfTheSample()
-    {
-        QFETCH(bool, isJob);
-        QFETCH(int, mode);
-        JobFile job;
-        QVERIFY(job.LoadSample());
-        for (const QString set : {"/Jobs/Demo/TDS_EXC/", "/Jobs/Demo/TDS_EXC_SCAN/"})
+        PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
+        for (const Panel& panel : panels)
         {
-            if (mode == -1)
-                Tree::Instance()->RemoveValue(set + ExciterMode);
-            else
-                Tree::Instance()->FindValue(set + ExciterMode)->SetStoredText(QString::number(mode));
-            const QString task = set + "CS_EXC/EXCITER/";
-            std::vector<QString> resources;
-            const auto host =
-                isJob ? std::make_unique<IPCParam>(set + "CS_EXC/", task, resources, task, task, QString(), task,
-                                                   QStringLiteral("TKE"))
-                      : std::make_unique<IPCParam>(task, nullptr, false, false, false, task, QStringLiteral("TKE"));
-            host->ExciterDlg(1, set.contains("SCAN"));
-            QStringList tabs;
-            for (int i = 0; i < host->count(); ++i)
-                tabs << host->tabText(i);
-            QStringList wanted{"SMU", "SCU"};
-            if (mode >= 3 && mode <= 7)
-                wanted << "WDE";
-            if (mode >= 8 && mode <= 10)
-                wanted << "ScanSettings";
-            QCOMPARE(tabs, wanted);
-            for (int i = 0; i < host->count(); ++i)
+            QCOMPARE(panel->GetTitle(), "WDE raster test");
+            for (QWidget* widget : panel->findChildren<QWidget*>())
             {
-                for (QWidget* widget : host->widget(i)->findChildren<QWidget*>())
-                {
-                    // The parts of a frequency editor are its own business.
-                    const bool isPart = qobject_cast<VCFrequency*>(widget->parentWidget());
-                    const auto* link = isPart ? nullptr : dynamic_cast<ValueLink*>(widget);
-                    QVERIFY2(!link || link->GetBoundValue(), qPrintable(widget->objectName()));
-                }
+                if (dynamic_cast<ValueLink*>(widget))
+                    QVERIFY2(!widget->isEnabled(), qPrintable(panel->objectName() + ' ' + widget->objectName()));
             }
         }
+        // The mode has enabled the value itself.
+        QCOMPARE(Switch(ExciterCheck)->GetState(), stEnabled);
+    }
+
+    void channelsHaveTheirOwnValues()
+    {
+        Tree::Instance()->RemoveValue(basePath + "Channel2/WdeChannelLevel");
+        // Neither the one above nor the neighbour's serves instead.
+        Tree::Instance()->CreateValue<IntValue>(switchPath + "WdeChannelLevel");
+        const Panel panel = Make("WDEExciterDlg");
+        auto* area = panel->findChild<QScrollArea*>("WDE_CHANNELS");
+        const auto boxes = area->widget()->findChildren<QGroupBox*>();
+        const PanelTest::Grid second(boxes[1]);
+        QCOMPARE(second.PathAt(1, 1), basePath + "Channel2/WdeChannelFrequency");
+        QCOMPARE(second.PathAt(2, 1), QString());
+        QCOMPARE(PanelTest::Grid(boxes[0]).PathAt(2, 1), basePath + "Channel1/WdeChannelLevel");
+    }
+
+    void channelsMayBeNone()
+    {
+        for (const int count : {0, -1})
+        {
+            const Panel none = Make("WDERasterDetectorDlg", false, count);
+            QVERIFY(!none->findChild<QScrollArea*>());
+            QCOMPARE(PanelTest::Grid(*none).PlaceOfLine(QFrame::HLine), Place{});
+        }
+    }
+
+    void aParameterSetThatCannotBeLoadedIsReportedAndThePanelsStand()
+    {
+        QTemporaryDir directory;
+        CfgCenter::Instance()->SetDirectory(directory.path());
+        const QString fileName = CfgCenter::Instance()->GetFileName("JobManagement", cfgSystem);
+        QDir().mkpath(QFileInfo(fileName).path());
+        QSettings(fileName, QSettings::IniFormat).setValue("JobModelXMLDir", directory.path());
+        WriteAll(directory.filePath("exciter_hf.xml"),
+                 "<JobModel version=\"1\">\n<Group name=\"G_EXC_SMU\" band=\"HF\">\n<Parameter name=\"SmuLevel\" "
+                 "kind=\"double\" at=\"U\" default=\"0\" label=\"Power :\" description=\"d\" control=\"3\" "
+                 "number=\"double\"/>\n");
+
+        ErrorHandler::Interface().Clear();
+        QStringList reports;
+        const auto subscription =
+            ErrorHandler::Interface().Subscribe([&](const ErrorReport& report) { reports << report.text; });
+        for (const QString& name : panelNames)
+        {
+            reports.clear();
+            const Panel panel = Make(name);
+            QCOMPARE(reports.size(), 1);
+            QVERIFY2(reports[0].contains("exciter_hf.xml:4:"), qPrintable(reports[0]));
+            QCOMPARE(panel->GetTitle(), "WDE raster test"); // the mode needs no descriptor
+            if (name == "ExciterSMUDlg")
+                QCOMPARE(PanelTest::Grid(*panel).TextAt(2, 0), "Power :");
+        }
+        SetMode(6);
+        QCOMPARE(Switches(), "+-+- true"); // of a panel that is gone
+        const Panel general = Make("ExciterGeneralDlg");
+        QCOMPARE(Switches(), "++-- true");
+    }
+
+    void aPanelMayGoWhileItAppliesTheMode()
+    {
+        // What hears of the change deletes the panel, whatever it writes first.
+        for (const auto key : switches)
+        {
+            SetMode(3);
+            Panel panel = Make("ExciterGeneralDlg");
+            Listener killer([&] { panel.reset(); });
+            Switch(key)->Attach(&killer);
+            SetMode(key == RasterDetectorCheck || key == SingleChannelDetectorCheck ? 6 : key == ExciterCheck ? 2 : 4);
+            QVERIFY(!panel);
+        }
+        SetMode(2);
+        Panel panel = Make("ExciterSMUDlg");
+        Listener killer([&] { panel.reset(); });
+        PanelTest::ValueOf(SmuModulation)->Attach(&killer);
+        SetMode(3);
+        QVERIFY(!panel);
+        panel = Make("ExciterSCUDlg");
+        Listener another([&] { panel.reset(); });
+        PanelTest::ValueOf(ScuBlankingTime)->Attach(&another);
+        PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
+        QVERIFY(!panel);
     }
 };
 
-QTEST_MAIN(TestExciterModes)
-#include "test_excitermodes.moc"
+QTEST_MAIN(TestExciter)
+#include "test_exciter.moc"
