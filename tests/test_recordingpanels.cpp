@@ -139,12 +139,7 @@ private Q_SLOTS:
         }
     }
 
-    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data()
-    {
-        QTest::addColumn<bool>("record");
-        QTest::newRow("select all") << true;
-        QTest::newRow("deselect all") << false;
-    }
+    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data() { WithAndWithout("record"); }
     void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName()
     {
         QFETCH(bool, record);
