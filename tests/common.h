@@ -19,6 +19,22 @@ public:
     }
 };
 
+/// A row for each text, called by it.
+inline void EachText(const char* column, const QStringList& texts)
+{
+    QTest::addColumn<QString>(column);
+    for (const QString& text : texts)
+        QTest::newRow(qPrintable(text)) << text;
+}
+
+/// A row with and one without.
+inline void WithAndWithout(const char* column)
+{
+    QTest::addColumn<bool>(column);
+    QTest::newRow(column) << true;
+    QTest::newRow("without") << false;
+}
+
 inline QByteArray ReadAll(const QString& fileName)
 {
     QFile file(fileName);

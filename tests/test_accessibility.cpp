@@ -1,8 +1,8 @@
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/chains.h"
 #include "jobedit/changemark.h"
 #include "jobedit/nightcolours.h"
-#include "common.h"
 
 #include <QAccessible>
 #include <set>
@@ -319,10 +319,8 @@ private Q_SLOTS:
 
     void everyDialogThatACommandOpensSaysWhatItIsAndHolds_data()
     {
-        QTest::addColumn<QString>("command");
-        for (const char* command : {"Add Chain...", "Rename...", "Duplicate...", "Manage Presets...", "Report...",
-                                    "Compare with Saved...", "Guide", "About Job Editor"})
-            QTest::newRow(command) << command;
+        EachText("command", {"Add Chain...", "Rename...", "Duplicate...", "Manage Presets...", "Report...",
+                             "Compare with Saved...", "Guide", "About Job Editor"});
     }
     void everyDialogThatACommandOpensSaysWhatItIsAndHolds()
     {
@@ -373,12 +371,7 @@ private Q_SLOTS:
         QCOMPARE(description(), marked);
     }
 
-    void whatIsMarkedIsSeenInBothPalettes_data()
-    {
-        QTest::addColumn<bool>("night");
-        QTest::newRow("light") << false;
-        QTest::newRow("night") << true;
-    }
+    void whatIsMarkedIsSeenInBothPalettes_data() { WithAndWithout("night"); }
     void whatIsMarkedIsSeenInBothPalettes()
     {
         QFETCH(bool, night);

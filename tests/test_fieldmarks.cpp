@@ -103,12 +103,7 @@ private Q_SLOTS:
         NightColours::Switch(false);
     }
 
-    void aFieldIsMarkedByWhatItDiffersFrom_data()
-    {
-        QTest::addColumn<bool>("night");
-        QTest::newRow("day") << false;
-        QTest::newRow("night") << true;
-    }
+    void aFieldIsMarkedByWhatItDiffersFrom_data() { WithAndWithout("night"); }
     void aFieldIsMarkedByWhatItDiffersFrom()
     {
         QFETCH(bool, night);

@@ -205,11 +205,8 @@ private Q_SLOTS:
 
     void valuesOfNodesWithoutADialogAreReachedInADialogOfAnotherNode_data()
     {
-        QTest::addColumn<QString>("node");
-        QTest::newRow("channel") << "/Jobs/Demo/TDS_EXC/CS_WDE/WDEEXCITER/Channel3/";
-        QTest::newRow("activity") << "/Jobs/Demo/TDS_HF1/";
-        QTest::newRow("exciter") << "/Jobs/Demo/TDS_EXC/";
-        QTest::newRow("spectral zoom") << "/Jobs/Demo/TDSSpectralZoom/";
+        EachText("node", {"/Jobs/Demo/TDS_EXC/CS_WDE/WDEEXCITER/Channel3/", "/Jobs/Demo/TDS_HF1/",
+                          "/Jobs/Demo/TDS_EXC/", "/Jobs/Demo/TDSSpectralZoom/"});
     }
     void valuesOfNodesWithoutADialogAreReachedInADialogOfAnotherNode()
     {

@@ -1,10 +1,10 @@
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/frequencyplan.h"
 #include "jobedit/planactions.h"
 #include "jobedit/planexport.h"
 #include "jobedit/planpane.h"
 #include "jobedit/planview.h"
-#include "common.h"
 
 #include <QSignalSpy>
 #include <QXmlStreamReader>
@@ -372,12 +372,7 @@ private Q_SLOTS:
         QVERIFY(!Window().Document().IsModified());
     }
 
-    void aPictureThatCannotBeWrittenLeavesTheFile_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("unknown form") << "plan.txt";
-        QTest::newRow("no directory") << "missing/plan.svg";
-    }
+    void aPictureThatCannotBeWrittenLeavesTheFile_data() { EachText("name", {"plan.txt", "missing/plan.svg"}); }
     void aPictureThatCannotBeWrittenLeavesTheFile()
     {
         QFETCH(QString, name);

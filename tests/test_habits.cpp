@@ -144,12 +144,7 @@ private Q_SLOTS:
         QVERIFY(!guides.first()->isVisible());
     }
 
-    void everyActionIsReachedByKeyboardAndNoMnemonicTwice_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << "en";
-        QTest::newRow("German") << "de";
-    }
+    void everyActionIsReachedByKeyboardAndNoMnemonicTwice_data() { EachText("language", {"en", "de"}); }
     void everyActionIsReachedByKeyboardAndNoMnemonicTwice()
     {
         QFETCH(QString, language);

@@ -136,12 +136,7 @@ private Q_SLOTS:
         }
     }
 
-    void renderWritesAPicturePerTab_data()
-    {
-        QTest::addColumn<QString>("form");
-        QTest::newRow("job") << "job";
-        QTest::newRow("standalone") << "standalone";
-    }
+    void renderWritesAPicturePerTab_data() { EachText("form", {"job", "standalone"}); }
     void renderWritesAPicturePerTab()
     {
         QFETCH(QString, form);
@@ -210,12 +205,10 @@ private Q_SLOTS:
 
     void setWritesAllOrNothing_data()
     {
-        QTest::addColumn<QString>("refused");
-        QTest::newRow("unknown value") << "NOWHERE=1";
-        QTest::newRow("no number") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=loud";
-        QTest::newRow("out of range") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=100000";
-        QTest::newRow("no item") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_SQUELCHMODE=Silence";
-        QTest::newRow("neither on nor off") << "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_NF1_STATUS=2";
+        EachText("refused", {"NOWHERE=1", "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=loud",
+                             "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=100000",
+                             "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_SQUELCHMODE=Silence",
+                             "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_NF1_STATUS=2"});
     }
     void setWritesAllOrNothing()
     {

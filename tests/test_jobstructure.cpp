@@ -60,12 +60,7 @@ private slots:
         Tree::Instance()->Clear();
     }
 
-    void whatIsTakenComesBackWithItsBytes_data()
-    {
-        QTest::addColumn<QString>("path");
-        for (const char* path : {"AB", "AB/IN", "/Jobs/C/"})
-            QTest::newRow(path) << path;
-    }
+    void whatIsTakenComesBackWithItsBytes_data() { EachText("path", {"AB", "AB/IN", "/Jobs/C/"}); }
     void whatIsTakenComesBackWithItsBytes()
     {
         QFETCH(QString, path);

@@ -114,8 +114,8 @@ private Q_SLOTS:
         QVERIFY(buttons->findChild<QWidget*>(AUTORECORDING_RECORD_ALL)->isEnabledTo(buttons.get()));
     }
 
-    void aPanelHasRoomAtTheSizeOfTheHost_data() { AddKinds(); }
-    void aPanelHasRoomAtTheSizeOfTheHost()
+    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost_data() { AddKinds(); }
+    void everyEditorIsNamedAndHasRoomAtTheSizeOfTheHost()
     {
         QFETCH(const PanelKind*, kind);
         Fill(kind->group, kind->valuesAt);
@@ -123,17 +123,23 @@ private Q_SLOTS:
         panel->resize(775, 480);
         panel->show();
         QCOMPARE(panel->size(), QSize(775, 480)); // a window cannot be smaller than its layout needs
+        QSet<QWidget*> buddies;
         for (const QLabel* label : panel->findChildren<QLabel*>())
+        {
+            buddies.insert(label->buddy());
             QVERIFY2(!label->wordWrap() || label->height() >= label->heightForWidth(label->width()),
                      qPrintable(label->text()));
+        }
+        for (const auto& parameter : ParametersOf(*kind))
+        {
+            auto* widget = panel->findChild<QWidget*>(parameter->GetUniqueParameterName());
+            QVERIFY2(!widget || buddies.contains(widget) || !widget->accessibleName().isEmpty() ||
+                         qobject_cast<QCheckBox*>(widget),
+                     qPrintable(parameter->GetUniqueParameterName()));
+        }
     }
 
-    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data()
-    {
-        QTest::addColumn<bool>("record");
-        QTest::newRow("select all") << true;
-        QTest::newRow("deselect all") << false;
-    }
+    void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName_data() { WithAndWithout("record"); }
     void bothButtonsChooseFixedFrequencyMonitoringButOnlyDeselectAllByFullName()
     {
         QFETCH(bool, record);

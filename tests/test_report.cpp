@@ -1,10 +1,10 @@
 #include "application/translationcenter.h"
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/chains.h"
 #include "jobedit/chaintitles.h"
 #include "jobedit/report.h"
 #include "jobedit/reportactions.h"
-#include "common.h"
 
 #include <QXmlStreamReader>
 
@@ -254,12 +254,7 @@ private Q_SLOTS:
         QVERIFY(ReadAll(File("long.pdf")).count("/Type /Page\n") > 10);
     }
 
-    void progressGrowsAndCancelLeavesTheFile_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("HTML") << "there.html";
-        QTest::newRow("PDF") << "there.pdf";
-    }
+    void progressGrowsAndCancelLeavesTheFile_data() { EachText("name", {"there.html", "there.pdf"}); }
     void progressGrowsAndCancelLeavesTheFile()
     {
         QFETCH(QString, name);
@@ -283,12 +278,7 @@ private Q_SLOTS:
         QCOMPARE(last, qint64(Tree::Instance()->ValueCount()));
     }
 
-    void whatCannotBeWrittenIsSaid_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("unknown form") << "report.doc";
-        QTest::newRow("no directory") << "missing/report.html";
-    }
+    void whatCannotBeWrittenIsSaid_data() { EachText("name", {"report.doc", "missing/report.html"}); }
     void whatCannotBeWrittenIsSaid()
     {
         QFETCH(QString, name);

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/addnodedialog.h"
 #include "jobedit/chains.h"
@@ -5,7 +6,6 @@
 #include "jobedit/otherjob.h"
 #include "jobedit/presetdialog.h"
 #include "jobedit/reuseactions.h"
-#include "common.h"
 
 using namespace EditorTest;
 
@@ -196,9 +196,7 @@ private Q_SLOTS:
 
     void presetsAreKeptUnderAnyName_data()
     {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"Tuner", "../a/b\\c", "50 % : *?", ".hidden", "Empfänger", "a&b"})
-            QTest::newRow(name) << QString::fromUtf8(name);
+        EachText("name", {"Tuner", "../a/b\\c", "50 % : *?", ".hidden", "Empfänger", "a&b"});
     }
     void presetsAreKeptUnderAnyName()
     {
@@ -347,12 +345,7 @@ private Q_SLOTS:
         QVERIFY(!Window().isWindowModified());
     }
 
-    void nodesAreRenamedAndDuplicatedWithAllBelowThem_data()
-    {
-        QTest::addColumn<bool>("duplicate");
-        QTest::newRow("rename") << false;
-        QTest::newRow("duplicate") << true;
-    }
+    void nodesAreRenamedAndDuplicatedWithAllBelowThem_data() { WithAndWithout("duplicate"); }
     void nodesAreRenamedAndDuplicatedWithAllBelowThem()
     {
         QFETCH(bool, duplicate);

@@ -195,9 +195,7 @@ private slots:
 
     void WhatIsRemovedIsOutOfReachAndReportsItsEndWhileAllOfItIsWhole_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char* way : {"branch", "value", "clear", "root"})
-            QTest::newRow(way) << way;
+        EachText("way", {"branch", "value", "clear", "root"});
     }
     void WhatIsRemovedIsOutOfReachAndReportsItsEndWhileAllOfItIsWhole()
     {

@@ -1,7 +1,7 @@
+#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
-#include "common.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -73,12 +73,7 @@ private Q_SLOTS:
     }
     void cleanup() { m_desk.reset(); }
 
-    void allValuesAreListedAsATreeAndFlat_data()
-    {
-        QTest::addColumn<bool>("asTree");
-        QTest::newRow("tree") << true;
-        QTest::newRow("flat") << false;
-    }
+    void allValuesAreListedAsATreeAndFlat_data() { WithAndWithout("asTree"); }
     void allValuesAreListedAsATreeAndFlat()
     {
         QFETCH(bool, asTree);
@@ -96,11 +91,7 @@ private Q_SLOTS:
 
     void theFilterLooksIntoEveryText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("key") << "tuner_hf_nb_frequency";
-        QTest::newRow("path") << "/CS_TUNER/TUNER/";
-        QTest::newRow("label") << "<label>";
-        QTest::newRow("content") << "<content>";
+        EachText("text", {"tuner_hf_nb_frequency", "/CS_TUNER/TUNER/", "<label>", "<content>"});
     }
     void theFilterLooksIntoEveryText()
     {

@@ -1,3 +1,4 @@
+#include "common.h"
 #include "ipcparam/wavecomdlg.h"
 #include "keys/keymanager.h"
 #include "keys/keys.h"
@@ -56,12 +57,7 @@ class TestWavecom : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase_data()
-    {
-        QTest::addColumn<bool>("dataNode");
-        QTest::newRow("plain") << false;
-        QTest::newRow("data node") << true;
-    }
+    void initTestCase_data() { WithAndWithout("dataNode"); }
     void init()
     {
         QFETCH_GLOBAL(bool, dataNode);
