@@ -13,7 +13,6 @@ void DifferenceModel::SetDifferences(std::vector<Difference> differences, bool t
     beginResetModel();
     m_differences = std::move(differences);
     m_ticked.assign(m_differences.size(), ticked);
-    m_refusals.clear();
     endResetModel();
     emit Ticked();
 }

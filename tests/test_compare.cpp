@@ -310,6 +310,73 @@ private Q_SLOTS:
         QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
     }
 
+    void returnLeadsToTheFieldAndF4BackToTheList()
+    {
+        WriteAll(File("other.job.xml"), SampleWithFrequency("7040000").replace("name=\"TDS_EXT\"", "name=\"TDS_NEW\""));
+        CompareDialog* dialog = m_window->Comparing().CompareWithFile(File("other.job.xml"));
+        QVERIFY(dialog);
+        QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QTreeView* list = List(*dialog);
+        m_window->Nodes().SelectNode(voicePath);
+        // A node that the job has, one that it lacks, and a field.
+        QStringList seen;
+        for (int row = 0; row < 3; ++row)
+        {
+            const Difference& difference = dialog->Model().GetDifferences()[size_t(row)];
+            list->setCurrentIndex(list->model()->index(row, DifferenceModel::Parameter));
+            QTest::keyClick(list, Qt::Key_Return);
+            QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+            QVERIFY(dialog->isVisible());
+            seen << m_window->Nodes().GetCurrentNode()->path;
+            if (difference.key == Keys::TUNER_HF_NB_FREQUENCY)
+            {
+                auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+                QVERIFY(field);
+                const QRect place(field->mapToGlobal(QPoint()), field->size());
+                QVERIFY(!dialog->frameGeometry().intersects(place));
+                field->selectAll();
+                QTest::keyClicks(field, "7040 k");
+            }
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+            QTRY_COMPARE(QApplication::activeWindow(), dialog);
+            QVERIFY(list->hasFocus());
+        }
+        QCOMPARE(seen, (QStringList{"/Jobs/Demo/TDS_EXT/", tunerPath, "/Jobs/Demo/"}));
+        QVERIFY(m_window->statusBar()->currentMessage().contains("TDS_NEW"));
+        // What was set right meanwhile is gone, what is ticked stays so.
+        QTRY_COMPARE(dialog->Model().rowCount(), 2);
+        QTest::keyClick(list, Qt::Key_Space);
+        QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(dialog->Model().rowCount(), 3);
+        int ticked = 0;
+        for (int row = 0; row < 3; ++row)
+            ticked += dialog->Model().IsTicked(dialog->Model().index(row, 0));
+        QCOMPARE(ticked, 1);
+        // Another job has nothing to do with this list.
+        QVERIFY(m_window->NewFromSample());
+        QTRY_VERIFY(!OpenDialog());
+    }
+
+    void eitherOfTwoChainsIsReached()
+    {
+        Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7040000");
+        CompareDialog* dialog = m_window->Comparing().CompareChains(tunerPath, voicePath);
+        QVERIFY(dialog);
+        QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QTreeView* list = List(*dialog);
+        QTest::keyClick(list, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, voicePath);
+        QVERIFY(m_window->focusWidget()->parentWidget()->objectName().contains(Keys::TUNER_HF_NB_FREQUENCY));
+        const QRect row = list->visualRect(list->model()->index(0, DifferenceModel::Right));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row.center());
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, tunerPath);
+        QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+        // Without the chain there is nothing to compare.
+        QVERIFY(m_window->Document().RemoveNode(voicePath.chopped(1), nullptr));
+        QTRY_VERIFY(!OpenDialog());
+    }
+
     void twoSelectedChainsAreComparedAndEitherTakesOver()
     {
         Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7040000");

@@ -661,6 +661,10 @@
         <source>%1 was not taken over</source>
         <translation>%1 wurde nicht übernommen</translation>
     </message>
+    <message>
+        <source>To the &amp;Differences</source>
+        <translation>Zu den Unterschie&amp;den</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::CompareDialog</name>
@@ -707,6 +711,18 @@
     <message>
         <source>%1 differences, %2 shown, %3 of these ticked</source>
         <translation>%1 Unterschiede, %2 gezeigt, %3 davon angekreuzt</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Left Field</source>
+        <translation>Zum &amp;linken Feld gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Field</source>
+        <translation>Zum &amp;Feld gehen</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Right Field</source>
+        <translation>Zum &amp;rechten Feld gehen</translation>
     </message>
 </context>
 <context>
@@ -4778,6 +4794,14 @@ Ersetzen?</translation>
     <message>
         <source>Frequency</source>
         <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Use Hoprate for Matching</source>
+        <translation>Sprungrate zum Abgleich verwenden</translation>
+    </message>
+    <message>
+        <source>Bandwidth (Min\Nominal\Max)</source>
+        <translation>Bandbreite (min.\nominal\max.)</translation>
     </message>
 </context>
 <context>
