@@ -89,8 +89,6 @@ class TestPseudoTranslation : public QObject
                 for (const SelectionItem& item : parameter->GetValueDescriptor().items)
                     m_exceptions.insert(item.GetName());
             }
-        // Labels too, but for two the panels have texts of their own.
-        m_exceptions.merge(std::set<QString>{"Use Hoprate for Matching", R"(Bandwidth (Min\Nominal\Max))"});
         for (const JobNode& node : m_window->Nodes().GetNodes()) // what the job calls its nodes
             m_exceptions.merge(std::set<QString>{node.name, node.path, node.type});
         m_exceptions.merge(
