@@ -4,6 +4,7 @@
 #include "jobedit/messagelist.h"
 #include "jobedit/nodepane.h"
 #include "jobedit/otherjob.h"
+#include "jobedit/valuetexts.h"
 #include "keys/keys.h"
 
 #include <QTest>
@@ -174,10 +175,18 @@ private Q_SLOTS:
                              << "433.920001 MHz";
         QTest::newRow("GHz") << frequency << "3000000000"
                              << "3 GHz";
+        QTest::newRow("GHz to the last Hz") << frequency << "1234567891"
+                                            << "1.234567891 GHz";
         QTest::newRow("negative") << frequency << "-5000"
-                                  << "-5000 Hz";
+                                  << "-5 kHz";
         QTest::newRow("number") << int(ValueKind::Double) << "-2.5"
                                 << "-2.5 dB";
+        QTest::newRow("numbers") << int(ValueKind::DoubleList) << "-2.5;3"
+                                 << "-2.5; 3";
+        QTest::newRow("no number") << int(ValueKind::Int) << "many"
+                                   << "many";
+        QTest::newRow("moment") << int(ValueKind::DateTime) << "2024-02-29T23:05:00"
+                                << "29.02.2024 23:05:00";
         QTest::newRow("off") << int(ValueKind::Bool) << "false"
                              << "off";
         QTest::newRow("items") << int(ValueKind::Selection) << "1;9"
@@ -191,12 +200,12 @@ private Q_SLOTS:
         descriptor.kind = ValueKind(kind);
         descriptor.unit = descriptor.kind == ValueKind::Double ? "dB" : "";
         descriptor.items = {{1, "One"}};
-        QTEST(ReadableText(descriptor, stored), "text");
+        QTEST(ValueTexts::OfStored(descriptor, stored), "text");
         QFETCH(QString, text);
-        if (descriptor.kind != ValueKind::Selection)
+        if (descriptor.kind != ValueKind::Selection && descriptor.kind != ValueKind::DateTime)
             text.replace('.', ',');
         QLocale::setDefault(QLocale::German);
-        const QString german = ReadableText(descriptor, stored);
+        const QString german = ValueTexts::OfStored(descriptor, stored);
         QLocale::setDefault(QLocale::C);
         QCOMPARE(german, text);
     }

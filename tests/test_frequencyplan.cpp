@@ -194,24 +194,6 @@ private Q_SLOTS:
         QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Vuhf), onVuhf);
     }
 
-    void frequenciesReadExactly_data()
-    {
-        QTest::addColumn<qint64>("hertz");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << qint64(0) << "0 Hz";
-        QTest::newRow("below 1 kHz") << qint64(999) << "999 Hz";
-        QTest::newRow("kHz") << qint64(12500) << "12,5 kHz";
-        QTest::newRow("MHz") << qint64(433'920'001) << "433,920001 MHz";
-        QTest::newRow("GHz to the last Hz") << qint64(1'234'567'891) << "1,234567891 GHz";
-        QTest::newRow("round") << qint64(3'000'000'000) << "3 GHz";
-    }
-    void frequenciesReadExactly()
-    {
-        QFETCH(qint64, hertz);
-        QLocale::setDefault(QLocale(QLocale::German));
-        QTEST(FrequencyPlan::FrequencyText(hertz), "text");
-    }
-
     void theAxisHasRoundFrequenciesThatDoNotTouch_data()
     {
         QTest::addColumn<double>("from");

@@ -79,18 +79,6 @@
         <translation>%1: %2 -&gt; %3</translation>
     </message>
     <message>
-        <source>on</source>
-        <translation>ein</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
-    <message>
         <source>empty</source>
         <translation>leer</translation>
     </message>
@@ -663,7 +651,7 @@
     </message>
     <message>
         <source>To the &amp;Differences</source>
-        <translation>Zu den Unterschie&amp;den</translation>
+        <translation>Zu den &amp;Unterschieden</translation>
     </message>
 </context>
 <context>
@@ -1065,14 +1053,6 @@
     <message>
         <source>(node)</source>
         <translation>(Knoten)</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>ein</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
     </message>
 </context>
 <context>
