@@ -1,3 +1,4 @@
+#include "diskwatch.h"
 #include "editorfixture.h"
 #include "jobedit/recoveryfile.h"
 #include "jobedit/recoveryjournal.h"
@@ -136,6 +137,51 @@ private slots:
         QCOMPARE(m_editor->Bytes(), before);
         QVERIFY(!m_editor->History().CanUndo());
         QVERIFY(!Window().isWindowModified());
+    }
+
+    void whatIsKeptReachesTheDiskAndNobodyWaitsForIt()
+    {
+        constexpr int slow = 1500; // ms
+        DiskWatch::s_before = [](int handle)
+        {
+            if (QFile::symLinkTarget("/proc/self/fd/" + QString::number(handle)).endsWith(".edits"))
+                QThread::msleep(slow);
+            return 0;
+        };
+        DiskWatch::Take();
+        QElapsedTimer all, sinceTick;
+        qint64 longest = 0;
+        QTimer tick;
+        tick.callOnTimeout([&] { longest = std::max(longest, sinceTick.restart()); });
+        tick.start(5);
+        all.start();
+        sinceTick.start();
+        for (int edit = 0; all.elapsed() < 2 * slow; ++edit)
+        {
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText(QString::number(7'000'000 + edit)));
+            QTest::qWait(10);
+        }
+        QVERIFY2(longest < slow / 2, qPrintable(QString::number(longest)));
+
+        const QDir directory(RecoveryJournal::Directory());
+        const QByteArray kept = directory.filePath(directory.entryList({"*.edits"}, QDir::Files).value(0)).toUtf8();
+        std::vector<DiskWatch::Call> calls;
+        const auto isOnDisk = [&]
+        {
+            for (const DiskWatch::Call& call : DiskWatch::Take())
+                calls.push_back(call);
+            const struct stat now = DiskWatch::Of(kept);
+            return std::ranges::any_of(calls, [&](const auto& call)
+                                       { return call.file == now.st_ino && call.size == now.st_size; });
+        };
+        QTest::qWait(600); // until the last edit is written
+        QTRY_VERIFY(isOnDisk());
+        DiskWatch::s_before = {};
+        const auto isKept = [&](const auto& call) { return call.file == DiskWatch::Of(kept).st_ino; };
+        const auto isDirectory = [&](const auto& call)
+        { return call.isDirectory && call.file == DiskWatch::Of(directory.path().toUtf8()).st_ino; };
+        QVERIFY(std::ranges::count_if(calls, isKept) <= all.elapsed() / 500 + 1);
+        QCOMPARE(std::ranges::count_if(calls, isDirectory), 1);
     }
 
     void theUserMayDiscardOrComeBackLater()
