@@ -246,11 +246,15 @@ private Q_SLOTS:
         QVERIFY(other.open(QIODevice::Append) && other.write(" ") == 1);
         other.close();
         QVERIFY(!m_window->Save());                   // changed by somebody else
+        QFile lock(m_directory.filePath("b.job.xml.lock"));
+        QVERIFY(lock.open(QIODevice::WriteOnly) && lock.write("1\njobedit\nfar-away\n") > 0);
+        lock.close();
+        QVERIFY(!m_window->SaveTo(m_directory.filePath("b.job.xml"))); // open in an editor of another computer
         QVERIFY(!m_window->SaveTo("/nowhere/a.xml")); // not to be written
         for (QAction* action : m_window->findChildren<QAction*>())
             if (action->text().contains("About"))
                 action->trigger();
-        QCOMPARE(asked, 5);
+        QCOMPARE(asked, 6);
         Verdict();
     }
 
