@@ -1,7 +1,6 @@
 #include "compareactions.h"
 
 #include "differencemodel.h"
-#include "dialogpane.h"
 #include "fieldnavigator.h"
 #include "mainwindow.h"
 #include "messagelist.h"

@@ -164,7 +164,7 @@ void CompareDialog::Swap()
 // To the field of either side, or of the open job only.
 void CompareDialog::AddWays(bool both)
 {
-    const auto add = [this](const QString& text, Qt::KeyboardModifiers modifiers, QString CompareSides::* base)
+    const auto add = [this](const QString& text, Qt::KeyboardModifiers modifiers, QString CompareSides::*base)
     {
         auto* way = new QAction(text, m_view);
         way->setShortcuts({modifiers | Qt::Key_Return, modifiers | Qt::Key_Enter});

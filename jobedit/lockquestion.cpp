@@ -12,10 +12,9 @@ namespace JOBEDIT
 LockQuestion::Choice LockQuestion::Ask(MainWindow& window, const QString& title, const QString& fileName,
                                        const JobLock& lock, const QString& other, const QString& explanation)
 {
-    QMessageBox question(
-        QMessageBox::Question, title,
-        tr("%1 is open in another editor: %2.").arg(QFileInfo(fileName).fileName(), lock.ToText()),
-        QMessageBox::Cancel, &window);
+    QMessageBox question(QMessageBox::Question, title,
+                         tr("%1 is open in another editor: %2.").arg(QFileInfo(fileName).fileName(), lock.ToText()),
+                         QMessageBox::Cancel, &window);
     QPushButton* harmless = question.addButton(other, QMessageBox::AcceptRole);
     question.setDefaultButton(harmless);
     const QPushButton* takeOver = nullptr;

@@ -61,8 +61,8 @@ bool Saving::SaveTo(const QString& fileName)
             return choice == Choice::Other && SaveAs();
     }
     else if (lock)
-        return SaveElsewhere(
-            fileName, {.file = fileName, .reason = tr("it is open in another editor: %1").arg(lock->ToText())});
+        return SaveElsewhere(fileName,
+                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(lock->ToText())});
     if (!MayReplace(fileName))
         return false;
     ReportRefusals();

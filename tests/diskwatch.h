@@ -31,13 +31,13 @@ public:
     }
     static struct stat Of(int handle)
     {
-        struct stat found{};
+        struct stat found = {};
         fstat(handle, &found);
         return found;
     }
     static struct stat Of(const QByteArray& path)
     {
-        struct stat found{};
+        struct stat found = {};
         stat(path.constData(), &found);
         return found;
     }

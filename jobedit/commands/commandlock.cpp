@@ -7,7 +7,8 @@
 namespace JOBEDIT
 {
 
-CommandLock::CommandLock(const QString& fileName) : m_fileName(QFileInfo(fileName).absoluteFilePath()), m_lock(m_fileName + ".lock")
+CommandLock::CommandLock(const QString& fileName)
+    : m_fileName(QFileInfo(fileName).absoluteFilePath()), m_lock(m_fileName + ".lock")
 {
     m_lock.setStaleLockTime(0); // stale only when its holder is gone, however long it has been there
     m_lock.tryLock(0);
