@@ -64,6 +64,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
 
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid()) // a view that shows nothing asks for that
+        return {};
     const Difference& difference = m_differences[size_t(index.row())];
     switch (role)
     {

@@ -257,6 +257,9 @@ private Q_SLOTS:
         QTest::mouseClick(Button(*dialog, "tickAll"), Qt::LeftButton);
         QTest::mouseClick(Button(*dialog, "takeOver"), Qt::LeftButton);
         QCOMPARE(dialog->Model().rowCount(), 0);
+        QTest::keyClick(List(*dialog), Qt::Key_C, Qt::ControlModifier); // in an empty list
+        for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Down})
+            QTest::keyClick(List(*dialog), key);
         QTest::keyClick(dialog, Qt::Key_Escape);
         QVERIFY(!Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_EXT"));
         const QString added = "/Jobs/Demo/TDS_NEW/CS_EXT/TUNER/";
