@@ -23,9 +23,9 @@ QString ChangeMark::InWords(const JobDocument& document, const TKE::ValueBase& v
 {
     QStringList words;
     if (fromSaved)
-        words << tr("Differs from the saved file: %1").arg(ValueTexts::OfStored(value, document.SavedText(value)));
+        words << tr("Differs from the saved file: %1").arg(ValueTexts::OfStored(value.GetDescriptor(), document.SavedText(value)));
     if (fromDefault)
-        words << tr("Differs from the default: %1").arg(ValueTexts::OfDefault(value));
+        words << tr("Differs from the default: %1").arg(ValueTexts::OfDefault(value.GetDescriptor()));
     return words.join(u'\n');
 }
 

@@ -1,19 +1,13 @@
 #include "changetext.h"
 
-#include "value/valuedescriptor.h"
-#include "valuewidgets/decimal.h"
-#include "valuewidgets/showntext.h"
-#include "valuewidgets/suffixeddouble.h"
+#include "valuetexts.h"
 #include "valuewidgets/valuelink.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDateTime>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRegularExpression>
-#include <QStringList>
-#include <algorithm>
 
 namespace JOBEDIT
 {
@@ -29,10 +23,10 @@ QString Shortened(QString text)
     return text.size() > longestText ? text.left(longestText - 3) + QStringLiteral("...") : text;
 }
 
-QString ItemName(const TKE::ValueDescriptor& descriptor, const QString& key)
+QString Told(const TKE::ValueDescriptor& descriptor, const QString& stored)
 {
-    const auto item = std::ranges::find(descriptor.items, key.toInt(), &TKE::SelectionItem::GetKey);
-    return item != descriptor.items.end() ? item->GetName() : key;
+    const QString text = Shortened(ValueTexts::OfStored(descriptor, stored));
+    return text.isEmpty() ? ChangeText::tr("empty") : text;
 }
 
 // As it stands in a sentence: without what sets it off from its field, and without mnemonic.
@@ -58,17 +52,6 @@ QString LabelOf(const QWidget& field)
     return Plain(field.accessibleName());
 }
 
-// The unit that shows the frequency shortest.
-QString Frequency(qint64 hertz)
-{
-    using TKE::SuffixedDouble;
-    auto unit = SuffixedDouble::Hertz;
-    for (const auto larger : {SuffixedDouble::Kilo, SuffixedDouble::Mega})
-        if (std::abs(double(hertz)) >= std::pow(10.0, SuffixedDouble::GetExponent(larger)))
-            unit = larger;
-    return SuffixedDouble::ToText(hertz, unit, QLocale()) + ' ' + SuffixedDouble::GetUnitText(unit);
-}
-
 } // namespace
 
 QString ChangeText::Of(const QString& path, QString label, const TKE::ValueDescriptor& descriptor,
@@ -77,7 +60,7 @@ QString ChangeText::Of(const QString& path, QString label, const TKE::ValueDescr
     if (label.isEmpty())
         label = Plain(descriptor.label);
     return tr("%1: %2 -> %3", "label of a value, content before and after")
-        .arg(label.isEmpty() ? path.section('/', -1) : label, ShownOf(descriptor, before), ShownOf(descriptor, after));
+        .arg(label.isEmpty() ? path.section('/', -1) : label, Told(descriptor, before), Told(descriptor, after));
 }
 
 QString ChangeText::LabelOnScreen(const TKE::ValueBase& value)
@@ -91,41 +74,6 @@ QString ChangeText::LabelOnScreen(const TKE::ValueBase& value)
                 return label;
     }
     return {};
-}
-
-QString ChangeText::ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored)
-{
-    using TKE::ValueKind;
-    const auto withUnit = [&](const QString& number)
-    { return descriptor.unit.isEmpty() ? number : number + ' ' + descriptor.unit; };
-    switch (descriptor.kind)
-    {
-    case ValueKind::Bool:
-        return stored == QLatin1String("true") ? tr("on") : tr("off");
-    case ValueKind::Int:
-        return withUnit(stored);
-    case ValueKind::Double:
-        return withUnit(TKE::Decimal::ToText(stored.toDouble(), -1, QLocale()));
-    case ValueKind::Frequency:
-        return Frequency(stored.toLongLong());
-    case ValueKind::DateTime:
-    {
-        const QDateTime moment = QDateTime::fromString(stored, Qt::ISODate);
-        return moment.isValid() ? moment.toString(TKE::ShownText::GetDateTimeFormat()) : tr("none");
-    }
-    case ValueKind::Selection:
-    {
-        QStringList names;
-        for (const QString& key : stored.split(';', Qt::SkipEmptyParts))
-            names << ItemName(descriptor, key);
-        return names.isEmpty() ? tr("none") : Shortened(names.join(QStringLiteral(", ")));
-    }
-    case ValueKind::DoubleList:
-        return stored.isEmpty() ? tr("none") : Shortened(stored.split(';').join(QStringLiteral(", ")));
-    case ValueKind::Text:
-        break;
-    }
-    return stored.isEmpty() ? tr("empty") : Shortened(stored);
 }
 
 } // namespace JOBEDIT

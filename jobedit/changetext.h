@@ -22,8 +22,6 @@ public:
                       const QString& after);
     /// What the field that shows the value in the active window is labelled with; empty when there is none.
     static QString LabelOnScreen(const TKE::ValueBase& value);
-    /// The content that `stored` stands for, as the dialogs show it, with its unit.
-    static QString ShownOf(const TKE::ValueDescriptor& descriptor, const QString& stored);
 };
 
 } // namespace JOBEDIT

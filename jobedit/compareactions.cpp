@@ -1,6 +1,7 @@
 #include "compareactions.h"
 
 #include "differencemodel.h"
+#include "fieldnavigator.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "nodepane.h"
@@ -24,6 +25,9 @@ CompareActions::CompareActions(MainWindow& window) : QObject(&window), m_window(
     menu->addAction(tr("Compare with &File..."), this, &CompareActions::Slot_OnCompareWithFile);
     m_withSaved = menu->addAction(tr("Compare with &Saved..."), this, &CompareActions::CompareWithSaved);
     menu->addAction(tr("Compare C&hains..."), this, &CompareActions::Slot_OnCompareChains);
+    m_toDifferences = menu->addAction(tr("To the &Differences"), this, [this] { m_open->Activate(); });
+    m_toDifferences->setShortcut(Qt::Key_F4);
+    m_toDifferences->setEnabled(false);
     connect(menu, &QMenu::aboutToShow, this,
             [this] { m_withSaved->setEnabled(!m_window.Document().GetFileName().isEmpty()); });
     window.installEventFilter(this);
@@ -50,13 +54,15 @@ CompareDialog* CompareActions::CompareWithSaved()
     const auto other = fileName.isEmpty() ? nullptr : Load(fileName);
     if (!other)
         return nullptr;
-    return Show({{}, {}, other->Source()}, other,
-                {.title = tr("Compare with Saved"),
-                 .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
-                 .leftName = tr("Open job"),
-                 .rightName = tr("Saved"),
-                 .takeOver = tr("&Take Back to Saved"),
-                 .close = tr("&Close")});
+    CompareDialog* dialog = Show({{}, {}, other->Source()}, other,
+                                 {.title = tr("Compare with Saved"),
+                                  .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
+                                  .leftName = tr("Open job"),
+                                  .rightName = tr("Saved"),
+                                  .takeOver = tr("&Take Back to Saved"),
+                                  .close = tr("&Close")});
+    CloseWhenSaved(dialog);
+    return dialog;
 }
 
 CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QString& rightPath)
@@ -97,6 +103,7 @@ CompareDialog* CompareActions::CompareWithDisk(bool evenIfSame)
     // Closed otherwise than by the button, nothing is decided, and saving asks.
     if (dialog)
         connect(dialog, &QDialog::accepted, this, [this, stamp] { m_settled = stamp; });
+    CloseWhenSaved(dialog);
     return dialog;
 }
 
@@ -184,6 +191,24 @@ std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
     return nullptr;
 }
 
+void CompareActions::GoTo(const QString& path)
+{
+    m_window.activateWindow();
+    if (path.endsWith(u'/') && m_window.Nodes().SelectNode(path))
+        m_window.Nodes().View()->setFocus(Qt::OtherFocusReason);
+    else
+        FieldNavigator(m_window).GoToOrTell(path);
+    if (const QWidget* focus = m_window.focusWidget(); focus && m_open)
+        m_open->KeepOff({focus->mapToGlobal(QPoint()), focus->size()});
+}
+
+// The file, which it was compared with, is another one then.
+void CompareActions::CloseWhenSaved(CompareDialog* dialog)
+{
+    if (dialog)
+        connect(&m_window.Document(), &JobDocument::Saved, dialog, &QWidget::close);
+}
+
 CompareDialog* CompareActions::Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
                                     bool ticked, bool evenIfSame)
 {
@@ -197,6 +222,12 @@ CompareDialog* CompareActions::Show(CompareSides sides, std::shared_ptr<const vo
         delete dialog;
         return nullptr;
     }
+    if (m_open)
+        m_open->close();
+    m_open = dialog;
+    m_toDifferences->setEnabled(true);
+    connect(dialog, &QDialog::finished, m_toDifferences, [action = m_toDifferences] { action->setEnabled(false); });
+    connect(dialog, &CompareDialog::Wanted, this, &CompareActions::GoTo);
     dialog->show();
     return dialog;
 }

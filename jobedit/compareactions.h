@@ -3,6 +3,7 @@
 #include "comparedialog.h"
 
 #include <QDateTime>
+#include <QPointer>
 
 namespace JOBEDIT
 {
@@ -11,7 +12,7 @@ class MainWindow;
 struct OtherJob;
 
 /// Tools > Compare..., and the look after the file of the open job: when somebody else has changed it, the differences
-/// are shown once, and the user decides what becomes of them.
+/// are shown once, and the user decides what becomes of them. One comparison is open at a time.
 class CompareActions : public QObject
 {
     Q_OBJECT
@@ -47,11 +48,15 @@ private:
     void Slot_OnCompareWithFile();
     void Slot_OnCompareChains();
     std::shared_ptr<OtherJob> Load(const QString& fileName);
+    void GoTo(const QString& path);
+    void CloseWhenSaved(CompareDialog* dialog);
     CompareDialog* Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
                         bool ticked = false, bool evenIfSame = true);
 
     MainWindow& m_window;
     QAction* m_withSaved;
+    QAction* m_toDifferences;
+    QPointer<CompareDialog> m_open;
     Stamp m_told;
     Stamp m_settled;
 };

@@ -3,6 +3,7 @@
 #include "differencemodel.h"
 #include "jobdocument.h"
 
+#include <QAction>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -10,6 +11,8 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScreen>
+#include <QSet>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -31,7 +34,6 @@ CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::sha
     , m_takeOver(new QPushButton(texts.takeOver, this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowModality(Qt::WindowModal);
     setWindowTitle(texts.title);
     m_filtered->setSourceModel(m_model);
     m_filtered->setFilterKeyColumn(-1);
@@ -42,10 +44,24 @@ CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::sha
     connect(m_model, &DifferenceModel::Ticked, this, &CompareDialog::ShowCounts);
     connect(m_takeOver, &QPushButton::clicked, this, &CompareDialog::TakeOverTicked);
     m_view->installEventFilter(this);
+    connect(&document, &JobDocument::ContentChanged, this, &CompareDialog::Outdate);
+    connect(&document, &JobDocument::NodesChanged, this, &CompareDialog::Outdate);
+    connect(&document, &JobDocument::NodesChanged, this, &CompareDialog::CloseWithoutNodes);
+    connect(&document, &JobDocument::Replaced, this, &QWidget::close);
     resize(1100, 560);
 }
 
 bool CompareDialog::Compare(bool ticked)
+{
+    if (!Fill(ticked))
+        return false;
+    FitColumns();
+    m_view->setCurrentIndex(m_filtered->index(0, 0));
+    m_view->setFocus();
+    return true;
+}
+
+bool CompareDialog::Fill(bool ticked)
 {
     QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
@@ -59,11 +75,8 @@ bool CompareDialog::Compare(bool ticked)
     if (progress.wasCanceled())
         return false;
     progress.reset();
+    m_outdated = false;
     m_model->SetDifferences(std::move(differences), ticked);
-    m_view->setColumnHidden(DifferenceModel::Reason, true);
-    FitColumns();
-    m_view->setCurrentIndex(m_filtered->index(0, 0));
-    m_view->setFocus();
     return true;
 }
 
@@ -98,6 +111,8 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->header()->setStretchLastSection(true);
+    m_view->setColumnHidden(DifferenceModel::Reason, true);
+    AddWays(texts.canSwap);
 
     auto* all = new QPushButton(tr("Tick &All"), this);
     auto* none = new QPushButton(tr("Tick &None"), this);
@@ -141,7 +156,94 @@ void CompareDialog::Swap()
 {
     std::swap(m_sides.leftBase, m_sides.rightBase);
     m_model->SwapNames();
+    m_model->SetRefusals({});
+    m_view->setColumnHidden(DifferenceModel::Reason, true);
     Compare(false);
+}
+
+// To the field of either side, or of the open job only.
+void CompareDialog::AddWays(bool both)
+{
+    const auto add = [this](const QString& text, Qt::KeyboardModifiers modifiers, QString CompareSides::*base)
+    {
+        auto* way = new QAction(text, m_view);
+        way->setShortcuts({modifiers | Qt::Key_Return, modifiers | Qt::Key_Enter});
+        way->setShortcutContext(Qt::WidgetShortcut);
+        connect(way, &QAction::triggered, this, [this, base] { Go(m_sides.*base); });
+        m_view->addAction(way);
+    };
+    add(both ? tr("Go to &Left Field") : tr("&Go to Field"), {}, &CompareSides::leftBase);
+    if (both)
+        add(tr("Go to &Right Field"), Qt::ControlModifier, &CompareSides::rightBase);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(m_view, &QTreeView::activated, this, [this] { Go(m_sides.leftBase); });
+}
+
+void CompareDialog::Go(const QString& base)
+{
+    if (const QModelIndex row = m_filtered->mapToSource(m_view->currentIndex()); row.isValid())
+        emit Wanted(base + m_model->GetDifferences()[size_t(row.row())].Path());
+}
+
+void CompareDialog::Activate()
+{
+    raise();
+    activateWindow();
+    m_view->setFocus(Qt::ShortcutFocusReason);
+}
+
+void CompareDialog::KeepOff(const QRect& place)
+{
+    if (!frameGeometry().intersects(place))
+        return;
+    const QRect free = screen()->availableGeometry();
+    const bool below = place.center().y() < free.center().y();
+    const int frame = frameGeometry().height() - height();
+    resize(width(), std::min(height(), (below ? free.bottom() - place.bottom() : place.top() - free.top()) - frame));
+    move(x(), below ? free.bottom() + 1 - frameGeometry().height() : free.top());
+}
+
+void CompareDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    // After the event, which belongs to the windows first.
+    if (event->type() == QEvent::ActivationChange)
+        QMetaObject::invokeMethod(this, &CompareDialog::Refresh, Qt::QueuedConnection);
+}
+
+void CompareDialog::Outdate()
+{
+    if (!std::exchange(m_outdated, true))
+        QMetaObject::invokeMethod(this, &CompareDialog::Refresh, Qt::QueuedConnection); // undo works here, too
+}
+
+void CompareDialog::CloseWithoutNodes()
+{
+    const TKE::Tree& tree = *TKE::Tree::Instance();
+    const auto gone = [](const TKE::Tree& of, const QString& base) { return !base.isEmpty() && !of.FindNode(base); };
+    if (gone(tree, m_sides.leftBase) || gone(m_sides.right.tree, m_sides.rightBase))
+        close();
+}
+
+// Once the user is here again: what was ticked stays so, and the next row takes the place of one that is gone.
+void CompareDialog::Refresh()
+{
+    if (!m_outdated || !isActiveWindow())
+        return;
+    const auto pathOf = [this](int row) { return m_model->GetDifferences()[size_t(row)].Path(); };
+    QSet<QString> ticked;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        if (m_model->IsTicked(m_model->index(row, 0)))
+            ticked << pathOf(row);
+    const int current = m_view->currentIndex().row();
+    if (!Fill(false))
+        return reject();
+    QModelIndexList still;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        if (ticked.contains(pathOf(row)))
+            still << m_model->index(row, 0);
+    m_model->Tick(still, true);
+    m_view->setCurrentIndex(m_filtered->index(std::clamp(current, 0, std::max(m_filtered->rowCount() - 1, 0)), 0));
 }
 
 void CompareDialog::FitColumns()

@@ -30,7 +30,9 @@ struct CompareTexts
 
 /// The differences between the open job and something else as a list with tick boxes, a filter above it, and a button
 /// that takes the ticked ones over into the open job. Space ticks the selected rows; what a filter hides is not taken
-/// over. Deletes itself when it is closed.
+/// over. Return leads to the field. Deletes itself when it is closed, and when the job is another one.
+///
+/// The job may be edited while the list is open: coming back to it, one sees what is left.
 class CompareDialog : public QDialog
 {
     Q_OBJECT
@@ -43,16 +45,29 @@ public:
     /// Compares; false when the user cancelled it. Ticks all when asked to.
     bool Compare(bool ticked);
     DifferenceModel& Model() { return *m_model; }
+    /// Brings the list to the front, with the keyboard.
+    void Activate();
+    /// Makes room for what stands at this place of the screen.
+    void KeepOff(const QRect& place);
 
 signals:
+    /// The user wants to see the field, or the node where the path ends in "/".
+    void Wanted(const QString& path);
     /// Something could not be taken over.
     void Refused(const QString& path, const QString& reason);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void MakeLayout(const CompareTexts& texts);
+    void AddWays(bool both);
+    void Go(const QString& base);
+    void Outdate();
+    void CloseWithoutNodes();
+    void Refresh();
+    bool Fill(bool ticked);
     void FitColumns();
     void Swap();
     void TakeOverTicked();
@@ -71,6 +86,7 @@ private:
     QTreeView* m_view;
     QLabel* m_counts;
     QPushButton* m_takeOver;
+    bool m_outdated = false; // the job has changed since it was compared
 };
 
 } // namespace JOBEDIT

@@ -13,7 +13,6 @@ void DifferenceModel::SetDifferences(std::vector<Difference> differences, bool t
     beginResetModel();
     m_differences = std::move(differences);
     m_ticked.assign(m_differences.size(), ticked);
-    m_refusals.clear();
     endResetModel();
     emit Ticked();
 }
@@ -65,6 +64,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
 
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid()) // a view that shows nothing asks for that
+        return {};
     const Difference& difference = m_differences[size_t(index.row())];
     switch (role)
     {

@@ -28,7 +28,7 @@ public:
 
     DifferenceModel(const QString& leftName, const QString& rightName, QObject* parent);
 
-    /// All are ticked or none is; refusals are forgotten.
+    /// All are ticked or none is.
     void SetDifferences(std::vector<Difference> differences, bool ticked);
     const std::vector<Difference>& GetDifferences() const { return m_differences; }
     void SwapNames();

@@ -49,7 +49,7 @@ void Write(JobDocument& document, const QString& path, const QString& stored)
 void AddReset(QMenu& menu, JobDocument& document, const QString& text, const TKE::ValueBase& value,
               const QString& stored, bool possible)
 {
-    QAction* action = menu.addAction(text.arg(Escaped(ValueTexts::OfStored(value, stored).left(longestLine))));
+    QAction* action = menu.addAction(text.arg(Escaped(ValueTexts::OfStored(value.GetDescriptor(), stored).left(longestLine))));
     action->setEnabled(possible);
     // When the menu is gone: writing may replace the panel that the menu stands on.
     QObject::connect(
@@ -109,8 +109,8 @@ void FieldMenu::Fill(QMenu& menu, JobDocument& document, const TKE::ValueBase& v
         AddLine(menu, tr("Unit: %1").arg(descriptor.unit));
     if (!descriptor.description.isEmpty())
         AddLine(menu, tr("Description: %1").arg(descriptor.description));
-    AddLine(menu, tr("Default: %1").arg(ValueTexts::OfDefault(value)));
-    AddLine(menu, tr("Saved: %1").arg(ValueTexts::OfStored(value, saved)));
+    AddLine(menu, tr("Default: %1").arg(ValueTexts::OfDefault(value.GetDescriptor())));
+    AddLine(menu, tr("Saved: %1").arg(ValueTexts::OfStored(value.GetDescriptor(), saved)));
 }
 
 bool FieldMenu::eventFilter(QObject* object, QEvent* event)

@@ -3,6 +3,7 @@
 #include "keys/keymanager.h"
 #include "keys/keys.h"
 #include "value/tree.h"
+#include "valuetexts.h"
 
 #include <QLocale>
 #include <algorithm>
@@ -315,35 +316,13 @@ QString FrequencyPlan::MarkText(const PlanMark& mark)
 {
     QString text;
     if (mark.frequency < 0)
-        text = tr("%1: %2 to %3").arg(SourceText(mark), FrequencyText(mark.from), FrequencyText(mark.to));
+        text = tr("%1: %2 to %3").arg(SourceText(mark), ValueTexts::OfFrequency(mark.from), ValueTexts::OfFrequency(mark.to));
     else if (mark.to > mark.from)
         text = tr("%1: %2, bandwidth %3")
-                   .arg(SourceText(mark), FrequencyText(mark.frequency), FrequencyText(mark.to - mark.from));
+                   .arg(SourceText(mark), ValueTexts::OfFrequency(mark.frequency), ValueTexts::OfFrequency(mark.to - mark.from));
     else
-        text = tr("%1: %2").arg(SourceText(mark), FrequencyText(mark.frequency));
+        text = tr("%1: %2").arg(SourceText(mark), ValueTexts::OfFrequency(mark.frequency));
     return mark.active ? text : tr("%1 (switched off)").arg(text);
-}
-
-QString FrequencyPlan::FrequencyText(qint64 hertz)
-{
-    struct Unit
-    {
-        qint64 size;
-        const char* name;
-        int decimals;
-    };
-    static constexpr Unit units[] = {{1'000'000'000, "GHz", 9}, {1'000'000, "MHz", 6}, {1'000, "kHz", 3}, {1, "Hz", 0}};
-    const Unit* unit = units;
-    while (unit->size > 1 && std::llabs(hertz) < unit->size)
-        ++unit;
-    // Digits of whole Hz, not a division: 1.234567891 GHz is exact.
-    QString text = QString::number(std::llabs(hertz) / unit->size);
-    QString decimals = QString::number(std::llabs(hertz) % unit->size).rightJustified(unit->decimals, '0');
-    while (!decimals.isEmpty() && (unit->decimals == 0 || decimals.endsWith('0')))
-        decimals.chop(1);
-    if (!decimals.isEmpty())
-        text += QLocale().decimalPoint() + decimals;
-    return (hertz < 0 ? QLocale().negativeSign() : QString()) + text + ' ' + QLatin1StringView(unit->name);
 }
 
 } // namespace JOBEDIT

@@ -74,8 +74,6 @@ public:
     static QString SourceText(const PlanMark& mark);
     /// What the mark is and where: "Receive frequency: 10 MHz, bandwidth 2.7 kHz".
     static QString MarkText(const PlanMark& mark);
-    /// Exact, in the unit that suits it: "10.0015 MHz".
-    static QString FrequencyText(qint64 hertz);
 
 private:
     std::vector<PlanLane> m_lanes;

@@ -1,10 +1,8 @@
 #include "jobdiff.h"
 
-#include "valuewidgets/decimal.h"
+#include "valuetexts.h"
 
 #include <QCoreApplication>
-#include <QLocale>
-#include <algorithm>
 #include <unordered_set>
 
 namespace JOBEDIT
@@ -152,48 +150,11 @@ private:
     bool m_ended = false;
 };
 
-const TKE::SelectionItem* FindItem(const TKE::ValueDescriptor& descriptor, QStringView key)
-{
-    bool isNumber = false;
-    const int number = key.toInt(&isNumber);
-    const auto found = std::ranges::find(descriptor.items, number, &TKE::SelectionItem::GetKey);
-    return isNumber && found != descriptor.items.end() ? &*found : nullptr;
-}
-
-/// Exact, in the largest unit that leaves a number of at least 1.
-QString FrequencyText(qint64 hertz)
-{
-    struct Unit
-    {
-        int decimals;
-        const char* name;
-    };
-    for (const Unit& unit : {Unit{9, "GHz"}, Unit{6, "MHz"}, Unit{3, "kHz"}})
-    {
-        QString digits = QString::number(hertz);
-        if (hertz <= 0 || digits.size() <= unit.decimals)
-            continue;
-        const QString point = QLocale().decimalPoint();
-        digits.insert(digits.size() - unit.decimals, point);
-        while (digits.endsWith(u'0'))
-            digits.chop(1);
-        if (digits.endsWith(point))
-            digits.chop(point.size());
-        return digits + u' ' + QLatin1String(unit.name);
-    }
-    return QString::number(hertz) + QLatin1String(" Hz");
-}
-
-QString WithUnit(const QString& content, const TKE::ValueDescriptor& descriptor)
-{
-    return descriptor.unit.isEmpty() || content.isEmpty() ? content : content + u' ' + descriptor.unit;
-}
-
 QString TextOf(const Difference& difference, const QString& stored)
 {
     if (!difference.descriptor)
         return stored.isEmpty() ? JobDiff::tr("(node)") : stored;
-    return ReadableText(*difference.descriptor, stored);
+    return ValueTexts::OfStored(*difference.descriptor, stored);
 }
 
 } // namespace
@@ -247,31 +208,6 @@ QString ToText(const std::vector<Difference>& differences)
         }
     }
     return text;
-}
-
-QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stored)
-{
-    switch (descriptor.kind)
-    {
-    case TKE::ValueKind::Bool:
-        return stored == u"true" ? JobDiff::tr("on") : JobDiff::tr("off");
-    case TKE::ValueKind::Double:
-        return WithUnit(TKE::Decimal::ToText(stored.toDouble(), -1, QLocale()), descriptor);
-    case TKE::ValueKind::Frequency:
-        return FrequencyText(stored.toLongLong());
-    case TKE::ValueKind::Selection:
-    {
-        QStringList names;
-        for (const QString& key : stored.split(u';', Qt::SkipEmptyParts))
-        {
-            const TKE::SelectionItem* item = FindItem(descriptor, key);
-            names << (item ? item->GetName() : key);
-        }
-        return names.join(QStringLiteral(", "));
-    }
-    default:
-        return WithUnit(stored, descriptor);
-    }
 }
 
 } // namespace JOBEDIT

@@ -47,8 +47,4 @@ std::vector<Difference> CompareTrees(const TKE::Tree& left, const QString& leftB
 /// One difference a line: "-" before what only the left side has, "+" what only the right one has, "~" what differs.
 QString ToText(const std::vector<Difference>& differences);
 
-/// A content in stored form as people read it, in full and in the application's locale: names of items, the unit after
-/// the number.
-QString ReadableText(const TKE::ValueDescriptor& descriptor, const QString& stored);
-
 } // namespace JOBEDIT

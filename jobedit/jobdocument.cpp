@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QLockFile>
 
 namespace JOBEDIT
 {
@@ -103,19 +102,9 @@ bool JobDocument::SaveAs(const QString& fileName, TKE::FileError& error)
     return true;
 }
 
-QString JobDocument::LockedBy(const QString& fileName) const
+std::optional<JobLock> JobDocument::LockOf(const QString& fileName) const
 {
-    if (IsOwnFile(fileName) && !m_readOnly)
-        return {};
-    QLockFile probe(QFileInfo(fileName).absoluteFilePath() + ".lock");
-    probe.setStaleLockTime(0); // a lock is stale only when its holder is gone, however long it has been there
-    if (probe.tryLock(0) || probe.error() != QLockFile::LockFailedError)
-        return {};
-    qint64 process = 0;
-    QString host, application;
-    if (!probe.getLockInfo(&process, &host, &application))
-        return tr("another editor");
-    return tr("%1 on %2, process %3").arg(application, host).arg(process);
+    return IsOwnFile(fileName) && !m_readOnly ? std::nullopt : JobLock::Of(fileName);
 }
 
 std::vector<JobNode> JobDocument::GetNodes() const

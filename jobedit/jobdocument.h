@@ -1,6 +1,7 @@
 #pragma once
 
 #include "edithistory.h"
+#include "joblock.h"
 #include "jobnode.h"
 
 #include <QHash>
@@ -40,8 +41,8 @@ public:
     /// Told while a job is opened or saved; may cancel that. Empty: nobody.
     void SetProgress(TKE::JobFile::Progress progress) { m_file.SetProgress(std::move(progress)); }
 
-    /// Who else has the file open in an editor; empty when nobody has.
-    QString LockedBy(const QString& fileName) const;
+    /// The lock of somebody else who has the file open in an editor.
+    std::optional<JobLock> LockOf(const QString& fileName) const;
 
     EditHistory& History() { return *m_history; }
 

@@ -9,6 +9,7 @@
 #include "guidewindow.h"
 #include "hintbar.h"
 #include "lastplaces.h"
+#include "lockquestion.h"
 #include "longwork.h"
 #include "findbar.h"
 #include "fieldmarks.h"
@@ -34,7 +35,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -159,7 +159,7 @@ void MainWindow::OfferHint()
 
 bool MainWindow::NewFromSample()
 {
-    if (!MayGo())
+    if (!Saving(*this).MayGo())
         return false;
     KeepPlace();
     return Run(
@@ -169,21 +169,19 @@ bool MainWindow::NewFromSample()
 
 bool MainWindow::OpenFile(const QString& fileName)
 {
-    if (!MayGo())
+    if (!Saving(*this).MayGo())
         return false;
     auto access = JobDocument::Access::ReadWrite;
-    if (const QString holder = m_document->LockedBy(fileName); !holder.isEmpty())
+    if (const auto lock = m_document->LockOf(fileName))
     {
-        QMessageBox question(QMessageBox::Question, tr("Open Job"),
-                             tr("%1 is open in another editor: %2.").arg(QFileInfo(fileName).fileName(), holder),
-                             QMessageBox::Cancel, this);
-        question.setInformativeText(tr("Opened read-only, it can be saved under another name."));
-        QPushButton* readOnly = question.addButton(tr("Open &Read-Only"), QMessageBox::AcceptRole);
-        question.setDefaultButton(readOnly);
-        question.exec();
-        if (question.clickedButton() != readOnly)
+        using Choice = LockQuestion::Choice;
+        const Choice choice =
+            LockQuestion::Ask(*this, tr("Open Job"), fileName, *lock, tr("Open &Read-Only"),
+                              tr("Opened read-only, it can be saved under another name."));
+        if (choice == Choice::Cancelled)
             return false;
-        access = JobDocument::Access::ReadOnly;
+        if (choice == Choice::Other)
+            access = JobDocument::Access::ReadOnly;
     }
     KeepPlace();
     const QString name = QFileInfo(fileName).fileName();
@@ -223,7 +221,7 @@ bool MainWindow::SaveTo(const QString& fileName)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!MayGo())
+    if (!Saving(*this).MayGo())
         return event->ignore();
     KeepPlace();
     QSettings settings;
@@ -348,27 +346,6 @@ void MainWindow::FillPanelMenu()
             m_panelMenu->addAction(QCoreApplication::translate("JOBEDIT::DirectPanels", panel->title), this,
                                    [this, node = *node, panel] { (new PanelWindow(node, *panel, this))->show(); });
     m_panelMenu->setEnabled(!m_panelMenu->isEmpty());
-}
-
-bool MainWindow::MayGo()
-{
-    CommitPendingEdit();
-    if (!m_document->IsModified())
-        return true;
-    const QString name =
-        m_document->GetFileName().isEmpty() ? tr("The new job") : QFileInfo(m_document->GetFileName()).fileName();
-    QMessageBox question(QMessageBox::Warning, tr("Job Editor"), tr("%1 has changes that are not saved.").arg(name),
-                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    question.setDefaultButton(QMessageBox::Save);
-    switch (question.exec())
-    {
-    case QMessageBox::Save:
-        return Save();
-    case QMessageBox::Discard:
-        return true;
-    default:
-        return false;
-    }
 }
 
 void MainWindow::ShowMessages()

@@ -66,6 +66,8 @@ public:
     /// counts; a cancelled operation is told in the status bar.
     bool Run(const QString& title, const std::function<bool(TKE::FileError&)>& operation,
              const std::function<bool(const TKE::FileError&)>& failed);
+    /// Tells of a failure. False, for the caller to return.
+    bool Fail(const QString& text, const TKE::FileError& error);
     RecoveryOffer& Recovery() { return *m_recovery; }
     CompareActions& Comparing() { return *m_compare; }
     QDockWidget* MessageDock() const { return m_messageDock; }
@@ -95,10 +97,6 @@ private:
     /// For the next time that this file is opened.
     void KeepPlace() const;
 
-    /// Asks what becomes of unsaved changes. False: leave everything as it is.
-    bool MayGo();
-    /// False, for the caller to return.
-    bool Fail(const QString& text, const TKE::FileError& error);
     void RestoreLayout();
 
     JobDocument* m_document;

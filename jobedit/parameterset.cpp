@@ -1,7 +1,7 @@
 #include "parameterset.h"
 
-#include "jobdiff.h"
 #include "nodecopy.h"
+#include "valuetexts.h"
 #include "valuewidgets/fieldholder.h"
 #include "valuewidgets/valuelink.h"
 
@@ -53,7 +53,7 @@ QString Resolve(QString base, QString path)
 ParameterSet::Parameter Describe(const TKE::ValueBase& value, const QString& path)
 {
     const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
-    return {path, value.GetStoredText(), descriptor.label, ReadableText(descriptor, value.GetStoredText())};
+    return {path, value.GetStoredText(), descriptor.label, ValueTexts::OfContent(value)};
 }
 
 void Collect(const TKE::Node& node, const QString& base, const std::unordered_set<QString>& others, ParameterSet& set)

@@ -260,6 +260,7 @@ void RecoveryJournal::WriteSome()
         m_timer.start(0);
         return;
     }
+    m_sync.Start(*m_file);
     m_waiting.clear();
     m_written = 0;
 }

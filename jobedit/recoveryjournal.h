@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backgroundsync.h"
 #include "editstep.h"
 #include "recoveryfile.h"
 
@@ -17,10 +18,13 @@ namespace JOBEDIT
 
 class JobDocument;
 
-/// Keeps what is edited and not saved in a file beside the user's data, for the case that the editor dies.
+/// Keeps what is edited and not saved in a file beside the user's data, for the case that the editor dies, or the
+/// computer.
 ///
 /// The file comes with the first edit and goes when the job is saved, replaced or closed. An edit is in the file within
-/// half a second, and at once when the application loses the focus. A lock beside it tells that its editor lives.
+/// half a second, and at once when the application loses the focus: a killed editor loses no more than that. A power
+/// loss takes also what the disk had not done with yet: it is told to begin with each writing, and nobody waits for it.
+/// A record that was written in part costs itself only. A lock beside the file tells that its editor lives.
 class RecoveryJournal : public QObject
 {
     Q_OBJECT
@@ -57,6 +61,7 @@ private:
     RecoveryBase m_base;
     std::unique_ptr<QFile> m_file;
     std::unique_ptr<QLockFile> m_lock;
+    BackgroundSync m_sync;
     bool m_failed = false; // and reported; there will be no file for this job
     std::vector<RecoveryChange> m_waiting;
     size_t m_written = 0;               // of m_waiting

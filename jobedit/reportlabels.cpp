@@ -1,8 +1,8 @@
 #include "reportlabels.h"
 
 #include "fieldtexts.h"
-#include "frequencyplan.h"
 #include "jobmodel/journalpause.h"
+#include "valuetexts.h"
 #include "valuewidgets/showntext.h"
 
 #include <QCoreApplication>
@@ -49,7 +49,7 @@ ReportLabels::Shown ReportLabels::Of(const TKE::ValueBase& value) const
         return {value.GetBool() ? tr("on") : tr("off"), {}};
     case TKE::ValueKind::Frequency:
     {
-        const QString text = FrequencyPlan::FrequencyText(static_cast<const TKE::FrequencyValue&>(value).GetValue());
+        const QString text = ValueTexts::OfFrequency(static_cast<const TKE::FrequencyValue&>(value).GetValue());
         const qsizetype blank = text.lastIndexOf(' ');
         return {text.left(blank), text.mid(blank + 1)};
     }
@@ -58,7 +58,7 @@ ReportLabels::Shown ReportLabels::Of(const TKE::ValueBase& value) const
         QStringList numbers;
         const bool isFrequency = descriptor.unit == QLatin1StringView("Hz");
         for (const double number : static_cast<const TKE::DoubleListValue&>(value).GetValue())
-            numbers << (isFrequency && number == std::rint(number) ? FrequencyPlan::FrequencyText(std::llround(number))
+            numbers << (isFrequency && number == std::rint(number) ? ValueTexts::OfFrequency(std::llround(number))
                                                                    : m_locale.toString(number, 'g', 15));
         return {numbers.join("; "), isFrequency ? QString() : descriptor.unit};
     }

@@ -2,6 +2,7 @@
 
 #include "compareactions.h"
 #include "dialogpane.h"
+#include "lockquestion.h"
 #include "longwork.h"
 #include "mainwindow.h"
 #include "messagelist.h"
@@ -51,9 +52,17 @@ bool Saving::SaveAs()
 bool Saving::SaveTo(const QString& fileName)
 {
     CommitPendingEdit();
-    if (const QString holder = m_document.LockedBy(fileName); !holder.isEmpty())
+    if (const auto lock = m_document.LockOf(fileName); lock && lock->IsOutOfSight())
+    {
+        using Choice = LockQuestion::Choice;
+        const Choice choice = LockQuestion::Ask(m_window, tr("Save Job"), fileName, *lock, tr("Save &As..."),
+                                                tr("The job can be saved in another place."));
+        if (choice != Choice::TakenOver)
+            return choice == Choice::Other && SaveAs();
+    }
+    else if (lock)
         return SaveElsewhere(fileName,
-                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(holder)});
+                             {.file = fileName, .reason = tr("it is open in another editor: %1").arg(lock->ToText())});
     if (!MayReplace(fileName))
         return false;
     ReportRefusals();
@@ -65,6 +74,27 @@ bool Saving::SaveTo(const QString& fileName)
     RecentFiles::Add(fileName);
     m_window.statusBar()->showMessage(tr("%1 saved").arg(m_document.GetFileName()), 5000);
     return true;
+}
+
+bool Saving::MayGo()
+{
+    CommitPendingEdit();
+    if (!m_document.IsModified())
+        return true;
+    const QString name =
+        m_document.GetFileName().isEmpty() ? tr("The new job") : QFileInfo(m_document.GetFileName()).fileName();
+    QMessageBox question(QMessageBox::Warning, tr("Job Editor"), tr("%1 has changes that are not saved.").arg(name),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    question.setDefaultButton(QMessageBox::Save);
+    switch (question.exec())
+    {
+    case QMessageBox::Save:
+        return Save();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool Saving::MayOverwrite()

@@ -9,8 +9,8 @@ namespace JOBEDIT
 
 class MainWindow;
 
-/// Saves the window's job, and asks before anything is lost by that. What is still being typed is committed first. A
-/// save that fails is shown with its reason and leads to another place, if the user wants.
+/// Saves the window's job, and asks before anything is lost by that or without it. What is still being typed is
+/// committed first. A save that fails is shown with its reason and leads to another place, if the user wants.
 class Saving
 {
     Q_DECLARE_TR_FUNCTIONS(JOBEDIT::Saving)
@@ -22,6 +22,8 @@ public:
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& fileName);
+    /// Asks what becomes of unsaved changes. False: leave everything as it is.
+    bool MayGo();
     /// Tells of entries that stand in the dialog but were refused: they are not what is saved.
     void ReportRefusals();
 

@@ -151,7 +151,7 @@ ValueScan::SortKey ValueScan::KeyOf(const TKE::ValueBase& value) const
         const double number = IsNumber(value) ? stored.toDouble(&isNumber) : 0.0;
         // Numbers go before texts.
         return isNumber ? SortKey{number, {}}
-                        : SortKey{std::numeric_limits<double>::infinity(), ValueTexts::OfStored(value, stored)};
+                        : SortKey{std::numeric_limits<double>::infinity(), ValueTexts::OfStored(value.GetDescriptor(), stored)};
     };
     switch (m_query.sortedBy)
     {

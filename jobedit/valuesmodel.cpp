@@ -136,9 +136,9 @@ QString ValuesModel::TextAt(const TKE::ValueBase& value, int column) const
     case ValueListing::Content:
         return ValueTexts::OfContent(value);
     case ValueListing::Saved:
-        return ValueTexts::OfStored(value, m_document.SavedText(value));
+        return ValueTexts::OfStored(value.GetDescriptor(), m_document.SavedText(value));
     case ValueListing::Default:
-        return ValueTexts::OfDefault(value);
+        return ValueTexts::OfDefault(value.GetDescriptor());
     case ValueListing::Key:
         return value.GetName();
     case ValueListing::Path:

@@ -1,9 +1,11 @@
 #include "valuetexts.h"
 
-#include "value/valueselection.h"
 #include "valuewidgets/decimal.h"
-#include "valuewidgets/guicentral.h"
 #include "valuewidgets/showntext.h"
+#include "valuewidgets/suffixeddouble.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace JOBEDIT
 {
@@ -11,53 +13,68 @@ namespace JOBEDIT
 namespace
 {
 
-QString ItemName(const TKE::ValueSelection& selection, const QString& stored)
+QString ItemName(const TKE::ValueDescriptor& descriptor, const QString& key)
 {
-    bool isKey = false;
-    const TKE::SelectionItem* item = selection.FindItem(stored.toInt(&isKey));
-    return isKey && item ? item->GetName() : stored;
+    bool isNumber = false;
+    const int number = key.toInt(&isNumber);
+    const auto found = std::ranges::find(descriptor.items, number, &TKE::SelectionItem::GetKey);
+    return isNumber && found != descriptor.items.end() ? found->GetName() : key;
 }
 
-QString Number(const TKE::ValueBase& value, double stored)
+QString Number(const TKE::ValueDescriptor& descriptor, double number)
 {
-    const QLocale locale;
-    if (value.GetKind() == TKE::ValueKind::Frequency)
-    {
-        const auto unit = TKE::GuiCentral::Instance().GetFrequencyUnit();
-        return TKE::SuffixedDouble::ToText(qint64(stored), unit, locale) + u' ' +
-               TKE::SuffixedDouble::GetUnitText(unit);
-    }
-    const QString number = TKE::Decimal::ToText(stored, -1, locale);
-    const QString& unit = value.GetDescriptor().unit;
-    return unit.isEmpty() ? number : number + u' ' + unit;
+    if (descriptor.kind == TKE::ValueKind::Frequency)
+        return ValueTexts::OfFrequency(std::llround(number));
+    const QString text = TKE::Decimal::ToText(number, -1, QLocale());
+    return descriptor.unit.isEmpty() ? text : text + u' ' + descriptor.unit;
 }
 
 } // namespace
 
-QString ValueTexts::OfStored(const TKE::ValueBase& value, const QString& stored)
+QString ValueTexts::OfFrequency(qint64 hertz)
 {
-    switch (value.GetKind())
+    using TKE::SuffixedDouble;
+    const double size = std::abs(double(hertz));
+    const auto unit = size >= 1e9   ? SuffixedDouble::Giga
+                      : size >= 1e6 ? SuffixedDouble::Mega
+                      : size >= 1e3 ? SuffixedDouble::Kilo
+                                    : SuffixedDouble::Hertz;
+    return SuffixedDouble::ToText(hertz, unit, QLocale()) + u' ' + SuffixedDouble::GetUnitText(unit);
+}
+
+QString ValueTexts::OfStored(const TKE::ValueDescriptor& descriptor, const QString& stored)
+{
+    const auto each = [&](QLatin1StringView separator, const auto& textOf)
+    {
+        QStringList texts = stored.split(u';', Qt::SkipEmptyParts);
+        for (QString& text : texts)
+            text = textOf(descriptor, text);
+        return texts.join(separator);
+    };
+    const auto number = [](const TKE::ValueDescriptor& of, const QString& text)
+    {
+        bool isNumber = false;
+        const double read = text.toDouble(&isNumber);
+        return isNumber ? Number(of, read) : text;
+    };
+    switch (descriptor.kind)
     {
     case TKE::ValueKind::Bool:
         return stored == QLatin1StringView("true") ? tr("on") : tr("off");
     case TKE::ValueKind::Selection:
-        return value.GetDescriptor().multiple ? stored
-                                              : ItemName(static_cast<const TKE::ValueSelection&>(value), stored);
+        return each(QLatin1StringView(", "), ItemName);
     case TKE::ValueKind::Int:
     case TKE::ValueKind::Double:
     case TKE::ValueKind::Frequency:
-    {
-        bool isNumber = false;
-        const double number = stored.toDouble(&isNumber);
-        return isNumber ? Number(value, number) : stored;
-    }
+        return number(descriptor, stored);
+    case TKE::ValueKind::DoubleList:
+        return each(QLatin1StringView("; "), number); // a comma may stand in the numbers
     case TKE::ValueKind::DateTime:
     {
         const QDateTime moment = QDateTime::fromString(stored, Qt::ISODate);
         return moment.isValid() ? moment.toString(TKE::ShownText::GetDateTimeFormat()) : stored;
     }
     case TKE::ValueKind::Text:
-    case TKE::ValueKind::DoubleList:
         break;
     }
     return stored;
@@ -67,10 +84,10 @@ QString ValueTexts::Range(const TKE::ValueBase& value)
 {
     const auto& [minimum, maximum] = std::tie(value.GetDescriptor().minimum, value.GetDescriptor().maximum);
     if (minimum && maximum)
-        return tr("%1 to %2").arg(Number(value, *minimum), Number(value, *maximum));
+        return tr("%1 to %2").arg(Number(value.GetDescriptor(), *minimum), Number(value.GetDescriptor(), *maximum));
     if (minimum)
-        return tr("at least %1").arg(Number(value, *minimum));
-    return maximum ? tr("at most %1").arg(Number(value, *maximum)) : QString();
+        return tr("at least %1").arg(Number(value.GetDescriptor(), *minimum));
+    return maximum ? tr("at most %1").arg(Number(value.GetDescriptor(), *maximum)) : QString();
 }
 
 QString ValueTexts::Label(const TKE::ValueBase& value)

@@ -2,6 +2,7 @@
 #include "jobedit/compareactions.h"
 #include "jobedit/differencemodel.h"
 #include "jobedit/otherjob.h"
+#include "jobedit/valuetexts.h"
 #include "common.h"
 
 using namespace EditorTest;
@@ -127,8 +128,12 @@ private Q_SLOTS:
         row("kHz", frequency, "1050", "1.05 kHz");
         row("MHz", frequency, "433920001", "433.920001 MHz");
         row("GHz", frequency, "3000000000", "3 GHz");
-        row("negative", frequency, "-5000", "-5000 Hz");
+        row("GHz to the last Hz", frequency, "1234567891", "1.234567891 GHz");
+        row("negative", frequency, "-5000", "-5 kHz");
         row("number", int(ValueKind::Double), "-2.5", "-2.5 dB");
+        row("numbers", int(ValueKind::DoubleList), "-2.5;3", "-2.5; 3");
+        row("no number", int(ValueKind::Int), "many", "many");
+        row("moment", int(ValueKind::DateTime), "2024-02-29T23:05:00", "29.02.2024 23:05:00");
         row("off", int(ValueKind::Bool), "false", "off");
         row("items", int(ValueKind::Selection), "1;9", "One, 9");
     }
@@ -140,12 +145,12 @@ private Q_SLOTS:
         descriptor.kind = ValueKind(kind);
         descriptor.unit = descriptor.kind == ValueKind::Double ? "dB" : "";
         descriptor.items = {{1, "One"}};
-        QTEST(ReadableText(descriptor, stored), "text");
+        QTEST(ValueTexts::OfStored(descriptor, stored), "text");
         QFETCH(QString, text);
-        if (descriptor.kind != ValueKind::Selection)
+        if (descriptor.kind != ValueKind::Selection && descriptor.kind != ValueKind::DateTime)
             text.replace('.', ',');
         QLocale::setDefault(QLocale::German);
-        const QString german = ReadableText(descriptor, stored);
+        const QString german = ValueTexts::OfStored(descriptor, stored);
         QLocale::setDefault(QLocale::C);
         QCOMPARE(german, text);
     }
@@ -198,6 +203,9 @@ private Q_SLOTS:
         QTest::mouseClick(Button(*dialog, "tickAll"), Qt::LeftButton);
         QTest::mouseClick(Button(*dialog, "takeOver"), Qt::LeftButton);
         QCOMPARE(dialog->Model().rowCount(), 0);
+        QTest::keyClick(List(*dialog), Qt::Key_C, Qt::ControlModifier); // in an empty list
+        for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Down})
+            QTest::keyClick(List(*dialog), key);
         QTest::keyClick(dialog, Qt::Key_Escape);
         QVERIFY(!Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_EXT"));
         const QString added = "/Jobs/Demo/TDS_NEW/CS_EXT/TUNER/";
@@ -258,6 +266,73 @@ private Q_SLOTS:
         QTest::keyClick(List(*dialog), Qt::Key_Space);
         QTest::mouseClick(Button(*dialog, "takeOver"), Qt::LeftButton);
         QCOMPARE(Value(frequencyPath)->GetStoredText(), QString("10000000"));
+    }
+
+    void returnLeadsToTheFieldAndF4BackToTheList()
+    {
+        WriteAll(m_desk->File("other.job.xml"), SampleWithFrequency("7040000").replace("name=\"TDS_EXT\"", "name=\"TDS_NEW\""));
+        CompareDialog* dialog = Window().Comparing().CompareWithFile(m_desk->File("other.job.xml"));
+        QVERIFY(dialog);
+        QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QTreeView* list = List(*dialog);
+        Window().Nodes().SelectNode(voicePath);
+        // A node that the job has, one that it lacks, and a field.
+        QStringList seen;
+        for (int row = 0; row < 3; ++row)
+        {
+            const Difference& difference = dialog->Model().GetDifferences()[size_t(row)];
+            list->setCurrentIndex(list->model()->index(row, DifferenceModel::Parameter));
+            QTest::keyClick(list, Qt::Key_Return);
+            QTRY_COMPARE(QApplication::activeWindow(), &Window());
+            QVERIFY(dialog->isVisible());
+            seen << Window().Nodes().GetCurrentNode()->path;
+            if (difference.key == Keys::TUNER_HF_NB_FREQUENCY)
+            {
+                auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+                QVERIFY(field);
+                const QRect place(field->mapToGlobal(QPoint()), field->size());
+                QVERIFY(!dialog->frameGeometry().intersects(place));
+                field->selectAll();
+                QTest::keyClicks(field, "7040 k");
+            }
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+            QTRY_COMPARE(QApplication::activeWindow(), dialog);
+            QVERIFY(list->hasFocus());
+        }
+        QCOMPARE(seen, (QStringList{"/Jobs/Demo/TDS_EXT/", tunerPath, "/Jobs/Demo/"}));
+        QVERIFY(Window().statusBar()->currentMessage().contains("TDS_NEW"));
+        // What was set right meanwhile is gone, what is ticked stays so.
+        QTRY_COMPARE(dialog->Model().rowCount(), 2);
+        QTest::keyClick(list, Qt::Key_Space);
+        QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(dialog->Model().rowCount(), 3);
+        int ticked = 0;
+        for (int row = 0; row < 3; ++row)
+            ticked += dialog->Model().IsTicked(dialog->Model().index(row, 0));
+        QCOMPARE(ticked, 1);
+        // Another job has nothing to do with this list.
+        QVERIFY(Window().NewFromSample());
+        QTRY_VERIFY(!OpenDialog());
+    }
+
+    void eitherOfTwoChainsIsReached()
+    {
+        Value(voicePath + Keys::TUNER_HF_NB_FREQUENCY)->SetStoredText("7040000");
+        CompareDialog* dialog = Window().Comparing().CompareChains(tunerPath, voicePath);
+        QVERIFY(dialog);
+        QTRY_COMPARE(QApplication::activeWindow(), dialog);
+        QTreeView* list = List(*dialog);
+        QTest::keyClick(list, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, voicePath);
+        QVERIFY(Window().focusWidget()->parentWidget()->objectName().contains(Keys::TUNER_HF_NB_FREQUENCY));
+        const QRect row = list->visualRect(list->model()->index(0, DifferenceModel::Right));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row.center());
+        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QTRY_COMPARE(QApplication::activeWindow(), &Window());
+        // Without the chain there is nothing to compare.
+        QVERIFY(Window().Document().RemoveNode(voicePath.chopped(1), nullptr));
+        QTRY_VERIFY(!OpenDialog());
     }
 
     void twoSelectedChainsAreComparedAndEitherTakesOver()

@@ -158,23 +158,6 @@ private Q_SLOTS:
         QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Vuhf), onVuhf);
     }
 
-    void frequenciesReadExactly_data()
-    {
-        const Table<qint64, QString> row("hertz", "text");
-        row("zero", qint64(0), "0 Hz");
-        row("below 1 kHz", qint64(999), "999 Hz");
-        row("kHz", qint64(12500), "12,5 kHz");
-        row("MHz", qint64(433'920'001), "433,920001 MHz");
-        row("GHz to the last Hz", qint64(1'234'567'891), "1,234567891 GHz");
-        row("round", qint64(3'000'000'000), "3 GHz");
-    }
-    void frequenciesReadExactly()
-    {
-        QFETCH(qint64, hertz);
-        QLocale::setDefault(QLocale(QLocale::German));
-        QTEST(FrequencyPlan::FrequencyText(hertz), "text");
-    }
-
     void theAxisHasRoundFrequenciesThatDoNotTouch_data()
     {
         // text: one that is there

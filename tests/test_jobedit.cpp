@@ -250,6 +250,84 @@ private Q_SLOTS:
         QVERIFY(!Window().Document().IsReadOnly());
     }
 
+    void aLockOfAnotherComputerIsTakenOverOnlyWhenWanted_data()
+    {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::addColumn<QString>("named");
+        QTest::addColumn<bool>("offered");
+        // The second line is the program, the third the computer.
+        QTest::newRow("another computer") << QByteArray("4711\njobedit\nfar-away\n") << "far-away" << true;
+        QTest::newRow("cannot be read") << QByteArray() << "another editor" << true;
+        QTest::newRow("this computer") << QByteArray::number(QCoreApplication::applicationPid()) + "\n" +
+                                              QFileInfo(QCoreApplication::applicationFilePath()).fileName().toUtf8() +
+                                              "\n" + QSysInfo::machineHostName().toUtf8() + "\n"
+                                       << QSysInfo::machineHostName() << false;
+    }
+    void aLockOfAnotherComputerIsTakenOverOnlyWhenWanted()
+    {
+        QFETCH(QByteArray, lock);
+        QFETCH(bool, offered);
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().NewFromSample());
+        WriteAll(m_desk->File("a.job.xml.lock"), lock);
+        const QDateTime since(QDate(2024, 2, 29), QTime(23, 5));
+        QFile file(m_desk->File("a.job.xml.lock"));
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(since, QFileDevice::FileModificationTime));
+        file.close();
+        QString text;
+        const auto press = [&](const QString& button)
+        {
+            QTimer::singleShot(50, this,
+                               [&text, button]
+                               {
+                                   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                                   QVERIFY(box);
+                                   text = box->text();
+                                   // The default does no harm.
+                                   QCOMPARE(box->defaultButton()->text().remove('&'), "Open Read-Only");
+                                   for (QAbstractButton* each : box->buttons())
+                                       if (each->text().remove('&') == button)
+                                           return each->click();
+                                   box->reject();
+                               });
+            return Window().OpenFile(m_desk->File("a.job.xml"));
+        };
+        QCOMPARE(press("Take Over"), offered);
+        QFETCH(QString, named);
+        QVERIFY2(text.contains(named), qPrintable(text));
+        QVERIFY2(text.contains(QLocale().toString(since, QLocale::ShortFormat)), qPrintable(text));
+        QVERIFY2(named == "another editor" || text.contains(QFileInfo(file).owner()), qPrintable(text));
+        if (!offered)
+        {
+            QCOMPARE(ReadAll(file.fileName()), lock);
+            return;
+        }
+        // It is this editor's own now, as for any file.
+        QVERIFY(!Window().Document().IsReadOnly());
+        QVERIFY(ReadAll(file.fileName()).startsWith(QByteArray::number(QCoreApplication::applicationPid())));
+        QVERIFY(Window().NewFromSample());
+        QVERIFY(!QFile::exists(file.fileName()));
+
+        WriteAll(file.fileName(), lock);
+        QVERIFY(press("Open Read-Only"));
+        QVERIFY(Window().Document().IsReadOnly());
+        QCOMPARE(ReadAll(file.fileName()), lock);
+        // Who was there first and is gone by now may have left the place to somebody else.
+        const auto before = JobLock::Of(m_desk->File("a.job.xml"));
+        QVERIFY(before && before->IsOutOfSight());
+        WriteAll(file.fileName(), "4712\njobedit\nfar-too\n");
+        QString reason;
+        QVERIFY(!before->Remove(m_desk->File("a.job.xml"), reason));
+        QVERIFY2(reason.contains("far-too"), qPrintable(reason));
+        QVERIFY(QFile::exists(file.fileName()));
+        // What was edited read-only can get there, too.
+        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7100000"));
+        Answer answer({"Take Over"});
+        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(!Window().Document().IsReadOnly());
+        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("7100000"));
+    }
+
     void aFailedSaveIsShownAndLeavesTheJobModified()
     {
         QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));

@@ -1,4 +1,5 @@
 #include "common.h"
+#include "diskwatch.h"
 #include "jobmodel/jobfile.h"
 #include "keys/keymanager.h"
 
@@ -458,6 +459,44 @@ private slots:
         QVERIFY(!m_job->Save(&m_error));
         QCOMPARE(ReadBack("kept.job.xml"), Job({}));
         QVERIFY(QDir(Path("kept.job.xml~")).removeRecursively());
+    }
+
+    void whatIsSavedIsOnTheDiskBeforeItTakesThePlaceAndItsNameAfterwards()
+    {
+        QVERIFY(Load(Job({})));
+        const QByteArray path = Path("a.job.xml").toUtf8();
+        const ino_t old = DiskWatch::Of(path).st_ino;
+        DiskWatch::Take();
+        std::vector<ino_t> inPlace;
+        DiskWatch::s_before = [&](int)
+        {
+            inPlace.push_back(DiskWatch::Of(path).st_ino);
+            return 0;
+        };
+        QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("62"));
+        QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
+        DiskWatch::s_before = {};
+        const struct stat saved = DiskWatch::Of(path);
+        const auto calls = DiskWatch::Take();
+        QCOMPARE(calls.size(), inPlace.size());
+        QVERIFY(calls.size() >= 2);
+        QVERIFY(calls.front().file == saved.st_ino && calls.front().size == saved.st_size && inPlace.front() == old);
+        QVERIFY(calls.back().isDirectory && calls.back().file == DiskWatch::Of(m_directory.path().toUtf8()).st_ino);
+        QVERIFY(inPlace.back() == saved.st_ino);
+    }
+
+    void aDiskThatLosesTheNewFileLeavesTheOldOne()
+    {
+        QVERIFY(Load(Job({})));
+        const QStringList files = QDir(m_directory.path()).entryList(QDir::Files);
+        QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("62"));
+        DiskWatch::s_before = [](int) { return ENOSPC; };
+        const bool saved = m_job->Save(&m_error);
+        DiskWatch::s_before = {};
+        QVERIFY(!saved);
+        QCOMPARE(m_error.reason, qt_error_string(ENOSPC));
+        QCOMPARE(ReadBack("a.job.xml"), Job({}));
+        QCOMPARE(QDir(m_directory.path()).entryList(QDir::Files), files);
     }
 
     void aLinkStaysALinkWhenItsTargetIsSaved()

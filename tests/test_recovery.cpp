@@ -1,7 +1,9 @@
+#include "diskwatch.h"
 #include "editorfixture.h"
 #include "jobedit/recoveryfile.h"
 #include "jobedit/recoveryjournal.h"
 #include "jobedit/recoveryoffer.h"
+#include "ordinaryuser.h"
 
 #include <QProcess>
 #include <csignal>
@@ -42,6 +44,27 @@ int EditAndDie()
     std::raise(SIGKILL);
     return 3;
 }
+
+/// Types this name into the next dialog for files.
+class Chooser : public QTimer
+{
+public:
+    explicit Chooser(const QString& fileName)
+    {
+        callOnTimeout(
+            [this, fileName]
+            {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (!dialog)
+                    return;
+                stop();
+                auto* name = dialog->findChild<QLineEdit*>();
+                name->setText(fileName);
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+        start(10);
+    }
+};
 
 } // namespace
 
@@ -136,6 +159,51 @@ private slots:
         QCOMPARE(m_editor->Bytes(), before);
         QVERIFY(!m_editor->History().CanUndo());
         QVERIFY(!Window().isWindowModified());
+    }
+
+    void whatIsKeptReachesTheDiskAndNobodyWaitsForIt()
+    {
+        constexpr int slow = 1500; // ms
+        DiskWatch::s_before = [](int handle)
+        {
+            if (QFile::symLinkTarget("/proc/self/fd/" + QString::number(handle)).endsWith(".edits"))
+                QThread::msleep(slow);
+            return 0;
+        };
+        DiskWatch::Take();
+        QElapsedTimer all, sinceTick;
+        qint64 longest = 0;
+        QTimer tick;
+        tick.callOnTimeout([&] { longest = std::max(longest, sinceTick.restart()); });
+        tick.start(5);
+        all.start();
+        sinceTick.start();
+        for (int edit = 0; all.elapsed() < 2 * slow; ++edit)
+        {
+            QVERIFY(Editor::Value(frequencyPath)->SetStoredText(QString::number(7'000'000 + edit)));
+            QTest::qWait(10);
+        }
+        QVERIFY2(longest < slow / 2, qPrintable(QString::number(longest)));
+
+        const QDir directory(RecoveryJournal::Directory());
+        const QByteArray kept = directory.filePath(directory.entryList({"*.edits"}, QDir::Files).value(0)).toUtf8();
+        std::vector<DiskWatch::Call> calls;
+        const auto isOnDisk = [&]
+        {
+            for (const DiskWatch::Call& call : DiskWatch::Take())
+                calls.push_back(call);
+            const struct stat now = DiskWatch::Of(kept);
+            return std::ranges::any_of(calls, [&](const auto& call)
+                                       { return call.file == now.st_ino && call.size == now.st_size; });
+        };
+        QTest::qWait(600); // until the last edit is written
+        QTRY_VERIFY(isOnDisk());
+        DiskWatch::s_before = {};
+        const auto isKept = [&](const auto& call) { return call.file == DiskWatch::Of(kept).st_ino; };
+        const auto isDirectory = [&](const auto& call)
+        { return call.isDirectory && call.file == DiskWatch::Of(directory.path().toUtf8()).st_ino; };
+        QVERIFY(std::ranges::count_if(calls, isKept) <= all.elapsed() / 500 + 1);
+        QCOMPARE(std::ranges::count_if(calls, isDirectory), 1);
     }
 
     void theUserMayDiscardOrComeBackLater()
@@ -332,24 +400,64 @@ private slots:
             return;
         }
         // The message itself leads to another place.
-        QTimer chooser;
-        chooser.callOnTimeout(this,
-                              [&]
-                              {
-                                  auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                                  if (!dialog)
-                                      return;
-                                  chooser.stop();
-                                  auto* name = dialog->findChild<QLineEdit*>();
-                                  name->setText(File("elsewhere.job.xml"));
-                                  QTest::keyClick(name, Qt::Key_Return);
-                              });
-        chooser.start(10);
+        Chooser chooser(File("elsewhere.job.xml"));
         Answer answer(fault == "directory in the place" ? QStringList{"Overwrite", "Save As..."}
                                                         : QStringList{"Save As..."});
         QVERIFY(Window().Save());
         QVERIFY(ReadAll(File("elsewhere.job.xml")).contains("7040000"));
         QVERIFY(!Window().isWindowModified());
+    }
+
+    void aDirectoryThatTheUserMayNotWriteToIsNamedAndLosesNothing()
+    {
+        QVERIFY(QDir(m_directory->path()).mkdir("jobs"));
+        const QString job = File("jobs/a.job.xml");
+        QVERIFY(Window().SaveTo(job));
+        QVERIFY(Window().NewFromSample()); // which takes the lock away
+        const QByteArray before = ReadAll(job);
+        // The group, too: it is that of root still.
+        const auto anyone =
+            QFileDevice::ReadOther | QFileDevice::ExeOther | QFileDevice::ReadGroup | QFileDevice::ExeGroup;
+        const auto owner = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
+        const auto writers = QFileDevice::WriteOwner | QFileDevice::WriteOther | QFileDevice::WriteGroup;
+        QVERIFY(QFile::setPermissions(job, owner | anyone | writers));
+        QVERIFY(QFile::setPermissions(File("jobs"), owner | anyone));
+        QVERIFY(QFile::setPermissions(m_directory->path(), owner | anyone | writers));
+        const auto cleanUp = qScopeGuard([&] { QFile::setPermissions(File("jobs"), owner | QFileDevice::WriteOwner); });
+        {
+            const OrdinaryUser user;
+            if (!user.IsOrdinary())
+                QSKIP("root is not bound by permissions, and may be nobody else here");
+            Answer answer({"OK"});
+            QVERIFY2(Window().OpenFile(job), qPrintable(answer.GetText()));
+        }
+        QVERIFY2(Window().Messages().GetText().contains(job + " could not be locked"),
+                 qPrintable(Window().Messages().GetText()));
+        QVERIFY(!Window().Document().IsReadOnly());
+        m_editor->TypeFrequency("7040 k\t");
+        const QDir kept(RecoveryJournal::Directory());
+        QTRY_COMPARE(kept.entryList({"*.edits"}, QDir::Files).size(), 1);
+        const QByteArray edited = m_editor->Bytes();
+        {
+            const OrdinaryUser user;
+            Answer answer({"OK"});
+            QVERIFY(!Window().Save());
+            QVERIFY2(answer.GetText().contains(job) && answer.GetText().contains(qt_error_string(EACCES)),
+                     qPrintable(answer.GetText()));
+        }
+        QVERIFY(Window().isWindowModified());
+        QCOMPARE(m_editor->Bytes(), edited);
+        QCOMPARE(ReadAll(job), before);
+        QCOMPARE(QDir(File("jobs")).entryList(QDir::Files), QStringList("a.job.xml"));
+        {
+            const OrdinaryUser user;
+            Chooser chooser(File("elsewhere.job.xml"));
+            Answer answer({"Save As..."});
+            QVERIFY(Window().Save());
+        }
+        QCOMPARE(ReadAll(File("elsewhere.job.xml")), edited);
+        QVERIFY(!Window().isWindowModified());
+        QVERIFY(QFile::exists(File("elsewhere.job.xml.lock")));
     }
 
     void whatIsNoJobIsOverwrittenOnlyWhenWanted()

@@ -79,18 +79,6 @@
         <translation>%1: %2 -&gt; %3</translation>
     </message>
     <message>
-        <source>on</source>
-        <translation>ein</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
-    <message>
         <source>empty</source>
         <translation>leer</translation>
     </message>
@@ -305,14 +293,6 @@
     <message>
         <source>Reading %1:</source>
         <translation>Lese %1:</translation>
-    </message>
-    <message>
-        <source>another editor</source>
-        <translation>ein anderer Editor</translation>
-    </message>
-    <message>
-        <source>%1 on %2, process %3</source>
-        <translation>%1 auf %2, Prozess %3</translation>
     </message>
     <message>
         <source>(no value)</source>
@@ -665,6 +645,10 @@
         <source>%1 was not taken over</source>
         <translation>%1 wurde nicht übernommen</translation>
     </message>
+    <message>
+        <source>To the &amp;Differences</source>
+        <translation>Zu den &amp;Unterschieden</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::CompareDialog</name>
@@ -711,6 +695,18 @@
     <message>
         <source>%1 differences, %2 shown, %3 of these ticked</source>
         <translation>%1 Unterschiede, %2 gezeigt, %3 davon angekreuzt</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Left Field</source>
+        <translation>Zum &amp;linken Feld gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Field</source>
+        <translation>Zum &amp;Feld gehen</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Right Field</source>
+        <translation>Zum &amp;rechten Feld gehen</translation>
     </message>
 </context>
 <context>
@@ -1155,25 +1151,9 @@
         <source>(node)</source>
         <translation>(Knoten)</translation>
     </message>
-    <message>
-        <source>on</source>
-        <translation>ein</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
-    </message>
 </context>
 <context>
     <name>JOBEDIT::JobDocument</name>
-    <message>
-        <source>another editor</source>
-        <translation>ein anderer Editor</translation>
-    </message>
-    <message>
-        <source>%1 on %2, process %3</source>
-        <translation>%1 auf %2, Prozess %3</translation>
-    </message>
     <message>
         <source>%1 could not be locked against other editors.</source>
         <translation>%1 konnte nicht gegen andere Editoren gesperrt werden.</translation>
@@ -1181,6 +1161,25 @@
     <message>
         <source>%1 is open in another editor as well: %2.</source>
         <translation>%1 ist auch in einem anderen Editor geöffnet: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>JOBEDIT::JobLock</name>
+    <message>
+        <source>another editor, since %1</source>
+        <translation>ein anderer Editor, seit %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2, process %3, since %4</source>
+        <translation>%1 auf %2, Prozess %3, seit %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 on %3, process %4, since %5</source>
+        <translation>%1 von %2 auf %3, Prozess %4, seit %5</translation>
+    </message>
+    <message>
+        <source>another editor has it by now: %1</source>
+        <translation>inzwischen hat sie ein anderer Editor: %1</translation>
     </message>
 </context>
 <context>
@@ -1206,6 +1205,25 @@
     </message>
 </context>
 <context>
+    <name>JOBEDIT::LockQuestion</name>
+    <message>
+        <source>%1 is open in another editor: %2.</source>
+        <translation>%1 ist in einem anderen Editor geöffnet: %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>It cannot be told from here whether that editor is still there. Take the file over only when you know that it is not: otherwise one of you overwrites what the other one saves.</source>
+        <translation>Von hier aus ist nicht zu erkennen, ob es diesen Editor noch gibt. Übernehmen Sie die Datei nur, wenn Sie wissen, dass er nicht mehr läuft: Sonst überschreibt einer von Ihnen, was der andere speichert.</translation>
+    </message>
+    <message>
+        <source>%1 could not be taken over.</source>
+        <translation>%1 konnte nicht übernommen werden.</translation>
+    </message>
+</context>
+<context>
     <name>JOBEDIT::LongWork</name>
     <message>
         <source>Cancel (Esc)</source>
@@ -1225,10 +1243,6 @@
     <message>
         <source>Open Job</source>
         <translation>Auftrag öffnen</translation>
-    </message>
-    <message>
-        <source>%1 is open in another editor: %2.</source>
-        <translation>%1 ist in einem anderen Editor geöffnet: %2.</translation>
     </message>
     <message>
         <source>Opened read-only, it can be saved under another name.</source>
@@ -1335,16 +1349,8 @@
         <translation>&lt;h3&gt;Auftragseditor %1&lt;/h3&gt;&lt;p&gt;Bearbeitet die Parameter der Verarbeitungsketten von Aufträgen.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>The new job</source>
-        <translation>Der neue Auftrag</translation>
-    </message>
-    <message>
         <source>Job Editor</source>
         <translation>Auftragseditor</translation>
-    </message>
-    <message>
-        <source>%1 has changes that are not saved.</source>
-        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -2384,6 +2390,22 @@ Ersetzen?</translation>
     <message>
         <source>The entry &quot;%1&quot; was refused and is not saved</source>
         <translation>Die Eingabe „%1“ wurde abgelehnt und ist nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The job can be saved in another place.</source>
+        <translation>Der Auftrag kann an einem anderen Ort gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The new job</source>
+        <translation>Der neue Auftrag</translation>
+    </message>
+    <message>
+        <source>Job Editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
 </context>
 <context>
@@ -4895,6 +4917,14 @@ Ersetzen?</translation>
     <message>
         <source>Frequency</source>
         <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Use Hoprate for Matching</source>
+        <translation>Sprungrate zum Abgleich verwenden</translation>
+    </message>
+    <message>
+        <source>Bandwidth (Min\Nominal\Max)</source>
+        <translation>Bandbreite (min.\nominal\max.)</translation>
     </message>
 </context>
 <context>

@@ -14,8 +14,8 @@ public:
     QString GetHolder() const;
 
 private:
+    QString m_fileName;
     QLockFile m_lock;
-    bool m_taken;
 };
 
 } // namespace JOBEDIT

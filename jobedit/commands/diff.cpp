@@ -1,5 +1,6 @@
 #include "commandjob.h"
 #include "commandtext.h"
+#include "jobdiff.h"
 #include "jsonlist.h"
 
 namespace JOBEDIT
@@ -9,7 +10,7 @@ namespace
 {
 
 /// One difference of two jobs. Of a node that only one of them has, the values are not named one by one.
-struct JobDifference
+struct Line
 {
     QString path; ///< in the first job, or where it would be there
     const TKE::ValueBase* left = nullptr;
@@ -18,81 +19,36 @@ struct JobDifference
     bool leftHasNode = false;
 };
 
-const TKE::Node* FindChild(const TKE::Node& node, QStringView name)
+std::vector<Line> Compare(const TKE::Tree& left, const QString& leftBase, const TKE::Tree& right,
+                          const QString& rightBase)
 {
-    const auto& nodes = node.GetNodes();
-    const auto found = std::find_if(nodes.begin(), nodes.end(), [&](const auto& n) { return n->GetName() == name; });
-    return found != nodes.end() ? found->get() : nullptr;
+    std::vector<Line> lines;
+    for (const Difference& found : CompareTrees(left, leftBase, right, rightBase))
+    {
+        const QString path = leftBase + found.Path();
+        if (!found.IsNode())
+            lines.push_back({path, left.FindValue(path), right.FindValue(rightBase + found.Path())});
+        else if (found.kind != Difference::Kind::Changed) // the type of a node is no content
+            lines.push_back({path.chopped(1), nullptr, nullptr, true, found.kind == Difference::Kind::OnlyLeft});
+    }
+    return lines;
 }
 
-class JobComparison
-{
-public:
-    JobComparison(const TKE::Tree& left, const TKE::Tree& right) : m_left(left), m_right(right) {}
-
-    void Compare(const TKE::Node& left, const TKE::Node& right)
-    {
-        for (const auto& value : left.GetValues())
-        {
-            const TKE::ValueBase* other = m_right.FindValue(right, value->GetName());
-            if (!other || other->GetStoredText() != value->GetStoredText())
-                m_found.push_back({.path = value->GetPathName(), .left = value.get(), .right = other});
-        }
-        for (const auto& value : right.GetValues())
-            if (!m_left.FindValue(left, value->GetName()))
-                m_found.push_back({.path = left.GetBasePath() + value->GetName(), .right = value.get()});
-        for (const auto& below : left.GetNodes())
-        {
-            if (const TKE::Node* other = FindChild(right, below->GetName()))
-                Compare(*below, *other);
-            else
-                AddNode(below->GetPathName(), true);
-        }
-        for (const auto& below : right.GetNodes())
-            if (!FindChild(left, below->GetName()))
-                AddNode(left.GetBasePath() + below->GetName().toString(), false);
-    }
-    void CompareAll()
-    {
-        for (const TKE::Node* top : m_left.GetTopNodes())
-        {
-            if (const TKE::Node* other = m_right.FindNode(top->GetBasePath()))
-                Compare(*top, *other);
-            else
-                AddNode(top->GetPathName(), true);
-        }
-        for (const TKE::Node* top : m_right.GetTopNodes())
-            if (!m_left.FindNode(top->GetBasePath()))
-                AddNode(top->GetPathName(), false);
-    }
-    const std::vector<JobDifference>& GetFound() const { return m_found; }
-
-private:
-    void AddNode(const QString& path, bool left)
-    {
-        m_found.push_back({.path = path, .isNode = true, .leftHasNode = left});
-    }
-
-    const TKE::Tree& m_left;
-    const TKE::Tree& m_right;
-    std::vector<JobDifference> m_found;
-};
-
-void PrintText(const std::vector<JobDifference>& differences, bool stored, QTextStream& out)
+void PrintText(const std::vector<Line>& lines, bool stored, QTextStream& out)
 {
     const auto side = [&](const TKE::ValueBase* value)
     { return value ? CommandText::Escaped(CommandText::Of(*value, stored)) : Commands::tr("(no value)"); };
-    for (const JobDifference& found : differences)
+    for (const Line& line : lines)
     {
-        if (!found.isNode)
-            out << found.path << '\t' << side(found.left) << '\t' << side(found.right) << '\n';
+        if (!line.isNode)
+            out << line.path << '\t' << side(line.left) << '\t' << side(line.right) << '\n';
         else
-            out << found.path << '\t' << (found.leftHasNode ? Commands::tr("(node)") : Commands::tr("(no node)"))
-                << '\t' << (found.leftHasNode ? Commands::tr("(no node)") : Commands::tr("(node)")) << '\n';
+            out << line.path << '\t' << (line.leftHasNode ? Commands::tr("(node)") : Commands::tr("(no node)")) << '\t'
+                << (line.leftHasNode ? Commands::tr("(no node)") : Commands::tr("(node)")) << '\n';
     }
 }
 
-void PrintJson(const std::vector<JobDifference>& differences, Call& call)
+void PrintJson(const std::vector<Line>& lines, Call& call)
 {
     const auto side = [](const TKE::ValueBase* value)
     {
@@ -102,13 +58,12 @@ void PrintJson(const std::vector<JobDifference>& differences, Call& call)
     };
     JsonList list(call.Out(), {{"left", call.GetArgument(0)}, {"right", call.GetArgument(1)}},
                   QStringLiteral("differences"));
-    for (const JobDifference& found : differences)
+    for (const Line& line : lines)
     {
-        if (found.isNode)
-            list.Add({{"path", found.path}, {"what", "node"}, {"only", found.leftHasNode ? "left" : "right"}});
+        if (line.isNode)
+            list.Add({{"path", line.path}, {"what", "node"}, {"only", line.leftHasNode ? "left" : "right"}});
         else
-            list.Add(
-                {{"path", found.path}, {"what", "value"}, {"left", side(found.left)}, {"right", side(found.right)}});
+            list.Add({{"path", line.path}, {"what", "value"}, {"left", side(line.left)}, {"right", side(line.right)}});
     }
 }
 
@@ -119,7 +74,8 @@ int Diff(Call& call)
     CommandJob left, right;
     if (!left.Load(call.GetArgument(0), call) || !right.Load(call.GetArgument(1), call))
         return esFinding;
-    JobComparison comparison(left.GetTree(), right.GetTree());
+    QString leftBase;
+    QString rightBase;
     if (call.Has("node"))
     {
         const QString leftPath = call.GetValue("node");
@@ -130,15 +86,15 @@ int Diff(Call& call)
             return call.Refuse(Commands::tr("%1: the job has no node %2.").arg(call.GetArgument(0), leftPath));
         if (!rightNode)
             return call.Refuse(Commands::tr("%1: the job has no node %2.").arg(call.GetArgument(1), rightPath));
-        comparison.Compare(*leftNode, *rightNode);
+        leftBase = leftNode->GetBasePath();
+        rightBase = rightNode->GetBasePath();
     }
-    else
-        comparison.CompareAll();
+    const std::vector<Line> lines = Compare(left.GetTree(), leftBase, right.GetTree(), rightBase);
     if (call.WantsJson())
-        PrintJson(comparison.GetFound(), call);
+        PrintJson(lines, call);
     else
-        PrintText(comparison.GetFound(), call.Has("stored"), call.Out());
-    return comparison.GetFound().empty() ? esGood : esFinding;
+        PrintText(lines, call.Has("stored"), call.Out());
+    return lines.empty() ? esGood : esFinding;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "jobmodel/jobfile.h"
 
+#include "jobmodel/disksync.h"
 #include "jobmodel/jobreader.h"
 #include "jobmodel/jobstructure.h"
 #include "jobmodel/jobwriter.h"
@@ -11,6 +12,7 @@
 #include <QLockFile>
 #include <QSaveFile>
 #include <QScopeGuard>
+#include <QSet>
 #include <filesystem>
 
 namespace TKE
@@ -159,12 +161,18 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
     if (!writer.Write(*m_layout))
         return Fail(error, fileName, writer.WasCancelled() ? tr("Cancelled") : file.errorString());
     QString reason;
+    // Some file systems tell only here that there is no room. QSaveFile would not look.
+    if (!DiskSync::File(file.handle(), &reason))
+        return Fail(error, fileName, reason);
     if (QFileInfo::exists(fileName) && !BackUp(fileName, reason))
         return Fail(error, fileName + QLatin1Char('~'), tr("The previous generation cannot be kept: %1").arg(reason));
     if (!file.commit())
         return Fail(error, fileName, file.errorString());
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_stamp = StampOf(m_fileName);
+    // The names, of the backup as well, which stands beside a link.
+    for (const QString& directory : QSet{QFileInfo(m_fileName).path(), QFileInfo(m_fileName).canonicalPath()})
+        DiskSync::Directory(directory);
     return true;
 }
 

@@ -70,6 +70,9 @@ public:
     /// Saves to the file that was loaded or saved last. The previous generation stays as "<file>~". Overwrites what
     /// changed on disk meanwhile: ask GetDiskState before. A symbolic link stays one: what it leads to is replaced, and
     /// the previous generation stands beside the link, under the name that the user knows.
+    ///
+    /// At any moment, also that of a power loss, the file is the old one or the new one, whole. Once this returns true
+    /// it is the new one, on the disk as far as the disk keeps what it says.
     bool Save(FileError* error = nullptr);
     bool SaveAs(const QString& fileName, FileError* error = nullptr);
     /// The bytes that saving would write.

@@ -213,7 +213,8 @@ bool JobModelReader::ReadKind(Attributes attributes, Parameter& parameter)
     return true;
 }
 
-template <class T> bool JobModelReader::ReadNumber(Attributes attributes, const char* name, T& number)
+template <class T, class Target>
+bool JobModelReader::ReadNumber(Attributes attributes, const char* name, Target& number)
 {
     const char* text = Find(attributes, name);
     if (!text)
@@ -221,7 +222,8 @@ template <class T> bool JobModelReader::ReadNumber(Attributes attributes, const 
     const char* end = text + std::strlen(text);
     T read{};
     const auto [stop, error] = std::from_chars(text, end, read);
-    if (error != std::errc() || stop != end)
+    // "nan" and "inf" are numbers to it, too.
+    if (error != std::errc() || stop != end || !std::isfinite(double(read)))
         return Refuse(name, text);
     number = read;
     return true;
@@ -232,21 +234,12 @@ bool JobModelReader::ReadNumbers(Attributes attributes, Parameter& parameter)
     ValueDescriptor& descriptor = parameter.m_descriptor;
     if (!IsNumber(descriptor.kind) && descriptor.kind != ValueKind::DoubleList)
         return true; // dates and texts may have limits, which their editors do not check
-    constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    double minimum = none;
-    double maximum = none;
-    if (!ReadNumber(attributes, "min", minimum) || !ReadNumber(attributes, "max", maximum) ||
-        !ReadNumber(attributes, "step", descriptor.step) || !ReadNumber(attributes, "precision", descriptor.precision))
+    if (!ReadNumber<double>(attributes, "min", descriptor.minimum) ||
+        !ReadNumber<double>(attributes, "max", descriptor.maximum) ||
+        !ReadNumber<double>(attributes, "step", descriptor.step) ||
+        !ReadNumber<int>(attributes, "precision", descriptor.precision))
         return false;
-    // "nan" and "inf" are numbers to the reader, too.
-    for (const auto& [name, number] : {std::pair("min", minimum), std::pair("max", maximum), std::pair("step", descriptor.step)})
-        if (Find(attributes, name) && !std::isfinite(number))
-            return Refuse(name, Find(attributes, name));
-    if (Find(attributes, "min"))
-        descriptor.minimum = minimum;
-    if (Find(attributes, "max"))
-        descriptor.maximum = maximum;
-    if (minimum > maximum)
+    if (descriptor.minimum && descriptor.maximum && *descriptor.minimum > *descriptor.maximum)
         return Refuse("max", Find(attributes, "max"));
     if (descriptor.precision < 0 || descriptor.precision > 15)
         return Refuse("precision", Find(attributes, "precision"));
@@ -256,10 +249,10 @@ bool JobModelReader::ReadNumbers(Attributes attributes, Parameter& parameter)
 bool JobModelReader::ReadRow(Attributes attributes, Parameter& parameter)
 {
     int control = int(parameter.m_controlType);
-    if (!ReadNumber(attributes, "control", control) ||
-        !ReadNumber(attributes, "subControl", parameter.m_controlSubType) ||
-        !ReadNumber(attributes, "rows", parameter.m_rowCount) ||
-        !ReadNumber(attributes, "columns", parameter.m_columnCount))
+    if (!ReadNumber<int>(attributes, "control", control) ||
+        !ReadNumber<int>(attributes, "subControl", parameter.m_controlSubType) ||
+        !ReadNumber<int>(attributes, "rows", parameter.m_rowCount) ||
+        !ReadNumber<int>(attributes, "columns", parameter.m_columnCount))
         return false;
     for (const auto& [name, count] : {std::pair("rows", parameter.m_rowCount), std::pair("columns", parameter.m_columnCount)})
         if (Find(attributes, name) && (count < 0 || count > mostRows))
@@ -345,7 +338,7 @@ void JobModelReader::StartItem(Attributes attributes)
     int key = -1;
     const char* name = Find(attributes, "name");
     auto& items = m_parameter->m_descriptor.items;
-    if (!ReadNumber(attributes, "key", key))
+    if (!ReadNumber<int>(attributes, "key", key))
         return;
     if (key < 0 || !name)
         Refuse(name ? "key" : "name", nullptr);

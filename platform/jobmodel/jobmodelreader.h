@@ -41,7 +41,7 @@ private:
     bool ReadRow(Attributes attributes, Parameter& parameter);
     bool ReadPlace(Attributes attributes, Parameter& parameter);
     bool ReadDefault(Attributes attributes, Parameter& parameter);
-    template <class T> bool ReadNumber(Attributes attributes, const char* name, T& number);
+    template <class T, class Target> bool ReadNumber(Attributes attributes, const char* name, Target& number);
     bool Refuse(const char* attribute, const char* text);
     QString ItemPath() const;
 
