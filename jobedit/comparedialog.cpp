@@ -2,13 +2,13 @@
 
 #include "differencemodel.h"
 #include "jobdocument.h"
+#include "longact.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
@@ -47,18 +47,13 @@ CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::sha
 
 bool CompareDialog::Compare(bool ticked)
 {
-    QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(100);
-    auto differences = m_sides.Compare(
-        [&](qint64 done, qint64 all)
-        {
-            progress.setValue(int(all > 0 ? std::min<qint64>(999, done * 1000 / all) : 0));
-            return !progress.wasCanceled();
-        });
-    if (progress.wasCanceled())
-        return false;
-    progress.reset();
+    std::vector<Difference> differences;
+    {
+        LongWork work(tr("Comparing"), isVisible() ? this : parentWidget());
+        differences = m_sides.Compare([&](qint64 done, qint64 all) { return work.Progress(done, all); });
+        if (work.WasCancelled())
+            return false;
+    }
     m_model->SetDifferences(std::move(differences), ticked);
     m_view->setColumnHidden(DifferenceModel::Reason, true);
     FitColumns();
@@ -164,7 +159,10 @@ void CompareDialog::TakeOverTicked()
     for (const QModelIndex& row : ShownRows())
         if (m_model->IsTicked(row))
             wanted.push_back(m_model->GetDifferences()[size_t(row.row())]);
+    LongAct work(windowTitle(), this, m_document.History());
     const WriteResult result = TakeOver(m_document, windowTitle(), m_sides, wanted);
+    if (result.isCancelled)
+        return m_counts->setText(tr("Cancelled, nothing was taken over"));
     if (!Compare(false))
         return reject();
     m_model->SetRefusals(result.refused);
