@@ -181,8 +181,8 @@ void CheckDock::Slot_OnSlice()
         m_next = 0;
     }
     // A list that is full already stays as it is until the end.
-    const bool mayShow = m_list->topLevelItemCount() < mostShown &&
-                         (!m_sinceShown.isValid() || m_sinceShown.hasExpired(showEveryMs));
+    const bool mayShow =
+        m_list->topLevelItemCount() < mostShown && (!m_sinceShown.isValid() || m_sinceShown.hasExpired(showEveryMs));
     if (!m_isShown && (!goesOn || mayShow))
     {
         ShowFindings();

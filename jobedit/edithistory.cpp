@@ -268,8 +268,7 @@ bool EditHistory::Apply(const EditStep& step, bool undo)
 {
     const std::span all(step.changes);
     const bool mayCancel = !m_isCancelled; // else it is the cancelled step itself that is taken back
-    const size_t done =
-        undo ? Apply(std::views::reverse(all), true, mayCancel) : Apply(all, false, mayCancel);
+    const size_t done = undo ? Apply(std::views::reverse(all), true, mayCancel) : Apply(all, false, mayCancel);
     if (done == all.size())
         return true;
     undo ? Apply(all.last(done), false, false) : Apply(std::views::reverse(all.first(done)), true, false);

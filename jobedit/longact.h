@@ -11,7 +11,8 @@ namespace JOBEDIT
 class LongAct : public LongWork
 {
 public:
-    LongAct(QString title, QWidget* window, EditHistory& history) : LongWork(std::move(title), window), m_history(history)
+    LongAct(QString title, QWidget* window, EditHistory& history)
+        : LongWork(std::move(title), window), m_history(history)
     {
         m_history.SetProgress([this](qint64 done, qint64 all) { return Progress(done, all); });
     }

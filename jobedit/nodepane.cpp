@@ -22,10 +22,7 @@ constexpr int mostMeasured = 100;  // rows that the width of the first column co
 } // namespace
 
 NodePane::NodePane(QWidget* parent)
-    : QWidget(parent)
-    , m_model(new NodeTreeModel(this))
-    , m_filter(new QLineEdit(this))
-    , m_view(new QTreeView(this))
+    : QWidget(parent), m_model(new NodeTreeModel(this)), m_filter(new QLineEdit(this)), m_view(new QTreeView(this))
 {
     m_filter->setObjectName("nodeFilter");
     m_filter->setPlaceholderText(tr("Filter by name or type"));

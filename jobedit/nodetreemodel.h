@@ -8,8 +8,8 @@
 namespace JOBEDIT
 {
 
-/// The nodes of the job as a tree: name and type text. Nodes without a dialog are dimmed. A filter keeps the nodes whose
-/// name or type holds its text, with all above and below them.
+/// The nodes of the job as a tree: name and type text. Nodes without a dialog are dimmed. A filter keeps the nodes
+/// whose name or type holds its text, with all above and below them.
 ///
 /// It filters by itself, in two passes over flat tables: a proxy would take a tenth of a second for each key.
 class NodeTreeModel : public QAbstractItemModel
@@ -54,10 +54,10 @@ private:
     void CollectTexts();
 
     std::vector<JobNode> m_nodes;
-    std::vector<Place> m_places = {{}}; // that of the root, then one per node
-    std::vector<int> m_below;           // numbers of the nodes shown; those with the same parent side by side
-    QString m_filter;                   // folded
-    std::vector<QString> m_texts;       // names and types, folded and once each: a job repeats them many times
+    std::vector<Place> m_places = {{}};         // that of the root, then one per node
+    std::vector<int> m_below;                   // numbers of the nodes shown; those with the same parent side by side
+    QString m_filter;                           // folded
+    std::vector<QString> m_texts;               // names and types, folded and once each: a job repeats them many times
     std::vector<std::pair<int, int>> m_textsOf; // name and type of each node; made for the first filter
 };
 
