@@ -642,14 +642,6 @@
         <translation>%1 vergleichen mit:</translation>
     </message>
     <message>
-        <source>Reading %1...</source>
-        <translation>Lese %1...</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>%1 could not be read.</source>
         <translation>%1 konnte nicht gelesen werden.</translation>
     </message>
@@ -661,17 +653,13 @@
         <source>%1 was not taken over</source>
         <translation>%1 wurde nicht übernommen</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lese %1</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::CompareDialog</name>
-    <message>
-        <source>Comparing...</source>
-        <translation>Vergleiche...</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
     <message>
         <source>Filter by node, parameter, key or value</source>
         <translation>Nach Knoten, Parameter, Schlüssel oder Wert filtern</translation>
@@ -707,6 +695,14 @@
     <message>
         <source>%1 differences, %2 shown, %3 of these ticked</source>
         <translation>%1 Unterschiede, %2 gezeigt, %3 davon angekreuzt</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>Cancelled, nothing was taken over</source>
+        <translation>Abgebrochen, nichts wurde übernommen</translation>
     </message>
 </context>
 <context>
@@ -835,6 +831,14 @@
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1887,10 +1891,6 @@ Typ: %2</translation>
         <translation>&amp;Alle Werte</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Writing %1</source>
         <translation>%1 schreiben</translation>
     </message>
@@ -2204,6 +2204,10 @@ Ersetzen?</translation>
     <message>
         <source>Preset&amp;s</source>
         <translation>&amp;Vorlagen</translation>
+    </message>
+    <message>
+        <source>%1: cancelled, nothing has changed</source>
+        <translation>%1: abgebrochen, nichts hat sich geändert</translation>
     </message>
 </context>
 <context>
