@@ -4,7 +4,6 @@
 #include "mainwindow.h"
 #include "nodepane.h"
 
-#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -22,7 +21,8 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr qint64 millisecondsOfSlice = 20;
+constexpr qint64 millisecondsOfSlice = 8; // others work in slices at the same time
+constexpr qint64 showEveryMs = 250;       // while a check is under way
 constexpr int mostShown = 1000;
 constexpr int leastHeight = 180; // pixels; some rows at once
 
@@ -114,8 +114,7 @@ void CheckDock::Start()
     m_changed.clear();
     m_nodes.clear();
     m_next = 0;
-    for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
-        Collect(*top, m_nodes);
+    m_isToBegin = true; // in a turn of its own: a new job keeps this one busy
     m_isShown = false;
     m_isStopped = false;
     m_timer.start();
@@ -124,6 +123,7 @@ void CheckDock::Start()
 void CheckDock::Stop()
 {
     m_isStopped = m_isStopped || IsRunning();
+    m_isToBegin = false;
     m_nodes.clear();
     m_next = 0;
     m_isShown = false;
@@ -160,19 +160,34 @@ void CheckDock::Slot_OnSlice()
 {
     QElapsedTimer time;
     time.start();
-    for (const QString& path : std::exchange(m_changed, {}))
+    if (std::exchange(m_isToBegin, false))
+        for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
+            Collect(*top, m_nodes);
+    // One undo may have changed all nodes.
+    while (!m_changed.isEmpty() && time.elapsed() < millisecondsOfSlice)
+    {
+        const QString path = *m_changed.constBegin();
+        m_changed.erase(m_changed.constBegin());
         Check(path, true);
+    }
     while (IsRunning() && time.elapsed() < millisecondsOfSlice)
         Check(m_nodes[m_next++], false);
+    const bool goesOn = IsRunning() || !m_changed.isEmpty();
+    if (!goesOn)
+        m_timer.stop();
     if (!IsRunning())
     {
-        m_timer.stop();
         m_nodes.clear();
         m_next = 0;
     }
     // A list that is full already stays as it is until the end.
-    if (!m_isShown && (!IsRunning() || m_list->topLevelItemCount() < mostShown))
+    const bool mayShow =
+        m_list->topLevelItemCount() < mostShown && (!m_sinceShown.isValid() || m_sinceShown.hasExpired(showEveryMs));
+    if (!m_isShown && (!goesOn || mayShow))
+    {
         ShowFindings();
+        m_sinceShown.start();
+    }
     ShowSummary();
 }
 

@@ -3,6 +3,7 @@
 #include "checker.h"
 
 #include <QDockWidget>
+#include <QElapsedTimer>
 #include <QSet>
 #include <QTimer>
 #include <map>
@@ -30,7 +31,7 @@ public:
     void Start();
     /// Leaves a check under way where it is; what it found stays.
     void Stop();
-    bool IsRunning() const { return m_next < m_nodes.size(); }
+    bool IsRunning() const { return m_isToBegin || m_next < m_nodes.size(); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -53,6 +54,8 @@ private:
     QStringList m_nodes; // that a check of all goes through
     qsizetype m_next = 0;
     QSet<QString> m_changed; // nodes
+    bool m_isToBegin = false; // m_nodes is to be filled
+    QElapsedTimer m_sinceShown;
     std::unique_ptr<Checker> m_checker;
     QTimer m_timer;
     bool m_isShown = true; // the list shows m_findings

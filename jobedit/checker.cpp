@@ -233,14 +233,22 @@ QString Checker::FaultOfList(const TKE::ValueBase& value) const
     return {};
 }
 
+const QStringList& Checker::UpperNames(const QString& name) const
+{
+    const auto known = m_upperNames.constFind(&name);
+    if (known != m_upperNames.constEnd())
+        return *known;
+    QStringList others;
+    for (const Pair& pair : pairs)
+        if (name.endsWith(pair.lower))
+            others << name.chopped(pair.lower.size()) + pair.upper;
+    return *m_upperNames.insert(&name, others);
+}
+
 QString Checker::FaultOfPair(const TKE::ValueBase& value) const
 {
-    const QString& name = value.GetName();
-    for (const Pair& pair : pairs)
+    for (const QString& other : UpperNames(value.GetName()))
     {
-        if (!name.endsWith(pair.lower))
-            continue;
-        const QString other = name.chopped(pair.lower.size()) + pair.upper;
         const TKE::ValueBase* upper = m_tree.FindValue(*value.GetNode(), other);
         if (!upper || upper->GetState() != TKE::stEnabled || upper->GetKind() != value.GetKind())
             continue;

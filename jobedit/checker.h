@@ -49,9 +49,11 @@ private:
     QString FaultOf(const TKE::ValueBase& value) const;
     QString FaultOfList(const TKE::ValueBase& value) const;
     QString FaultOfPair(const TKE::ValueBase& value) const;
+    const QStringList& UpperNames(const QString& name) const;
 
     const TKE::Tree& m_tree;
     QHash<const TKE::ValueDescriptor*, ListShape> m_lists;
+    mutable QHash<const QString*, QStringList> m_upperNames; // by interned name, of the values that must not be less
 };
 
 } // namespace JOBEDIT

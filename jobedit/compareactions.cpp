@@ -2,6 +2,7 @@
 
 #include "differencemodel.h"
 #include "fieldnavigator.h"
+#include "longwork.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "nodepane.h"
@@ -14,7 +15,6 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProgressDialog>
 
 namespace JOBEDIT
 {
@@ -123,7 +123,7 @@ CompareActions::Stamp CompareActions::DiskStamp() const
 
 void CompareActions::LookAtDisk()
 {
-    if (QApplication::activeModalWidget() || m_told == DiskStamp() || IsDiskSettled() ||
+    if (LongWork::IsUnderWay() || QApplication::activeModalWidget() || m_told == DiskStamp() || IsDiskSettled() ||
         m_window.Document().GetDiskState() != TKE::JobFile::DiskState::Changed)
         return;
     CompareWithDisk(false);
@@ -167,23 +167,17 @@ std::shared_ptr<OtherJob> CompareActions::Load(const QString& fileName)
 {
     auto job = std::make_shared<OtherJob>();
     job->file.SetModel(m_window.Document().GetModel());
-    QProgressDialog progress(tr("Reading %1...").arg(QFileInfo(fileName).fileName()), tr("Cancel"), 0, 1000, &m_window);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(100);
-    job->file.SetProgress(
-        [&](qint64 done, qint64 all)
-        {
-            progress.setValue(int(all > 0 ? std::min<qint64>(999, done * 1000 / all) : 0));
-            return !progress.wasCanceled();
-        });
     TKE::FileError error;
-    const bool loaded = job->file.Load(fileName, &error);
-    job->file.SetProgress({});
-    if (loaded)
-        return job;
-    if (progress.wasCanceled())
-        return nullptr;
-    progress.reset();
+    {
+        LongWork work(tr("Reading %1").arg(QFileInfo(fileName).fileName()), &m_window);
+        job->file.SetProgress([&](qint64 done, qint64 all) { return work.Progress(done, all); });
+        const bool loaded = job->file.Load(fileName, &error);
+        job->file.SetProgress({});
+        if (loaded)
+            return job;
+        if (work.WasCancelled())
+            return nullptr;
+    }
     const QString text = tr("%1 could not be read.").arg(QFileInfo(fileName).fileName());
     m_window.Messages().Add(TKE::Severity::Error, text, error.ToText());
     QMessageBox(QMessageBox::Critical, tr("Compare"), text + "\n\n" + error.ToText(), QMessageBox::Ok, &m_window)

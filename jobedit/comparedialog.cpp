@@ -2,6 +2,7 @@
 
 #include "differencemodel.h"
 #include "jobdocument.h"
+#include "longact.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QSet>
@@ -63,18 +63,13 @@ bool CompareDialog::Compare(bool ticked)
 
 bool CompareDialog::Fill(bool ticked)
 {
-    QProgressDialog progress(tr("Comparing..."), tr("Cancel"), 0, 1000, this);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(100);
-    auto differences = m_sides.Compare(
-        [&](qint64 done, qint64 all)
-        {
-            progress.setValue(int(all > 0 ? std::min<qint64>(999, done * 1000 / all) : 0));
-            return !progress.wasCanceled();
-        });
-    if (progress.wasCanceled())
-        return false;
-    progress.reset();
+    std::vector<Difference> differences;
+    {
+        LongWork work(tr("Comparing"), isVisible() ? this : parentWidget());
+        differences = m_sides.Compare([&](qint64 done, qint64 all) { return work.Progress(done, all); });
+        if (work.WasCancelled())
+            return false;
+    }
     m_outdated = false;
     m_model->SetDifferences(std::move(differences), ticked);
     return true;
@@ -266,7 +261,10 @@ void CompareDialog::TakeOverTicked()
     for (const QModelIndex& row : ShownRows())
         if (m_model->IsTicked(row))
             wanted.push_back(m_model->GetDifferences()[size_t(row.row())]);
+    LongAct work(windowTitle(), this, m_document.History());
     const WriteResult result = TakeOver(m_document, windowTitle(), m_sides, wanted);
+    if (result.isCancelled)
+        return m_counts->setText(tr("Cancelled, nothing was taken over"));
     if (!Compare(false))
         return reject();
     m_model->SetRefusals(result.refused);

@@ -1,6 +1,6 @@
 #include "editactions.h"
 
-#include "edithistory.h"
+#include "longact.h"
 #include "mainwindow.h"
 #include "useracts.h"
 
@@ -13,8 +13,14 @@ namespace JOBEDIT
 EditActions::EditActions(MainWindow& window) : QObject(&window), m_window(window)
 {
     EditHistory& history = window.Document().History();
-    m_undo = window.EditMenu()->addAction(tr("&Undo"), &history, &EditHistory::Undo);
-    m_redo = window.EditMenu()->addAction(tr("&Redo"), &history, &EditHistory::Redo);
+    const auto run = [this](const QString& title, void (EditHistory::*act)())
+    {
+        EditHistory& steps = m_window.Document().History();
+        LongAct work(title, &m_window, steps);
+        (steps.*act)();
+    };
+    m_undo = window.EditMenu()->addAction(tr("&Undo"), this, [run] { run(tr("Undo"), &EditHistory::Undo); });
+    m_redo = window.EditMenu()->addAction(tr("&Redo"), this, [run] { run(tr("Redo"), &EditHistory::Redo); });
     m_undo->setObjectName("undo");
     m_redo->setObjectName("redo");
     m_undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <algorithm>
 #include <ranges>
+#include <span>
 
 namespace JOBEDIT
 {
@@ -16,6 +17,7 @@ namespace
 {
 
 constexpr int roundsOfCorrection = 4;
+constexpr int changesAtOnce = 64; // between two looks whether it goes on
 
 // Comes back from the event loop behind all that was posted before.
 class EndOfAct : public QEvent
@@ -33,14 +35,22 @@ EditHistory::Step::Step(EditHistory& history, QString name) : m_history(history)
         return;
     m_history.Close();
     m_history.Open().name = std::move(name);
+    m_history.m_isCancelled = false;
 }
 
 EditHistory::Step::~Step()
 {
     if (m_history.m_depth == 1)
         m_history.TellOfNodes();
-    if (--m_history.m_depth == 0)
-        m_history.Close();
+    if (--m_history.m_depth > 0)
+        return;
+    const quint64 number = m_history.m_open ? m_history.m_open->number : 0;
+    m_history.Close();
+    const auto& steps = m_history.m_steps;
+    // One without changes has left no trace.
+    if (m_history.m_isCancelled && !steps.empty() && steps.back().number == number)
+        m_history.Undo();
+    m_history.m_isCancelled = false;
 }
 
 EditHistory::EditHistory(TKE::JobFile& file, QObject* parent) : QObject(parent), m_file(file) {}
@@ -67,7 +77,11 @@ void EditHistory::Undo()
     if (m_position == 0)
         return;
     const EditStep& step = m_steps[--m_position];
-    Apply(std::views::reverse(step.changes), true);
+    if (!Apply(step, true))
+    {
+        ++m_position;
+        return;
+    }
     emit StepUndone(step);
     emit Changed();
 }
@@ -82,7 +96,11 @@ void EditHistory::Redo()
     if (!CanRedo())
         return;
     const EditStep& step = m_steps[m_position++];
-    Apply(step.changes, false);
+    if (!Apply(step, false))
+    {
+        --m_position;
+        return;
+    }
     emit StepRedone(step);
     emit Changed();
 }
@@ -239,12 +257,38 @@ void EditHistory::Append(EditChange change)
         emit Changed();
 }
 
-template <class Changes> void EditHistory::Apply(const Changes& changes, bool undo)
+bool EditHistory::MayGoOn(qint64 done, qint64 all)
+{
+    if (!m_isCancelled && m_progress && done % changesAtOnce == 0)
+        m_isCancelled = !m_progress(done, all);
+    return !m_isCancelled;
+}
+
+bool EditHistory::Apply(const EditStep& step, bool undo)
+{
+    const std::span all(step.changes);
+    const bool mayCancel = !m_isCancelled; // else it is the cancelled step itself that is taken back
+    const size_t done = undo ? Apply(std::views::reverse(all), true, mayCancel) : Apply(all, false, mayCancel);
+    if (done == all.size())
+        return true;
+    undo ? Apply(all.last(done), false, false) : Apply(std::views::reverse(all.first(done)), true, false);
+    return false;
+}
+
+template <class Changes> size_t EditHistory::Apply(const Changes& changes, bool undo, bool mayCancel)
 {
     Contents wanted;
     m_wanted = &wanted;
+    const auto count = qint64(std::size(changes));
+    qint64 told = 0;
+    // The second half is to look whether all is as wanted.
+    const auto goesOn = [&] { return told++ % changesAtOnce != 0 || !m_progress || m_progress(told - 1, 2 * count); };
+    size_t done = 0;
     for (const EditChange& change : changes)
     {
+        if (!goesOn() && mayCancel)
+            break;
+        ++done;
         if (!change.structure)
         {
             const QString& content = undo ? change.before : change.after;
@@ -263,6 +307,7 @@ template <class Changes> void EditHistory::Apply(const Changes& changes, bool un
         bool stable = true;
         for (auto each = target.begin(); each != target.end(); ++each)
         {
+            goesOn();
             const TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(each.key());
             if (!value || value->GetStoredText() == each.value())
                 continue;
@@ -273,6 +318,7 @@ template <class Changes> void EditHistory::Apply(const Changes& changes, bool un
             break;
     }
     m_wanted = nullptr;
+    return done;
 }
 
 void EditHistory::Write(const QString& path, const QString& stored)

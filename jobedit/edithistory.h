@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <functional>
 #include <optional>
 
 namespace JOBEDIT
@@ -37,13 +38,21 @@ public:
         EditHistory& m_history;
     };
 
+    /// Called now and then while a step of many changes is made, taken back or made again; false cancels.
+    using Progress = std::function<bool(qint64 done, qint64 all)>;
+
     explicit EditHistory(TKE::JobFile& file, QObject* parent = nullptr);
+
+    void SetProgress(Progress progress) { m_progress = std::move(progress); }
+    /// For who makes many changes in a Step. False: make no more; the step is taken back when it ends.
+    bool MayGoOn(qint64 done, qint64 all);
 
     bool CanUndo() const { return m_position > 0 || IsOpen(); }
     bool CanRedo() const { return m_position < m_steps.size() && !IsOpen(); }
     /// What the next undo or redo would take back or make again; empty when there is nothing.
     QString UndoText() const;
     QString RedoText() const;
+    // Cancelled, these leave everything as it was.
     void Undo();
     void Redo();
 
@@ -84,7 +93,8 @@ private:
     void Close();
     void Append(EditChange change);
     void Bound();
-    template <class Changes> void Apply(const Changes& changes, bool undo);
+    bool Apply(const EditStep& step, bool undo);
+    template <class Changes> size_t Apply(const Changes& changes, bool undo, bool mayCancel);
     void Write(const QString& path, const QString& stored);
     void Tell(const StructureEdit& edit, bool undo);
     void TellOfNodes();
@@ -99,6 +109,8 @@ private:
     quint64 m_act = 0;                  // 0: no act of the user is going on
     quint64 m_lastAct = 0;
     quint64 m_lastNumber = 0;
+    Progress m_progress;
+    bool m_isCancelled = false;   // the step that is being made
     bool m_nodesChanged = false;  // which is told once, at the end of a step, of undo and of redo
     Contents* m_wanted = nullptr; // while undo or redo writes: what each value they touch must end with
 };

@@ -63,7 +63,7 @@ std::shared_ptr<const TKE::JobModel> JobDocument::ConfiguredModel()
 
 bool JobDocument::NewFromSample(TKE::FileError& error)
 {
-    if (!m_file.LoadSample(&error))
+    if (!Read([&] { return m_file.LoadSample(&error); }))
         return false;
     m_file.ReleaseLock();
     Loaded(false);
@@ -73,7 +73,7 @@ bool JobDocument::NewFromSample(TKE::FileError& error)
 bool JobDocument::Open(const QString& fileName, Access access, TKE::FileError& error)
 {
     // A name that does not depend on the working directory: it goes into the list of recent files and the lock.
-    if (!m_file.Load(QFileInfo(fileName).absoluteFilePath(), &error))
+    if (!Read([&] { return m_file.Load(QFileInfo(fileName).absoluteFilePath(), &error); }))
         return false;
     if (access == Access::ReadWrite)
         Lock();
@@ -111,19 +111,27 @@ std::vector<JobNode> JobDocument::GetNodes() const
 {
     // Nodes between the root and the job, and those of channels, are not the job's own; what stands below them moves
     // up.
-    std::vector<JobNode> nodes;
-    QHash<QString, int> numbers;
-    m_file.VisitNodes(
-        [&](const QString& path, const TKE::NodeSpec& spec, const QString& parentPath)
-        {
-            const TKE::Node* node = TKE::Tree::Instance()->FindNode(path);
-            if (!node)
-                return;
-            const QString name = node->GetName().isEmpty() ? spec.name : node->GetName().toString();
-            numbers.insert(path, int(nodes.size()));
-            nodes.push_back({path, name, node->GetTypeText(), spec.band, spec.dataForm, numbers.value(parentPath, -1)});
-        });
-    return nodes;
+    NodeLister nodes;
+    m_file.VisitNodes([&](const QString& path, const TKE::NodeSpec& spec, const QString& parentPath)
+                      { nodes.Add(path, spec, parentPath); });
+    return nodes.Take();
+}
+
+std::vector<JobNode> JobDocument::TakeNodes()
+{
+    return m_readNodes.empty() ? GetNodes() : std::exchange(m_readNodes, {});
+}
+
+bool JobDocument::Read(const std::function<bool()>& load)
+{
+    NodeLister nodes;
+    m_file.SetReadVisitor([&](const QString& path, const TKE::NodeSpec& spec, const QString& parentPath)
+                          { nodes.Add(path, spec, parentPath); });
+    const bool isLoaded = load();
+    m_file.SetReadVisitor({});
+    if (isLoaded)
+        m_readNodes = nodes.Take();
+    return isLoaded;
 }
 
 TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& spec, QString* reason)
@@ -235,6 +243,7 @@ void JobDocument::Loaded(bool readOnly)
     m_history->Clear();
     emit FileNameChanged();
     emit Replaced();
+    m_readNodes.clear();
 }
 
 void JobDocument::Lock()

@@ -66,6 +66,8 @@ public:
     const TKE::FileErrors& GetWarnings() const { return m_file.GetWarnings(); }
     /// The nodes that the job names, each before those below it.
     std::vector<JobNode> GetNodes() const;
+    /// The same, ready to take while a job has just been Replaced: they were listed as it was read.
+    std::vector<JobNode> TakeNodes();
 
 signals:
     /// Another job has taken the place of the one so far; all its nodes and values are gone.
@@ -80,6 +82,7 @@ signals:
 
 private:
     void SetModified(bool modified);
+    bool Read(const std::function<bool()>& load);
     void Loaded(bool readOnly);
     void Lock();
     bool IsOwnFile(const QString& fileName) const;
@@ -91,6 +94,7 @@ private:
     TKE::JournalHook m_otherJournal;
     EditHistory* m_history;
     QHash<QString, QString> m_savedTexts; // by path, of the values that have changed since
+    std::vector<JobNode> m_readNodes;
     bool m_modified = false;
     bool m_readOnly = false;
 };

@@ -17,7 +17,7 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int eventsEveryMs = 15;
+constexpr int eventsEveryMs = 10;
 constexpr int barSteps = 1000; // a bar counts in int, files may be larger
 
 bool IsInput(QEvent::Type type)

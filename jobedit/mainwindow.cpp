@@ -123,8 +123,8 @@ void MainWindow::TakeView(MainWindow& other)
     m_hint->setVisible(other.m_hint->isVisible());
     Saving(other).ReportRefusals();
     m_messages->TakeFrom(*other.m_messages);
-    m_nodes->Filter()->setText(other.m_nodes->Filter()->text());
     GoTo(other.GetPlace());
+    m_nodes->Filter()->setText(other.m_nodes->Filter()->text()); // it may hide that place
     for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
         panel->MakeAgain(this);
     m_viewActions->FocusPane(other.m_viewActions->CurrentPane());
@@ -299,7 +299,7 @@ void MainWindow::Slot_OnReplaced()
 {
     for (PanelWindow* panel : findChildren<PanelWindow*>())
         panel->close();
-    m_nodes->SetNodes(m_document->GetNodes());
+    m_nodes->SetNodes(m_document->TakeNodes());
 }
 
 void MainWindow::Slot_OnNodesChanged()

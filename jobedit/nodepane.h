@@ -5,14 +5,13 @@
 #include <QWidget>
 
 class QLineEdit;
-class QSortFilterProxyModel;
 class QTreeView;
 
 namespace JOBEDIT
 {
 
 /// The job's nodes with a filter above them. A filter keeps the nodes whose name or type holds its text, with all above
-/// and below them.
+/// and below them; the current node stays the current one even where the filter hides it, and its dialog stays open.
 class NodePane : public QWidget
 {
     Q_OBJECT
@@ -44,14 +43,18 @@ signals:
 
 private:
     void Expand();
+    bool IsExpandedByItself(const JobNode& node) const { return m_isAllExpanded || node.parent < 0; }
     void ApplyFilter(const QString& text);
+    void Slot_OnCurrentRowChanged(const QModelIndex& current);
     void Fill(std::vector<JobNode> nodes);
-    QModelIndex ShownIndexOf(const QString& path) const;
+    /// The first that is left of those from `path` on, or the last one before it.
+    void SelectNearest(const std::vector<JobNode>& before, const QString& path);
 
     NodeTreeModel* m_model;
-    QSortFilterProxyModel* m_filtered;
     QLineEdit* m_filter;
     QTreeView* m_view;
+    int m_current = -1; // number of the current node
+    bool m_isAllExpanded = false;
 };
 
 } // namespace JOBEDIT

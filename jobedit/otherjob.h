@@ -9,6 +9,11 @@ namespace JOBEDIT
 /// A job beside the open one, in a tree of its own. Nobody else hears of it.
 struct OtherJob
 {
+    OtherJob() = default;
+    ~OtherJob() { tree.ClearLater(); }
+    OtherJob(const OtherJob&) = delete;
+    OtherJob& operator=(const OtherJob&) = delete;
+
     TKE::Tree tree;
     TKE::JobFile file{tree};
 

@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int delay = 500;             // ms from an edit to its writing
-constexpr size_t recordsAtOnce = 5000; // so that the window goes on working meanwhile
+constexpr size_t recordsAtOnce = 1000; // so that the window goes on working meanwhile
 
 const QString editsSuffix = QStringLiteral(".edits");
 

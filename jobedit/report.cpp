@@ -24,9 +24,10 @@ bool WriteReport(const JobDocument& document, const QString& fileName, const Rep
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return fail(file.errorString());
-    ReportContent content(document, options);
     const ReportProgress tell = progress ? progress : [](qint64, qint64) { return true; };
-    if (!(isPdf ? ReportPages(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
+    ReportContent content(document, options, tell);
+    if (content.WasCancelled() ||
+        !(isPdf ? ReportPages(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
         return fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
     return file.commit() || fail(file.errorString());
 }
@@ -34,8 +35,8 @@ bool WriteReport(const JobDocument& document, const QString& fileName, const Rep
 bool PrintReport(const JobDocument& document, QPagedPaintDevice& device, const ReportOptions& options,
                  const ReportProgress& progress)
 {
-    ReportContent content(document, options);
-    return ReportPages(content, progress).Print(device);
+    ReportContent content(document, options, progress);
+    return !content.WasCancelled() && ReportPages(content, progress).Print(device);
 }
 
 } // namespace JOBEDIT

@@ -3,15 +3,10 @@
 #include "jobmodel/fileerror.h"
 #include "reportcontent.h"
 
-#include <functional>
-
 class QPagedPaintDevice;
 
 namespace JOBEDIT
 {
-
-/// Called between sections with the rows done and all; false cancels.
-using ReportProgress = std::function<bool(qint64 done, qint64 all)>;
 
 /// Writes the job as a document, HTML or PDF as the suffix says (.html, .htm, .pdf). PDF needs a QGuiApplication for
 /// its fonts, HTML none. False with `error` when that fails or is cancelled (the reason is empty then); a file of that

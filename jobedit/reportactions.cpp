@@ -1,6 +1,7 @@
 #include "reportactions.h"
 
 #include "dialogpane.h"
+#include "longwork.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 
@@ -15,7 +16,6 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -107,16 +107,8 @@ bool ReportActions::MayBeLong(ReportOptions& options)
 
 bool ReportActions::WithProgress(const QString& text, const std::function<bool(const ReportProgress&)>& work)
 {
-    QProgressDialog progress(text, tr("Cancel"), 0, 1000, &m_window);
-    progress.setWindowTitle(tr("Report"));
-    progress.setWindowModality(Qt::WindowModal); // nobody edits meanwhile
-    progress.setMinimumDuration(500);
-    return work(
-        [&](qint64 done, qint64 all)
-        {
-            progress.setValue(all > 0 ? int(done * 1000 / all) : 1000);
-            return !progress.wasCanceled();
-        });
+    LongWork progress(text, &m_window); // nobody edits meanwhile
+    return work([&](qint64 done, qint64 all) { return progress.Progress(done, all); });
 }
 
 bool ReportActions::WriteTo(const QString& fileName, const ReportOptions& options)

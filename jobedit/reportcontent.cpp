@@ -10,13 +10,14 @@
 namespace JOBEDIT
 {
 
-ReportContent::ReportContent(const JobDocument& document, const ReportOptions& options)
-    : m_options(options), m_nodes(document.GetNodes())
+ReportContent::ReportContent(const JobDocument& document, const ReportOptions& options, const ReportProgress& progress)
+    : m_options(options), m_nodes(document.GetNodes()), m_progress(progress)
 {
     const QString job = QFileInfo(document.GetFileName()).fileName();
     m_title = job.isEmpty() ? tr("New job") : tr("Job %1").arg(job);
     for (int index = 0; index < int(m_nodes.size()); ++index)
         m_byPath.insert(m_nodes[size_t(index)].path, index);
+    m_isCancelled = !m_progress(0, 1);
     for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
         Collect(*top, {});
     CollectFacts(document);
@@ -26,6 +27,8 @@ ReportContent::ReportContent(const JobDocument& document, const ReportOptions& o
 
 void ReportContent::Collect(const TKE::Node& node, Place place)
 {
+    if (m_isCancelled)
+        return;
     const auto found = m_byPath.constFind(node.GetBasePath());
     const bool isOwn = found != m_byPath.constEnd();
     // Values above the nodes that the job names have a section, too; those below belong to the node above them.
@@ -55,6 +58,7 @@ void ReportContent::Collect(const TKE::Node& node, Place place)
         else
             place.prefix = section.name + '/';
     }
+    m_isCancelled = m_isCancelled || !m_progress(0, 1);
     for (const auto& child : node.GetNodes())
         Collect(*child, place);
 }

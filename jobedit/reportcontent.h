@@ -18,6 +18,9 @@ namespace JOBEDIT
 
 class JobDocument;
 
+/// Called between sections with the rows done and all; false cancels.
+using ReportProgress = std::function<bool(qint64 done, qint64 all)>;
+
 struct ReportOptions
 {
     bool onlyChanges = false; ///< only values that differ from their default
@@ -56,7 +59,9 @@ public:
         bool isChanged;
     };
 
-    ReportContent(const JobDocument& document, const ReportOptions& options);
+    /// Looks through the job, and tells that nothing is done yet now and then; cancelled, it has seen a part only.
+    ReportContent(const JobDocument& document, const ReportOptions& options, const ReportProgress& progress);
+    bool WasCancelled() const { return m_isCancelled; }
 
     const ReportOptions& GetOptions() const { return m_options; }
     const QString& GetTitle() const { return m_title; }
@@ -89,6 +94,8 @@ private:
     std::vector<JobNode> m_nodes;
     std::vector<Fact> m_facts;
     std::vector<Section> m_sections;
+    const ReportProgress& m_progress;
+    bool m_isCancelled = false;
     qint64 m_rowCount = 0;
     qint64 m_values = 0;
     qint64 m_changed = 0;

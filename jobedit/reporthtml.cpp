@@ -64,7 +64,7 @@ bool ReportHtml::Write(QIODevice& device)
         AddSection(index);
         const ReportContent::Section& section = m_content.GetSections()[index];
         done += m_content.GetOptions().onlyChanges ? section.changed : section.values;
-        if (m_out.size() >= portion && (!flush() || !m_progress(done, m_content.RowCount())))
+        if ((m_out.size() >= portion && !flush()) || !m_progress(done, m_content.RowCount()))
             return false;
     }
     m_out += "</body>\n</html>\n";
@@ -108,6 +108,7 @@ void ReportHtml::AddContents()
     const auto& sections = m_content.GetSections();
     for (size_t index = 0; index < sections.size(); ++index)
     {
+        m_progress(0, m_content.RowCount()); // cancelled, it ends with the first section
         const ReportContent::Section& section = sections[index];
         m_out += "<li style=\"margin-left: " + std::to_string(section.depth * 1.5).substr(0, 4) + "em\"><a href=\"#n" +
                  std::to_string(index + 1) + "\">";

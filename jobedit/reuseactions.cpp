@@ -1,6 +1,7 @@
 #include "reuseactions.h"
 
 #include "dialogpane.h"
+#include "longact.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "namedialog.h"
@@ -123,7 +124,10 @@ void ReuseActions::Apply(const ParameterSet& set, const QString& stepName)
     for (const JobNode& target : targets)
         for (ValueChange& change : set.ChangesFor(target.path))
             changes.push_back(std::move(change));
+    LongAct work(stepName, &m_window, m_window.Document().History());
     const WriteResult result = WriteValues(m_window.Document(), stepName, changes);
+    if (result.isCancelled)
+        return Tell(tr("%1: cancelled, nothing has changed").arg(stepName));
     constexpr size_t listed = 300; // a chain's worth and more; the rest only repeats it for other chains
     for (size_t number = 0; number < std::min(listed, result.refused.size()); ++number)
         m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not written").arg(result.refused[number].path),

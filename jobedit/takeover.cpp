@@ -52,11 +52,14 @@ std::vector<Difference> CompareSides::Compare(const DiffProgress& progress) cons
 WriteResult TakeOver(JobDocument& document, const QString& stepName, const CompareSides& sides,
                      const std::vector<Difference>& differences)
 {
-    const EditHistory::Step step(document.History(), stepName);
+    EditHistory& history = document.History();
+    const EditHistory::Step step(history, stepName);
     WriteResult result;
     std::vector<ValueChange> changes;
     for (const Difference& difference : differences)
     {
+        if (difference.IsNode() && !history.MayGoOn(0, 1))
+            return {.isCancelled = true};
         if (difference.IsNode())
         {
             if (const QString reason = TakeNode(document, sides, difference); !reason.isEmpty())
@@ -72,6 +75,8 @@ WriteResult TakeOver(JobDocument& document, const QString& stepName, const Compa
                  TakingOver::tr("Only one side has the parameter: the nodes have different groups.")});
     }
     const WriteResult values = WriteValues(document, stepName, changes);
+    if (values.isCancelled)
+        return {.isCancelled = true};
     result.written += values.written;
     for (const Refusal& refusal : values.refused)
         result.refused.push_back({refusal.path.mid(sides.leftBase.size()), refusal.reason});

@@ -17,7 +17,7 @@ namespace JOBEDIT
 namespace
 {
 
-constexpr int sliceLength = 20; // ms
+constexpr int sliceLength = 8; // ms; others work in slices at the same time
 constexpr quint32 atOnce = 64;  // values between two looks at the clock
 
 bool Holds(const QString& text, const QString& sought)
@@ -45,6 +45,16 @@ void ValueScan::Start(ValueQuery query)
     Stop();
     m_query = std::move(query);
     m_listing = {};
+    m_keys.clear();
+    m_labels.clear();
+    m_branch = 1;
+    m_place = 0;
+    m_running = true;
+    m_timer.start();
+}
+
+void ValueScan::Begin()
+{
     m_listing.isFlat = m_query.isFlat;
     m_listing.branches.emplace_back();
     for (const TKE::Node* top : TKE::Tree::Instance()->GetTopNodes())
@@ -56,12 +66,6 @@ void ValueScan::Start(ValueQuery query)
             for (const auto& node : top->GetNodes())
                 AddBranches(*node, 0);
     }
-    m_keys.clear();
-    m_labels.clear();
-    m_branch = 1;
-    m_place = 0;
-    m_running = true;
-    m_timer.start();
 }
 
 void ValueScan::Stop()
@@ -89,6 +93,8 @@ void ValueScan::Slot_OnSlice()
 {
     QElapsedTimer slice;
     slice.start();
+    if (m_listing.branches.empty())
+        Begin(); // in a turn of its own: a new job keeps the one that asks busy
     while (m_branch < m_listing.branches.size())
     {
         ScanSome();

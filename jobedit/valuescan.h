@@ -51,7 +51,8 @@ public:
     bool IsRunning() const { return m_running; }
 
 signals:
-    void Finished(const ValueListing& listing);
+    /// The receiver may take the list.
+    void Finished(ValueListing& listing);
 
 private:
     struct SortKey
@@ -59,6 +60,7 @@ private:
         double number;
         QString text;
     };
+    void Begin();
     void AddBranches(const TKE::Node& node, quint32 parent);
     void Slot_OnSlice();
     void ScanSome();

@@ -68,7 +68,8 @@ ValuesDock::ValuesDock(MainWindow& window)
     hide();
 
     connect(&m_later, &QTimer::timeout, this, &ValuesDock::Refresh);
-    connect(&m_repaint, &QTimer::timeout, m_model, &ValuesModel::ShowContents);
+    // Not by the model, whose list a view would go through to find out which of a million rows it shows.
+    connect(&m_repaint, &QTimer::timeout, m_view->viewport(), qOverload<>(&QWidget::update));
     connect(m_scan, &ValueScan::Finished, this, &ValuesDock::Slot_OnFinished);
     connect(m_filter, &QLineEdit::textChanged, this, [this] { m_later.start(typingPause); });
     connect(m_filter, &QLineEdit::returnPressed, m_view, qOverload<>(&QWidget::setFocus));
@@ -230,7 +231,7 @@ void ValuesDock::Slot_OnContentChanged()
         m_later.start(changePause);
 }
 
-void ValuesDock::Slot_OnFinished(const ValueListing& listing)
+void ValuesDock::Slot_OnFinished(ValueListing& listing)
 {
     // A new list would take the editor away with what is typed in it.
     if (m_view->isPersistentEditorOpen(m_view->currentIndex()))
@@ -240,9 +241,9 @@ void ValuesDock::Slot_OnFinished(const ValueListing& listing)
     }
     const QString current = m_model->PathAt(m_view->currentIndex());
     const QStringList expanded = ExpandedPaths();
-    m_model->SetListing(listing);
+    m_model->SetListing(std::move(listing));
     RestoreView(current, expanded);
-    m_count->setText(tr("Values: %1").arg(listing.rows.size()));
+    m_count->setText(tr("Values: %1").arg(m_model->GetListing().rows.size()));
 }
 
 QStringList ValuesDock::ExpandedPaths() const

@@ -47,7 +47,7 @@ private:
     void Refresh();
     void Slot_OnReplaced();
     void Slot_OnContentChanged();
-    void Slot_OnFinished(const ValueListing& listing);
+    void Slot_OnFinished(ValueListing& listing);
     void Slot_OnShapeChanged();
     void Slot_OnMenuRequested(const QPoint& position);
     void EditCurrent();

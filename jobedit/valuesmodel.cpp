@@ -91,13 +91,6 @@ QModelIndex ValuesModel::IndexOf(const QString& path) const
     return {};
 }
 
-void ValuesModel::ShowContents()
-{
-    // A view repaints what it shows, wherever the change stands.
-    if (const int rows = rowCount())
-        emit dataChanged(index(0, 0), index(rows - 1, ValueListing::ColumnCount - 1));
-}
-
 QModelIndex ValuesModel::index(int row, int column, const QModelIndex& parent) const
 {
     if (row < 0 || column < 0 || column >= ValueListing::ColumnCount || row >= rowCount(parent))

@@ -30,9 +30,6 @@ public:
     /// The row of the value or node; invalid when it is not in the list.
     QModelIndex IndexOf(const QString& path) const;
 
-    /// Contents have changed: shows them anew. Cheap, and reads nothing by itself.
-    void ShowContents();
-
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = {}) const override;

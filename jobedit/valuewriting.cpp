@@ -54,11 +54,16 @@ bool Write(const ValueChange& change, bool& written, QString& reason)
 
 WriteResult WriteValues(JobDocument& document, const QString& stepName, const std::vector<ValueChange>& changes)
 {
-    const EditHistory::Step step(document.History(), stepName);
+    EditHistory& history = document.History();
+    const EditHistory::Step step(history, stepName);
     WriteResult result;
     std::vector<const ValueChange*> accepted;
+    qint64 done = 0;
+    const auto goesOn = [&] { return history.MayGoOn(done++, qint64(2 * changes.size())); };
     for (const ValueChange& change : changes)
     {
+        if (!goesOn())
+            return {.isCancelled = true};
         bool written = false;
         QString reason;
         if (!Write(change, written, reason))
@@ -72,6 +77,8 @@ WriteResult WriteValues(JobDocument& document, const QString& stepName, const st
     // A value may set others when it changes (a mode its switches): what was written before it is written again.
     for (const ValueChange* change : accepted)
     {
+        if (!goesOn())
+            return {.isCancelled = true};
         bool written = false;
         QString reason;
         if (!Write(*change, written, reason))

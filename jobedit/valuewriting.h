@@ -27,10 +27,12 @@ struct Refusal
 struct WriteResult
 {
     int written = 0; ///< values that are now as wanted and were not before
-    std::vector<Refusal> refused;
+    std::vector<Refusal> refused{};
+    bool isCancelled = false; ///< nothing has changed
 };
 
 /// Writes these contents into the open job as one step of undo with that name. What cannot be written is left as it is.
+/// The progress of the history is told, and may cancel it.
 WriteResult WriteValues(JobDocument& document, const QString& stepName, const std::vector<ValueChange>& changes);
 
 } // namespace JOBEDIT

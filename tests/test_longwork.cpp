@@ -1,8 +1,14 @@
+#include "jobedit/checkdock.h"
+#include "jobedit/compareactions.h"
 #include "jobedit/dialogpane.h"
+#include "jobedit/differencemodel.h"
+#include "jobedit/findbar.h"
 #include "jobedit/longwork.h"
 #include "jobedit/mainwindow.h"
 #include "jobedit/messagelist.h"
 #include "jobedit/nodepane.h"
+#include "jobedit/report.h"
+#include "jobedit/valuesdock.h"
 #include "value/idledisposal.h"
 
 #include <QtTest>
@@ -17,8 +23,25 @@ namespace
 
 constexpr int copies = 300; // of the sample: a million values in a file of some 60 MB
 
-/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let: in processor time,
-/// since other programs run on this machine, too.
+// In milliseconds; not held where the compiler does not optimise.
+#ifdef NDEBUG
+constexpr qint64 longestStep = 100;
+constexpr qint64 longestKey = 50;
+#else
+constexpr qint64 longestStep = 100'000;
+constexpr qint64 longestKey = 100'000;
+#endif
+
+/// Milliseconds of the processor that this thread has used: other programs run on this machine, too, and so do other
+/// threads.
+qint64 Now()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1'000'000;
+}
+
+/// Ticks every 10 ms, as painting and the keyboard would; remembers for how long it was not let.
 class Heart
 {
 public:
@@ -40,8 +63,6 @@ private:
         const qint64 now = Now();
         m_longest = std::max(m_longest, now - std::exchange(m_last, now));
     }
-    static qint64 Now() { return qint64(std::clock()) * 1000 / CLOCKS_PER_SEC; }
-
     QTimer m_timer;
     qint64 m_last = Now();
     qint64 m_longest = 0;
@@ -51,6 +72,18 @@ QByteArray ReadAll(const QString& fileName)
 {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
+/// Gives other contents to frequencies and switches, some in each node that has any.
+void Vary(const Node& node, int& count)
+{
+    for (const auto& value : node.GetValues())
+        if (value->GetKind() == ValueKind::Frequency && ++count % 2)
+            value->SetStoredText("7100000");
+        else if (value->GetKind() == ValueKind::Bool && ++count % 10 == 0)
+            value->SetBool(!value->GetBool());
+    for (const auto& below : node.GetNodes())
+        Vary(*below, count);
 }
 
 void NameAll(const Node& node)
@@ -98,6 +131,19 @@ class TestLongWork : public QObject
             NameAll(*top);
         QVERIFY(file.SaveAs(File("full.job.xml")));
         QVERIFY(QFileInfo(File("full.job.xml")).size() > 60'000'000);
+        int count = 0;
+        for (const Node* top : tree.GetTopNodes())
+            Vary(*top, count);
+        QVERIFY(file.SaveAs(File("other.job.xml")));
+    }
+
+    /// Of the event loop until all is quiet again.
+    qint64 LongestStepOf(const std::function<void()>& operation)
+    {
+        Heart heart;
+        operation();
+        Settle();
+        return heart.LongestGap();
     }
 
     void Settle()
@@ -139,29 +185,154 @@ private Q_SLOTS:
     void theWindowAnswersWithin100MsWhileALargeJobComesAndGoes()
     {
         QFETCH(QString, file);
-        const auto gapOf = [this](const std::function<bool()>& operation)
-        {
-            Heart heart;
-            if (!operation())
-                return qint64(-1);
-            Settle();
-            return heart.LongestGap();
-        };
         // The best of three: the first round also makes what stays.
-        qint64 open = 1000, save = 1000, close = 1000;
-        for (int round = 0; round < 3 && std::max({open, save, close}) >= 100; ++round)
+        qint64 open = longestStep, save = longestStep, close = longestStep;
+        for (int round = 0; round < 3 && std::max({open, save, close}) >= longestStep; ++round)
         {
-            open = std::min(open, gapOf([&] { return m_window->OpenFile(File(file)); }));
+            open = std::min(open, LongestStepOf([&] { QVERIFY(m_window->OpenFile(File(file))); }));
             QCOMPARE(m_window->Nodes().GetNodes().size(), size_t(copies * 98));
-            save = std::min(save, gapOf([&] { return m_window->SaveTo(File("saved.job.xml")); }));
-            close = std::min(close, gapOf([&] { return m_window->NewFromSample(); }));
+            save = std::min(save, LongestStepOf([&] { QVERIFY(m_window->SaveTo(File("saved.job.xml"))); }));
+            close = std::min(close, LongestStepOf([&] { QVERIFY(m_window->NewFromSample()); }));
         }
         qInfo("Longest steps in ms: open %d, save %d, close %d", int(open), int(save), int(close));
-        QVERIFY(open >= 0 && save >= 0 && close >= 0);
-#ifdef NDEBUG
-        // The figure to keep to is 100, as printed above; what fails is a step that has become a long one on any machine.
-        QVERIFY2(std::max({open, save, close}) < 250, qPrintable(QString::number(std::max({open, save, close}))));
-#endif
+        QVERIFY(std::max({open, save, close}) < longestStep);
+    }
+
+    void theWindowAnswersWithin100MsWhileALargeJobIsWorkedOn_data()
+    {
+        QTest::addColumn<QStringList>("works");
+        QTest::newRow("listed") << QStringList{"list", "filter the list", "list flat", "sort by content", "replace"};
+        QTest::newRow("compared") << QStringList{"compare", "take over", "leave", "undo", "redo"};
+        QTest::newRow("looked through") << QStringList{"check", "find", "report", "rename", "remove"};
+    }
+    void theWindowAnswersWithin100MsWhileALargeJobIsWorkedOn()
+    {
+        QFETCH(QStringList, works);
+        QVERIFY(m_window->OpenFile(File("full.job.xml")));
+        auto* values = m_window->findChild<ValuesDock*>();
+        auto* check = m_window->findChild<CheckDock*>();
+        const auto quiet = [&]
+        { QTRY_VERIFY_WITH_TIMEOUT((values->isHidden() || values->IsUpToDate()) && !check->IsRunning(), 20000); };
+        const auto act = [this](const char* name) { m_window->findChild<QAction*>(name)->trigger(); };
+        QPointer<CompareDialog> dialog;
+        const std::map<QString, std::function<void()>> all{
+            {"list", [&] { values->show(); }},
+            {"filter the list",
+             [&]
+             {
+                 QTest::keyClicks(values->Filter(), "frequency");
+                 QTest::qWait(200);
+             }},
+            {"list flat",
+             [&]
+             {
+                 values->Filter()->clear();
+                 values->findChild<QCheckBox*>("asTree")->click();
+                 QTest::qWait(200);
+             }},
+            {"sort by content", [&] { values->View()->header()->setSortIndicator(1, Qt::DescendingOrder); }},
+            {"replace", [&] { QVERIFY(m_window->OpenFile(File("sparse.job.xml"))); }},
+            {"compare", [&] { QVERIFY(dialog = m_window->Comparing().CompareWithFile(File("other.job.xml"))); }},
+            {"take over",
+             [&]
+             {
+                 dialog->findChild<QPushButton*>("tickAll")->click();
+                 dialog->findChild<QPushButton*>("takeOver")->click();
+             }},
+            {"leave", [&] { dialog->close(); }},
+            {"undo", [&] { act("undo"); }},
+            {"redo", [&] { act("redo"); }},
+            {"check", [&] { check->Start(); }},
+            {"find",
+             [&]
+             {
+                 m_window->findChild<FindBar*>()->Open();
+                 QTest::keyClicks(QApplication::focusWidget(), "frequency hz cs_ 1", Qt::NoModifier, 15);
+             }},
+            {"report",
+             [&]
+             {
+                 FileError error;
+                 LongWork work("Writing", m_window.get());
+                 QVERIFY(WriteReport(
+                     m_window->Document(), File("report.html"), {},
+                     [&](qint64 done, qint64 of) { return work.Progress(done, of); }, error));
+             }},
+            {"rename", [&] { QVERIFY(m_window->Document().RenameNode("/Jobs/J7", "Other", nullptr)); }},
+            {"remove", [&] { QVERIFY(m_window->Document().RemoveNode("/Jobs/J8", nullptr)); }},
+        };
+        quiet();
+        QStringList figures;
+        qint64 longest = 0;
+        for (const QString& work : works)
+        {
+            const qint64 step = LongestStepOf(
+                [&]
+                {
+                    all.at(work)();
+                    quiet();
+                });
+            if (QTest::currentTestFailed())
+                return;
+            figures << QString("%1 %2").arg(work).arg(step);
+            longest = std::max(longest, step);
+        }
+        qInfo("Longest steps in ms: %s", qPrintable(figures.join(", ")));
+        QVERIFY(longest < longestStep);
+        if (works.contains("redo"))
+            QVERIFY(m_window->isWindowModified() && m_window->Document().History().CanUndo());
+    }
+
+    void anActOfManyChangesIsCancelledAndNothingIsLost_data()
+    {
+        QTest::addColumn<QString>("act");
+        for (const char* act : {"take over", "undo", "redo"})
+            QTest::newRow(act) << act;
+    }
+    void anActOfManyChangesIsCancelledAndNothingIsLost()
+    {
+        QFETCH(QString, act);
+        QVERIFY(m_window->OpenFile(File("full.job.xml")));
+        EditHistory& history = m_window->Document().History();
+        CompareDialog* dialog = m_window->Comparing().CompareWithFile(File("other.job.xml"));
+        QVERIFY(dialog);
+        dialog->findChild<QPushButton*>("tickAll")->click();
+        auto* takeOver = dialog->findChild<QPushButton*>("takeOver");
+        if (act != "take over")
+        {
+            takeOver->click();
+            dialog->close();
+        }
+        if (act == "redo")
+            history.Undo();
+        const QByteArray before = m_window->Document().File().ToUtf8();
+        const bool isModified = m_window->isWindowModified();
+
+        bool wasUnderWay = false;
+        QTimer user;
+        user.callOnTimeout(
+            [&]
+            {
+                if (!LongWork::IsUnderWay())
+                    return;
+                wasUnderWay = true;
+                QWidget* window = QApplication::activeModalWidget();
+                QTest::keyClick(window ? window : m_window.get(), Qt::Key_Escape);
+            });
+        user.start(1);
+        if (act == "take over")
+            takeOver->click();
+        else
+            m_window->findChild<QAction*>(act)->trigger();
+        user.stop();
+
+        QVERIFY(wasUnderWay);
+        QCOMPARE(m_window->Document().File().ToUtf8(), before);
+        QCOMPARE(m_window->isWindowModified(), isModified);
+        QCOMPARE(history.CanUndo(), act == "undo");
+        if (act != "take over")
+            act == "undo" ? history.Undo() : history.Redo();
+        QVERIFY(act == "take over" || m_window->Document().File().ToUtf8() != before);
     }
 
     void aLoadOrASaveIsCancelledAndNothingIsLost_data()
@@ -239,16 +410,20 @@ private Q_SLOTS:
     void theFilterOfALargeJobAnswersAndShowsWhatMatches()
     {
         QVERIFY(m_window->OpenFile(File("sparse.job.xml")));
+        const QString current = m_window->Nodes().GetCurrentNode()->path;
+        const QTabWidget* dialog = m_window->Dialog().GetDialog();
         qint64 longest = 0;
-        for (const char key : {'_', 'v', 'u', 'h', 'f'})
+        for (const char key : {'_', 'v', 'u', 'h', 'f', '\b', '\b', '\b', '\b', '\b', 't', 'u', 'n'})
         {
-            const auto begin = std::clock();
+            const qint64 begin = Now();
             QTest::keyClick(m_window->Nodes().Filter(), key);
-            longest = std::max<qint64>(longest, qint64(std::clock() - begin) * 1000 / CLOCKS_PER_SEC);
+            longest = std::max(longest, Now() - begin);
         }
-#ifdef NDEBUG
-        QVERIFY2(longest < 400, qPrintable(QString::number(longest))); // 20 to 70 on a quiet machine
-#endif
+        qInfo("Longest key: %d ms", int(longest));
+        QVERIFY(longest < longestKey);
+        // What the filter hides is still what the dialog shows.
+        QCOMPARE(m_window->Nodes().GetCurrentNode()->path, current);
+        QCOMPARE(m_window->Dialog().GetDialog(), dialog);
         m_window->Nodes().Filter()->setText("J7");
         const QTreeView* view = m_window->Nodes().View();
         const QModelIndex job = view->model()->index(0, 0);

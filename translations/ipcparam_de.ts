@@ -626,14 +626,6 @@
         <translation>%1 vergleichen mit:</translation>
     </message>
     <message>
-        <source>Reading %1...</source>
-        <translation>Lese %1...</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>%1 could not be read.</source>
         <translation>%1 konnte nicht gelesen werden.</translation>
     </message>
@@ -649,17 +641,13 @@
         <source>To the &amp;Differences</source>
         <translation>Zu den &amp;Unterschieden</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lese %1</translation>
+    </message>
 </context>
 <context>
     <name>JOBEDIT::CompareDialog</name>
-    <message>
-        <source>Comparing...</source>
-        <translation>Vergleiche...</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
     <message>
         <source>Filter by node, parameter, key or value</source>
         <translation>Nach Knoten, Parameter, Schlüssel oder Wert filtern</translation>
@@ -707,6 +695,14 @@
     <message>
         <source>Go to &amp;Right Field</source>
         <translation>Zum &amp;rechten Feld gehen</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>Cancelled, nothing was taken over</source>
+        <translation>Abgebrochen, nichts wurde übernommen</translation>
     </message>
 </context>
 <context>
@@ -835,6 +831,14 @@
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -2010,10 +2014,6 @@ Typ: %2</translation>
         <translation>&amp;Alle Werte</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Writing %1</source>
         <translation>%1 schreiben</translation>
     </message>
@@ -2327,6 +2327,10 @@ Ersetzen?</translation>
     <message>
         <source>Preset&amp;s</source>
         <translation>&amp;Vorlagen</translation>
+    </message>
+    <message>
+        <source>%1: cancelled, nothing has changed</source>
+        <translation>%1: abgebrochen, nichts hat sich geändert</translation>
     </message>
 </context>
 <context>

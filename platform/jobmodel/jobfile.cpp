@@ -64,7 +64,10 @@ bool BackUp(const QString& fileName, QString& reason)
 
 JobFile::JobFile(Tree& tree) : m_tree(tree), m_layout(std::make_unique<JobLayout>()) {}
 
-JobFile::~JobFile() = default;
+JobFile::~JobFile()
+{
+    JobLayout::DisposeLater(std::move(m_layout));
+}
 
 void JobFile::SetModel(std::shared_ptr<const JobModel> model)
 {
@@ -125,6 +128,7 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error
         JobReader reader(fresh, m_tree, *layout, *GetModel(), shownName, JobReader::Purpose::Load);
         reader.SetProgress(m_progress);
         reader.SetMostValues(m_mostValues);
+        reader.SetVisitor(m_readVisitor);
         if (!reader.Read(device))
         {
             const auto& errors = reader.GetErrors();

@@ -48,7 +48,7 @@ public:
 
     /// `tree` is not owned and outlives the job.
     explicit JobFile(Tree& tree = *Tree::Instance());
-    /// Nodes and values stay in the tree; the rules end.
+    /// Nodes and values stay in the tree; the rules end. What it knows of the file goes a little at a time.
     ~JobFile();
     JobFile(const JobFile&) = delete;
     JobFile& operator=(const JobFile&) = delete;
@@ -114,6 +114,9 @@ public:
     using NodeVisitor = std::function<void(const QString& path, const NodeSpec& spec, const QString& parentPath)>;
     /// Shows all nodes of the job in the order of the file, each before those below it.
     void VisitNodes(const NodeVisitor& visit) const;
+    /// The same for each node as it is read, which is before the job is in use and before it is known whether it will
+    /// be: to go through a large job afterwards takes a while.
+    void SetReadVisitor(NodeVisitor visitor) { m_readVisitor = std::move(visitor); }
 
 private:
     static constexpr size_t mostValues = 10'000'000; // ten times what a large job has; some gigabytes
@@ -131,6 +134,7 @@ private:
     std::unique_ptr<JobLayout> m_layout;
     FileErrors m_warnings;
     Progress m_progress;
+    NodeVisitor m_readVisitor;
     size_t m_mostValues = mostValues;
     QString m_fileName;
     Stamp m_stamp;

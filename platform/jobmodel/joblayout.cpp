@@ -115,7 +115,8 @@ std::shared_ptr<const NodeTemplate> JobLayout::TemplateFor(const JobModel& model
 
 void JobNode::EndRules()
 {
-    rules.reset();
+    if (rules)
+        rules->End();
     for (const auto& below : nodes)
     {
         if (below)

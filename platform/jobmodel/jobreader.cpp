@@ -201,6 +201,8 @@ void JobReader::StartNode(Attributes attributes)
     Tick(); // a node may have thousands of values that the file does not name
     m_open.push_back(std::move(open));
     m_layout.byPath.insert(node->path, node.get());
+    if (m_visitor)
+        m_visitor(node->path, node->spec, parent.path);
     parent.Add(JobNode::Piece::Node, parent.nodes.size());
     parent.nodes.push_back(std::move(node));
 }

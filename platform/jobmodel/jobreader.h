@@ -3,6 +3,7 @@
 #include "jobmodel/joblayout.h"
 #include "jobmodel/xmlreader.h"
 
+#include <functional>
 #include <limits>
 
 namespace TKE
@@ -27,6 +28,9 @@ public:
               Purpose purpose);
 
     void SetMostValues(size_t values) { m_mostValues = values; }
+    using NodeVisitor = std::function<void(const QString& path, const NodeSpec& spec, const QString& parentPath)>;
+    /// Told of each node that was begun.
+    void SetVisitor(NodeVisitor visitor) { m_visitor = std::move(visitor); }
 
 private:
     // A node whose end tag is yet to come.
@@ -66,6 +70,7 @@ private:
     size_t m_room = 0;            // values that the tree has room for
     size_t m_mostValues = std::numeric_limits<size_t>::max();
     int m_unknownDepth = 0;       // how deep in an unknown element
+    NodeVisitor m_visitor;
 
     // The value being read.
     bool m_inValue = false;

@@ -49,7 +49,7 @@ void NodeRules::Begin(const std::vector<ValueBase*>& values)
 
 void NodeRules::Update(Observable* changed, TChangeCode code)
 {
-    if (code != ccContent)
+    if (code != ccContent || !m_tree)
         return;
     // Whoever hears of a new state may change the source again, remove values or end these rules: nothing here is
     // touched after the first state is set but what is held by this operation itself, and values are sought anew for

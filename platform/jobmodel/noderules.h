@@ -17,6 +17,8 @@ public:
     /// Follows these values, one per entry of the template, from now on and sets all states once. Nobody else hears of
     /// them yet.
     void Begin(const std::vector<ValueBase*>& values);
+    /// Does nothing from now on. Cheaper than going, which lets go of each value.
+    void End() { m_tree = nullptr; }
 
 private:
     void Update(Observable* source, TChangeCode code) override;
