@@ -77,6 +77,17 @@ private slots:
         }
     }
 
+    void largeLettersAreNotCutOff()
+    {
+        const auto restore = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        QFont large = QApplication::font();
+        large.setPointSize(2 * large.pointSize());
+        QApplication::setFont(large);
+        const DecoderDlg panel(basePath, nullptr, false, false, false);
+        const QWidget* decoder = Grid(DecoderBox(panel)).At(0, 1);
+        QVERIFY(decoder->maximumWidth() >= decoder->minimumSizeHint().width());
+    }
+
     void withoutADemodulationTheAlphabetStaysUnbound()
     {
         Tree::Instance()->RemoveValue(basePath + DEMODULATOR_HF_DDC_MODTYPE);
