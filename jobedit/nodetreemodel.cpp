@@ -142,7 +142,7 @@ QVariant NodeTreeModel::data(const QModelIndex& index, int role) const
         return node.type.isEmpty() ? node.path : tr("%1\nType: %2").arg(node.path, node.type);
     case Qt::ForegroundRole:
         // Asked for at each painting, so that it follows the palette.
-        return HasDialog(node) ? QVariant() : QGuiApplication::palette().brush(QPalette::PlaceholderText);
+        return HasDialog(node) ? QVariant() : QGuiApplication::palette().color(QPalette::PlaceholderText);
     default:
         return {};
     }

@@ -1,5 +1,6 @@
 #include "planexport.h"
 
+#include "application/qtcompat.h"
 #include "jobdocument.h"
 
 #include <QFileInfo>
@@ -113,11 +114,12 @@ bool PlanPicture::Write(const QString& fileName, const QSize& size, TKE::FileErr
     const QSize whole(width, std::max(size.height(), HeightFor(width)));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
-        return fail(file.errorString());
+        return fail(QtCompat::ErrorText(file));
     QString reason;
     if (suffix == "svg" ? !WriteSvg(file, whole) : !WritePng(file, whole, reason))
-        return fail(reason.isEmpty() ? tr("The picture could not be painted: %1").arg(file.errorString()) : reason);
-    return file.commit() || fail(file.errorString());
+        return fail(reason.isEmpty() ? tr("The picture could not be painted: %1").arg(QtCompat::ErrorText(file))
+                                     : reason);
+    return file.commit() || fail(QtCompat::ErrorText(file));
 }
 
 bool PlanPicture::WriteSvg(QIODevice& device, const QSize& size) const

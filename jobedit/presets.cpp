@@ -1,5 +1,7 @@
 #include "presets.h"
 
+#include "application/qtcompat.h"
+
 #include <QJsonDocument>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -59,7 +61,7 @@ std::optional<ParameterSet> Presets::Load(const QString& name, QString& reason) 
     QFile file(FileOf(name));
     if (!file.open(QIODevice::ReadOnly))
     {
-        reason = tr("%1: %2").arg(file.fileName(), file.errorString());
+        reason = tr("%1: %2").arg(file.fileName(), QtCompat::ErrorText(file));
         return {};
     }
     auto set = ParameterSet::FromJson(file.readAll(), reason);
@@ -75,7 +77,7 @@ bool Presets::Save(const QString& name, const ParameterSet& set, QString& reason
     const QByteArray json = QJsonDocument(set.ToJson()).toJson();
     if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
         return true;
-    reason = tr("%1: %2").arg(file.fileName(), file.errorString());
+    reason = tr("%1: %2").arg(file.fileName(), QtCompat::ErrorText(file));
     return false;
 }
 
@@ -84,7 +86,7 @@ bool Presets::Rename(const QString& name, const QString& newName, QString& reaso
     QFile file(FileOf(name));
     if (file.rename(FileOf(newName))) // refuses a name that is taken
         return true;
-    reason = tr("%1: %2").arg(file.fileName(), file.errorString());
+    reason = tr("%1: %2").arg(file.fileName(), QtCompat::ErrorText(file));
     return false;
 }
 
@@ -93,7 +95,7 @@ bool Presets::Remove(const QString& name, QString& reason)
     QFile file(FileOf(name));
     if (file.remove())
         return true;
-    reason = tr("%1: %2").arg(file.fileName(), file.errorString());
+    reason = tr("%1: %2").arg(file.fileName(), QtCompat::ErrorText(file));
     return false;
 }
 

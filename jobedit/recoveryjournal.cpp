@@ -1,6 +1,7 @@
 #include "recoveryjournal.h"
 
 #include "application/errorhandler.h"
+#include "application/qtcompat.h"
 #include "jobdocument.h"
 
 #include <QDateTime>
@@ -247,7 +248,7 @@ void RecoveryJournal::WriteSome()
     good = good && m_file->flush();
     if (!good)
     {
-        const QString reason = m_file ? m_file->errorString() : QString();
+        const QString reason = m_file ? QtCompat::ErrorText(*m_file) : QString();
         Forget();
         m_failed = true;
         TKE::ErrorHandler::Interface().Report(

@@ -1,5 +1,6 @@
 #include "report.h"
 
+#include "application/qtcompat.h"
 #include "reporthtml.h"
 #include "reportpages.h"
 
@@ -23,13 +24,13 @@ bool WriteReport(const JobDocument& document, const QString& fileName, const Rep
         return fail(ReportContent::tr("A report is written as .html or .pdf."));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
-        return fail(file.errorString());
+        return fail(QtCompat::ErrorText(file));
     const ReportProgress tell = progress ? progress : [](qint64, qint64) { return true; };
     ReportContent content(document, options, tell);
     if (content.WasCancelled() ||
         !(isPdf ? ReportPages(content, tell).Write(file) : ReportHtml(content, tell).Write(file)))
-        return fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
-    return file.commit() || fail(file.errorString());
+        return fail(file.error() == QFileDevice::NoError ? QString() : QtCompat::ErrorText(file));
+    return file.commit() || fail(QtCompat::ErrorText(file));
 }
 
 bool PrintReport(const JobDocument& document, QPagedPaintDevice& device, const ReportOptions& options,

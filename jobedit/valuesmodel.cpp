@@ -168,7 +168,7 @@ QVariant ValuesModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole:
         if (value->GetState() == TKE::stEnabled)
             return {};
-        return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text);
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
     {

@@ -128,7 +128,9 @@ class TestAccessibility : public QObject
             m_faults << what + "has no name";
         if (heard.name.contains('&'))
             m_faults << what + "its name has the mark of a shortcut";
-        if (bool(heard.state.disabled) == editor.isEnabled())
+        // Lists and tables tell no state at all before Qt 6.
+        const bool tellsState = QT_VERSION_MAJOR >= 6 || !qobject_cast<QAbstractItemView*>(&editor);
+        if (tellsState && bool(heard.state.disabled) == editor.isEnabled())
             m_faults << what + "is not told to be enabled or disabled";
         const auto expect = [&](std::initializer_list<QAccessible::Role> roles)
         {

@@ -182,6 +182,17 @@ private slots:
         QCOMPARE(BoundNames(panel), QSet<QString>{DECODER_HF_DDC_DECODER_ID});
     }
 
+    void largeLettersAreNotCutOff()
+    {
+        const auto restore = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        QFont large = QApplication::font();
+        large.setPointSize(2 * large.pointSize());
+        QApplication::setFont(large);
+        const DecoderDlg panel(basePath, nullptr, false, false, false);
+        const QWidget* decoder = Grid(DecoderBox(panel)).At(0, 1);
+        QVERIFY(decoder->maximumWidth() >= decoder->minimumSizeHint().width());
+    }
+
     void theDecoderPanelAndItsValuesDieInAnyOrder()
     {
         const auto make = [] { return std::make_unique<DecoderDlg>(basePath, nullptr, false, false, false); };

@@ -1,5 +1,7 @@
 #include "application/inicfg.h"
 
+#include "application/qtcompat.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -17,10 +19,11 @@ std::shared_ptr<const IniCfg> IniCfg::Read(const QString& fileName, const QStrin
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
     {
-        *error = file.errorString();
+        *error = QtCompat::ErrorText(file);
         return nullptr;
     }
     QSettings settings(fileName, QSettings::IniFormat);
+    QtCompat::UseUtf8(settings);
     if (!group.isEmpty())
         settings.beginGroup(group);
     // An unquoted value with commas comes as a list; it is one text here.

@@ -7,6 +7,7 @@
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 
@@ -59,10 +60,25 @@ namespace QtCompat
 template <class MouseEvent> auto Place(const MouseEvent& event) { return event.localPos(); }
 template <class MouseEvent> auto GlobalPlace(const MouseEvent& event) { return event.screenPos(); }
 template <class KeyEvent> auto Keys(const KeyEvent& event) { return int(event.modifiers()) | event.key(); }
+/// Why it failed, in the user's language.
+template <class Device> QString ErrorText(const Device& device)
+{
+    return QCoreApplication::translate("QIODevice", device.errorString().toUtf8().constData());
+}
+/// Before anything is read.
+template <class Settings> void UseUtf8(Settings& settings)
+{
+    settings.setIniCodec("UTF-8");
+}
 #else
 template <class MouseEvent> auto Place(const MouseEvent& event) { return event.position(); }
 template <class MouseEvent> auto GlobalPlace(const MouseEvent& event) { return event.globalPosition(); }
 template <class KeyEvent> auto Keys(const KeyEvent& event) { return event.keyCombination(); }
+template <class Device> auto ErrorText(const Device& device)
+{
+    return device.errorString();
+}
+template <class Settings> void UseUtf8(Settings&) {}
 #endif
 
 } // namespace QtCompat

@@ -1,5 +1,6 @@
 #include "jobmodel/jobfile.h"
 
+#include "application/qtcompat.h"
 #include "jobmodel/disksync.h"
 #include "jobmodel/jobreader.h"
 #include "jobmodel/jobstructure.h"
@@ -36,7 +37,8 @@ bool Open(QFile& file, FileError* error)
         return Fail(error, file.fileName(), JobFile::tr("This is a directory"));
     if (info.exists() && !info.isFile())
         return Fail(error, file.fileName(), JobFile::tr("This is no file but a pipe or a device"));
-    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || Fail(error, file.fileName(), file.errorString());
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+           Fail(error, file.fileName(), QtCompat::ErrorText(file));
 }
 
 // Makes the current generation of `fileName` its backup, too. An older backup stays until the new one is whole.
@@ -103,7 +105,7 @@ bool JobFile::LoadSample(FileError* error)
     GetModel(); // brings the resources
     QFile file(QStringLiteral(":/models/sample.job.xml"));
     if (!file.open(QIODevice::ReadOnly))
-        return Fail(error, file.fileName(), file.errorString());
+        return Fail(error, file.fileName(), QtCompat::ErrorText(file));
     if (!Read(file, file.fileName(), error))
         return false;
     m_fileName.clear();
@@ -159,11 +161,11 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
         return Fail(error, fileName, tr("There is something that is no file"));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return Fail(error, fileName, file.errorString());
+        return Fail(error, fileName, QtCompat::ErrorText(file));
     JobWriter writer(m_tree, file,
                      [this](qint64 done) { return !m_progress || m_progress(done, m_layout->byPath.size()); });
     if (!writer.Write(*m_layout))
-        return Fail(error, fileName, writer.WasCancelled() ? tr("Cancelled") : file.errorString());
+        return Fail(error, fileName, writer.WasCancelled() ? tr("Cancelled") : QtCompat::ErrorText(file));
     QString reason;
     // Some file systems tell only here that there is no room. QSaveFile would not look.
     if (!DiskSync::File(file.handle(), &reason))
@@ -171,7 +173,7 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
     if (QFileInfo::exists(fileName) && !BackUp(fileName, reason))
         return Fail(error, fileName + QLatin1Char('~'), tr("The previous generation cannot be kept: %1").arg(reason));
     if (!file.commit())
-        return Fail(error, fileName, file.errorString());
+        return Fail(error, fileName, QtCompat::ErrorText(file));
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_stamp = StampOf(m_fileName);
     // The names, of the backup as well, which stands beside a link.

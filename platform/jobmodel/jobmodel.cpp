@@ -1,5 +1,6 @@
 #include "jobmodel/jobmodel.h"
 
+#include "application/qtcompat.h"
 #include "jobmodel/jobmodelreader.h"
 #include "jobmodel/journalpause.h"
 
@@ -77,7 +78,7 @@ std::shared_ptr<const JobModel> JobModel::LoadFiles(const QStringList& files)
         if (file.open(QIODevice::ReadOnly))
             JobModelReader(*model, name).ReadInto(file);
         else
-            model->m_errors.append({.file = name, .reason = file.errorString()});
+            model->m_errors.append({.file = name, .reason = QtCompat::ErrorText(file)});
     }
     known = model;
     return model;

@@ -1,5 +1,7 @@
 #include "jobmodel/xmlreader.h"
 
+#include "application/qtcompat.h"
+
 #include <QIODevice>
 #include <algorithm>
 #include <cstring>
@@ -178,7 +180,7 @@ bool XmlReader::ReadBlock(QIODevice& device)
     m_window.resize(kept + size_t(std::max<qint64>(count, 0)));
     if (count < 0)
     {
-        Report(FileError::Severity::Error, -1, {}, device.errorString());
+        Report(FileError::Severity::Error, -1, {}, QtCompat::ErrorText(device));
         m_stopped = true;
         return false;
     }

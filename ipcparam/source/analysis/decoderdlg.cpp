@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <algorithm>
 
 namespace TKE
 {
@@ -15,7 +16,7 @@ using namespace Keys;
 namespace
 {
 
-constexpr int decoderWidth = 175; // pixels
+constexpr int decoderWidth = 175; // pixels; more where the letters are large
 
 } // namespace
 
@@ -45,7 +46,7 @@ void DecoderDlg::BuildPanel()
 void DecoderDlg::FixDecoderWidth()
 {
     if (auto* decoder = m_decoderBox->findChild<VCComboBoxClassic*>(DECODER_HF_DDC_DECODER_ID))
-        decoder->setFixedWidth(decoderWidth);
+        decoder->setFixedWidth(std::max(decoderWidth, decoder->minimumSizeHint().width()));
 }
 
 // Without a demodulation there is no alphabet either: the empty key names no value.
