@@ -22,7 +22,7 @@ struct Pair
     QLatin1StringView lower;
     QLatin1StringView upper;
 };
-constexpr Pair pairs[] = {
+constexpr Pair boundPairs[] = {
     {QLatin1StringView("START_FREQUENCY"), QLatin1StringView("STOP_FREQUENCY")},
     {QLatin1StringView("StartFrequency"), QLatin1StringView("StopFrequency")},
     {QLatin1StringView("RangeStart"), QLatin1StringView("RangeStop")},
@@ -236,7 +236,7 @@ QString Checker::FaultOfList(const TKE::ValueBase& value) const
 QString Checker::FaultOfPair(const TKE::ValueBase& value) const
 {
     const QString& name = value.GetName();
-    for (const Pair& pair : pairs)
+    for (const Pair& pair : boundPairs)
     {
         if (!name.endsWith(pair.lower))
             continue;
