@@ -160,7 +160,8 @@ void CheckDock::Slot_OnSlice()
 {
     QElapsedTimer time;
     time.start();
-    for (const QString& path : std::exchange(m_changed, {}))
+    const auto changed = std::exchange(m_changed, {});
+    for (const QString& path : changed)
         Check(path, true);
     while (IsRunning() && time.elapsed() < millisecondsOfSlice)
         Check(m_nodes[m_next++], false);

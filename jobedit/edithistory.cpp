@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
-#include <ranges>
 
 namespace JOBEDIT
 {
@@ -67,7 +66,7 @@ void EditHistory::Undo()
     if (m_position == 0)
         return;
     const EditStep& step = m_steps[--m_position];
-    Apply(std::views::reverse(step.changes), true);
+    Apply(step.changes.rbegin(), step.changes.rend(), true);
     emit StepUndone(step);
     emit Changed();
 }
@@ -82,7 +81,7 @@ void EditHistory::Redo()
     if (!CanRedo())
         return;
     const EditStep& step = m_steps[m_position++];
-    Apply(step.changes, false);
+    Apply(step.changes.begin(), step.changes.end(), false);
     emit StepRedone(step);
     emit Changed();
 }
@@ -210,16 +209,15 @@ void EditHistory::Record(const TKE::JournalEntry& entry)
     Append({entry.value.GetPathName(), entry.before, entry.after, nullptr, &entry.value.GetDescriptor()});
 }
 
-void EditHistory::Record(std::shared_ptr<StructureEdit> edit)
+void EditHistory::Record(const std::shared_ptr<StructureEdit>& edit)
 {
-    const StructureEdit& made = *edit;
-    Append({.path = edit->path, .structure = std::move(edit)});
-    Tell(made, false);
+    Append({.path = edit->path, .structure = edit});
+    Tell(*edit, false);
     if (m_depth == 0)
         TellOfNodes();
 }
 
-void EditHistory::Append(EditChange change)
+void EditHistory::Append(const EditChange& change)
 {
     const bool wasOpen = IsOpen();
     EditStep& step = Open();
@@ -239,12 +237,13 @@ void EditHistory::Append(EditChange change)
         emit Changed();
 }
 
-template <class Changes> void EditHistory::Apply(const Changes& changes, bool undo)
+template <class Iterator> void EditHistory::Apply(Iterator from, Iterator end, bool undo)
 {
     Contents wanted;
     m_wanted = &wanted;
-    for (const EditChange& change : changes)
+    for (; from != end; ++from)
     {
+        const EditChange& change = *from;
         if (!change.structure)
         {
             const QString& content = undo ? change.before : change.after;
@@ -259,7 +258,7 @@ template <class Changes> void EditHistory::Apply(const Changes& changes, bool un
     // Observers of a value may have written others, or the same again.
     for (int round = 0; round < roundsOfCorrection; ++round)
     {
-        const Contents target = wanted;
+        const Contents target = wanted; // NOLINT(performance-unnecessary-copy-initialization): writing changes `wanted`
         bool stable = true;
         for (auto each = target.begin(); each != target.end(); ++each)
         {

@@ -61,7 +61,7 @@ public:
     void EndActLater();
 
     void Record(const TKE::JournalEntry& entry);
-    void Record(std::shared_ptr<StructureEdit> edit);
+    void Record(const std::shared_ptr<StructureEdit>& edit);
 
 signals:
     void Changed();
@@ -82,9 +82,9 @@ private:
     bool IsOpen() const { return m_open && !m_open->changes.empty(); }
     EditStep& Open();
     void Close();
-    void Append(EditChange change);
+    void Append(const EditChange& change);
     void Bound();
-    template <class Changes> void Apply(const Changes& changes, bool undo);
+    template <class Iterator> void Apply(Iterator from, Iterator end, bool undo);
     void Write(const QString& path, const QString& stored);
     void Tell(const StructureEdit& edit, bool undo);
     void TellOfNodes();

@@ -149,6 +149,7 @@ std::vector<JobNode> NodePane::GetSelectedNodes() const
             selected.push_back(m_model->NodeOf(m_filtered->mapToSource(index)));
     std::ranges::sort(selected); // they stand in one vector, in the order of the tree
     std::vector<JobNode> nodes;
+    nodes.reserve(selected.size());
     for (const JobNode* node : selected)
         nodes.push_back(*node);
     return nodes;

@@ -21,13 +21,13 @@ void NodeTreeModel::SetNodes(std::vector<JobNode> nodes)
         m_numbers.insert(m_nodes[number].path, int(number));
     m_places.assign(m_nodes.size() + 1, {});
     for (size_t number = 0; number < m_nodes.size(); ++number)
-        m_places[number + 1].row = m_places[size_t(m_nodes[number].parent + 1)].belowCount++;
+        m_places[number + 1].row = m_places[m_nodes[number].parent + 1].belowCount++;
     int begin = 0;
     for (Place& place : m_places)
         place.belowBegin = std::exchange(begin, begin + place.belowCount);
     m_below.resize(m_nodes.size());
     for (size_t number = 0; number < m_nodes.size(); ++number)
-        m_below[size_t(PlaceOf(m_nodes[number].parent).belowBegin + m_places[number + 1].row)] = int(number);
+        m_below[PlaceOf(m_nodes[number].parent).belowBegin + m_places[number + 1].row] = int(number);
     endResetModel();
 }
 
@@ -47,7 +47,7 @@ QModelIndex NodeTreeModel::index(int row, int column, const QModelIndex& parent)
     const Place& above = PlaceOf(parent);
     if (row < 0 || row >= above.belowCount || column < 0 || column >= columnCount(parent))
         return {};
-    return createIndex(row, column, quintptr(m_below[size_t(above.belowBegin + row)]));
+    return createIndex(row, column, quintptr(m_below[above.belowBegin + row]));
 }
 
 QModelIndex NodeTreeModel::parent(const QModelIndex& index) const

@@ -39,7 +39,7 @@ private:
         int belowBegin = 0; ///< in m_below
         int belowCount = 0;
     };
-    const Place& PlaceOf(int number) const { return m_places[size_t(number + 1)]; }
+    const Place& PlaceOf(int number) const { return m_places[number + 1]; }
     const Place& PlaceOf(const QModelIndex& index) const
     {
         return PlaceOf(index.isValid() ? int(index.internalId()) : -1);
