@@ -17,7 +17,7 @@ struct Title
 };
 
 // clang-format off
-constexpr Title titles[] = {
+constexpr Title chainTitles[] = {
     {"IPC_CLASSIFIER_DDC_HF", QT_TRANSLATE_NOOP("TKE::IPCParam", "Classifier DDC Configuration")},
     {"IPC_CLASSIFIER_DDC_REDUCED", QT_TRANSLATE_NOOP("TKE::IPCParam", "Classifier DDC Configuration")},
     {"IPC_CLASSIFIER_DDC_VUHF", QT_TRANSLATE_NOOP("TKE::IPCParam", "Classifier DDC Configuration")},
@@ -68,9 +68,9 @@ constexpr Title titles[] = {
 
 QString ChainTitle(const JobNode& node)
 {
-    const auto found =
-        std::ranges::find_if(titles, [&](const Title& title) { return node.type == QLatin1StringView(title.type); });
-    return found == std::end(titles) ? QString() : QCoreApplication::translate("TKE::IPCParam", found->text);
+    const auto found = std::ranges::find_if(chainTitles, [&](const Title& title)
+                                            { return node.type == QLatin1StringView(title.type); });
+    return found == std::end(chainTitles) ? QString() : QCoreApplication::translate("TKE::IPCParam", found->text);
 }
 
 } // namespace JOBEDIT

@@ -70,7 +70,7 @@ QString ChangeText::LabelOnScreen(const TKE::ValueBase& value)
     {
         const auto* link = dynamic_cast<const TKE::ValueLink*>(widget);
         if (link && link->GetBoundValue() == &value && widget->isVisible())
-            if (const QString label = LabelOf(*widget); !label.isEmpty())
+            if (QString label = LabelOf(*widget); !label.isEmpty())
                 return label;
     }
     return {};

@@ -22,7 +22,7 @@ struct Pair
     QLatin1StringView lower;
     QLatin1StringView upper;
 };
-constexpr Pair pairs[] = {
+constexpr Pair boundPairs[] = {
     {QLatin1StringView("START_FREQUENCY"), QLatin1StringView("STOP_FREQUENCY")},
     {QLatin1StringView("StartFrequency"), QLatin1StringView("StopFrequency")},
     {QLatin1StringView("RangeStart"), QLatin1StringView("RangeStop")},

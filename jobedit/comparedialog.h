@@ -3,6 +3,7 @@
 #include "takeover.h"
 
 #include <QDialog>
+#include <QModelIndex>
 
 class QLabel;
 class QLineEdit;

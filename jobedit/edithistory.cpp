@@ -228,16 +228,15 @@ void EditHistory::Record(const TKE::JournalEntry& entry)
     Append({entry.value.GetPathName(), entry.before, entry.after, nullptr, &entry.value.GetDescriptor()});
 }
 
-void EditHistory::Record(std::shared_ptr<StructureEdit> edit)
+void EditHistory::Record(const std::shared_ptr<StructureEdit>& edit)
 {
-    const StructureEdit& made = *edit;
-    Append({.path = edit->path, .structure = std::move(edit)});
-    Tell(made, false);
+    Append({.path = edit->path, .structure = edit});
+    Tell(*edit, false);
     if (m_depth == 0)
         TellOfNodes();
 }
 
-void EditHistory::Append(EditChange change)
+void EditHistory::Append(const EditChange& change)
 {
     const bool wasOpen = IsOpen();
     EditStep& step = Open();
@@ -303,7 +302,7 @@ template <class Changes> size_t EditHistory::Apply(const Changes& changes, bool 
     // Observers of a value may have written others, or the same again.
     for (int round = 0; round < roundsOfCorrection; ++round)
     {
-        const Contents target = wanted;
+        const Contents target = wanted; // NOLINT(performance-unnecessary-copy-initialization): writing changes `wanted`
         bool stable = true;
         for (auto each = target.begin(); each != target.end(); ++each)
         {

@@ -70,7 +70,7 @@ public:
     void EndActLater();
 
     void Record(const TKE::JournalEntry& entry);
-    void Record(std::shared_ptr<StructureEdit> edit);
+    void Record(const std::shared_ptr<StructureEdit>& edit);
 
 signals:
     void Changed();
@@ -91,7 +91,7 @@ private:
     bool IsOpen() const { return m_open && !m_open->changes.empty(); }
     EditStep& Open();
     void Close();
-    void Append(EditChange change);
+    void Append(const EditChange& change);
     void Bound();
     bool Apply(const EditStep& step, bool undo);
     template <class Changes> size_t Apply(const Changes& changes, bool undo, bool mayCancel);

@@ -122,14 +122,15 @@ FieldIndex::Result FieldIndex::Find(const QString& text, qsizetype limit)
     for (int rank = 0; rank <= NodeHolds * words.size() && result.paths.size() < limit; ++rank)
         for (const auto& [node, matches] : found)
         {
-            for (const Matches::Match& hit : std::ranges::equal_range(matches->all, rank, {}, &Matches::Match::rank))
-                if (const QString hitPath = node->path + *m_fields[hit.field].name; hitPath != path)
+            auto hit = std::ranges::lower_bound(matches->all, rank, {}, &Matches::Match::rank);
+            for (; hit != matches->all.end() && hit->rank == rank; ++hit)
+                if (const QString hitPath = node->path + *m_fields[hit->field].name; hitPath != path)
                     result.paths << hitPath;
             if (result.paths.size() >= limit)
                 break;
         }
     if (result.paths.size() > limit)
-        result.paths.erase(result.paths.begin() + limit, result.paths.end());
+        result.paths = result.paths.mid(0, limit);
     return result;
 }
 
@@ -185,8 +186,8 @@ quint32 FieldIndex::ShapeOf(const TKE::Node& node)
     for (const auto& value : values)
     {
         const std::pair kind(&value->GetName(), &value->GetDescriptor());
-        auto number = m_fieldNumbers.constFind(kind);
-        if (number == m_fieldNumbers.constEnd())
+        auto number = m_fieldNumbers.find(kind);
+        if (number == m_fieldNumbers.end())
         {
             QStringList labels;
             for (const QString& label : FieldTexts::Labels(*kind.second))

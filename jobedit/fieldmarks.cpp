@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QSettings>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace JOBEDIT
@@ -43,7 +44,8 @@ bool FieldMarks::eventFilter(QObject* object, QEvent* event)
     case QEvent::ChildPolished:
         // A panel window makes itself a child of the main window and is whole when it is polished.
         if (object == &m_window)
-            if (auto* panel = qobject_cast<PanelWindow*>(static_cast<QChildEvent*>(event)->child()))
+            if (auto* panel = qobject_cast<PanelWindow*>(
+                    static_cast<QChildEvent*>(event)->child())) // clazy:exclude=child-event-qobject-cast
                 Mark(panel->findChild<QTabWidget*>());
         return false;
     case QEvent::ToolTip:

@@ -6,6 +6,7 @@
 #include "valuewidgets/valuelink.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QSet>
@@ -13,6 +14,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTreeView>
 #include <algorithm>
 
 namespace JOBEDIT

@@ -75,8 +75,8 @@ Label MakeLabel(const QString& label)
 const Label& FindLabel(const QString& label)
 {
     static QHash<QString, Label> labels;
-    auto found = labels.constFind(label);
-    if (found == labels.constEnd())
+    auto found = labels.find(label);
+    if (found == labels.end())
         found = labels.insert(label, MakeLabel(label));
     return *found;
 }

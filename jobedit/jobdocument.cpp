@@ -145,7 +145,7 @@ TKE::Node* JobDocument::AddNode(const QString& parentPath, const TKE::NodeSpec& 
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Add, path);
     edit->other = StructureEdit::WithoutSlash(parentPath);
     edit->spec = spec;
-    m_history->Record(std::move(edit));
+    m_history->Record(edit);
     return TKE::Tree::Instance()->FindNode(path); // who heard of it may have removed it again
 }
 
@@ -158,7 +158,7 @@ bool JobDocument::RemoveNode(const QString& path, QString* reason)
         return false;
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Remove, path);
     edit->taken = std::move(taken);
-    m_history->Record(std::move(edit));
+    m_history->Record(edit);
     return true;
 }
 
@@ -175,7 +175,7 @@ bool JobDocument::RenameNode(const QString& path, const QString& name, QString* 
         return true;
     if (!m_file.RenameNode(path, edit->name, reason))
         return false;
-    m_history->Record(std::move(edit));
+    m_history->Record(edit);
     return true;
 }
 
@@ -189,7 +189,7 @@ bool JobDocument::DuplicateNode(const QString& path, const QString& name, QStrin
     auto edit = std::make_shared<StructureEdit>(StructureEdit::Kind::Duplicate, copy->GetBasePath());
     edit->other = StructureEdit::WithoutSlash(path);
     edit->name = name;
-    m_history->Record(std::move(edit));
+    m_history->Record(edit);
     return true;
 }
 

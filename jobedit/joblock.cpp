@@ -67,7 +67,7 @@ bool JobLock::Remove(const QString& fileName, QString& reason) const
     if (now && *now != *this)
         reason = JobLockText::tr("another editor has it by now: %1").arg(now->ToText());
     else if (QFile file(LockFileOf(fileName)); now && !file.remove())
-        reason = QStringLiteral("%1: %2").arg(file.fileName(), TKE::QtCompat::ErrorText(file));
+        reason = QStringLiteral("%1: %2").arg(file.fileName(), QtCompat::ErrorText(file));
     else
         return true;
     return false;

@@ -2,6 +2,7 @@
 
 #include "chains.h"
 
+#include <QRegularExpression>
 #include <random>
 
 namespace JOBEDIT
@@ -64,7 +65,7 @@ private:
             return QStringLiteral("Text %1").arg(Below(100'000));
         case TKE::ValueKind::DateTime:
             return QDateTime(QDate(2024, 1, 1), QTime(0, 0), Qt::UTC)
-                .addSecs(Below(366 * 86'400))
+                .addSecs(Below(366ULL * 86'400))
                 .toString(QStringLiteral("yyyy-MM-ddThh:mm:ss"));
         case TKE::ValueKind::DoubleList:
         {

@@ -125,6 +125,7 @@ std::vector<NodePlace> PlacesFor(const NodeKind& kind, const JobDocument& docume
         [](const Candidate& candidate)
         { return std::tuple(!candidate.chosen, candidate.taken, -candidate.nearness, candidate.place.added.size()); });
     std::vector<NodePlace> places;
+    places.reserve(candidates.size());
     for (Candidate& candidate : candidates)
         places.push_back(std::move(candidate.place));
     return places;
@@ -143,7 +144,7 @@ QString UniqueNodeName(const QString& parentPath, const QString& name)
 
 QString NodeNameFault(const QString& parentPath, const QString& name)
 {
-    const QString fault = TKE::NodeSpec{.name = name}.NameFault(parentPath.isEmpty());
+    QString fault = TKE::NodeSpec{.name = name}.NameFault(parentPath.isEmpty());
     if (fault.isEmpty() && TKE::Tree::Instance()->FindNode(QString(parentPath + name)))
         return NodeKindText::tr("There is a node \"%1\" here already.").arg(name);
     return fault;

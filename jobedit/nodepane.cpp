@@ -126,6 +126,7 @@ std::vector<JobNode> NodePane::GetSelectedNodes() const
         selected.push_back(m_current);
     std::ranges::sort(selected); // the order of the tree
     std::vector<JobNode> nodes;
+    nodes.reserve(selected.size());
     for (const int number : selected)
         nodes.push_back(m_model->GetNodes()[size_t(number)]);
     return nodes;

@@ -111,7 +111,7 @@ QModelIndex NodeTreeModel::index(int row, int column, const QModelIndex& parent)
     const Place& above = PlaceOf(NumberOf(parent));
     if (row < 0 || row >= above.belowCount || column < 0 || column >= columnCount(parent))
         return {};
-    return createIndex(row, column, quintptr(m_below[size_t(above.belowBegin + row)]));
+    return createIndex(row, column, quintptr(m_below[above.belowBegin + row]));
 }
 
 QModelIndex NodeTreeModel::parent(const QModelIndex& index) const

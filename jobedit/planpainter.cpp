@@ -12,8 +12,6 @@ namespace JOBEDIT
 namespace
 {
 
-using Kind = PlanMark::Kind;
-
 constexpr double headRadius = 4.0;
 constexpr double swatchWidth = 34.0;
 constexpr double gap = 6.0;
@@ -250,8 +248,10 @@ void PlanPainter::PaintHatching(QPainter& painter, const QRectF& box) const
     constexpr double distance = 6.0;
     QVector<QLineF> lines;
     const double height = box.height();
-    for (double x = std::ceil((box.left() - height) / distance) * distance; x < box.right(); x += distance)
+    const int end = int(std::ceil(box.right() / distance));
+    for (int line = int(std::ceil((box.left() - height) / distance)); line < end; ++line)
     {
+        const double x = line * distance;
         const double from = std::max(x, box.left());
         const double to = std::min(x + height, box.right());
         lines.append({from, box.bottom() - (from - x), to, box.bottom() - (to - x)});

@@ -55,10 +55,12 @@ public:
     void PaintLegend(QPainter& painter, const QRectF& area) const;
 
 private:
-    QColor ColourOf(PlanMark::Kind kind) const;
+    using Kind = PlanMark::Kind;
+
+    QColor ColourOf(Kind kind) const;
     void PaintMark(QPainter& painter, const QRectF& area, const PlanScale& scale, const PlanMark& mark) const;
     void PaintHatching(QPainter& painter, const QRectF& box) const;
-    void PaintHead(QPainter& painter, const QRectF& area, double x, PlanMark::Kind kind) const;
+    void PaintHead(QPainter& painter, const QRectF& area, double x, Kind kind) const;
     /// Where the entries of the legend stand, left to right, in as many lines as they need.
     std::vector<QRectF> LegendPlaces(double width) const;
     void FindRows();

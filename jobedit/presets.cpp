@@ -13,7 +13,7 @@ namespace JOBEDIT
 namespace
 {
 
-const QLatin1String suffix(".json");
+const QLatin1String presetSuffix(".json");
 
 } // namespace
 
@@ -27,8 +27,8 @@ Presets::Presets(const QString& directory)
 QStringList Presets::GetNames() const
 {
     QStringList names;
-    for (const QString& file : m_directory.entryList({u'*' + suffix}, QDir::Files))
-        names << QUrl::fromPercentEncoding(file.chopped(suffix.size()).toUtf8());
+    for (const QString& file : m_directory.entryList({u'*' + presetSuffix}, QDir::Files))
+        names << QUrl::fromPercentEncoding(file.chopped(presetSuffix.size()).toUtf8());
     names.sort(Qt::CaseInsensitive);
     return names;
 }
@@ -53,7 +53,7 @@ QString Presets::FileOf(const QString& name) const
             file.replace(QChar(special), u'%' + QString::number(special, 16).toUpper());
     if (file.startsWith(u'.'))
         file.replace(0, 1, QLatin1String("%2E"));
-    return m_directory.filePath(file + suffix);
+    return m_directory.filePath(file + presetSuffix);
 }
 
 std::optional<ParameterSet> Presets::Load(const QString& name, QString& reason) const

@@ -19,15 +19,15 @@ namespace
 
 using ChangeKind = RecoveryChange::Kind;
 
-constexpr std::array<std::pair<ChangeKind, const char*>, 7> names{{{ChangeKind::Value, "value"},
-                                                                   {ChangeKind::Add, "add"},
-                                                                   {ChangeKind::Remove, "remove"},
-                                                                   {ChangeKind::Rename, "rename"},
-                                                                   {ChangeKind::Duplicate, "duplicate"},
-                                                                   {ChangeKind::Undo, "undo"},
-                                                                   {ChangeKind::Redo, "redo"}}};
+constexpr std::array<std::pair<ChangeKind, const char*>, 7> kindNames{{{ChangeKind::Value, "value"},
+                                                                       {ChangeKind::Add, "add"},
+                                                                       {ChangeKind::Remove, "remove"},
+                                                                       {ChangeKind::Rename, "rename"},
+                                                                       {ChangeKind::Duplicate, "duplicate"},
+                                                                       {ChangeKind::Undo, "undo"},
+                                                                       {ChangeKind::Redo, "redo"}}};
 constexpr qsizetype checksumSize = 4;
-constexpr qint64 hashedBytes = 64 * 1024;
+constexpr qint64 hashedBytes = 64LL * 1024;
 constexpr qint64 longestFile = qint64(1) << 30;
 
 QByteArray ChecksumOf(const QByteArray& json)
@@ -63,7 +63,8 @@ TKE::NodeSpec SpecOf(const QJsonObject& object)
     TKE::NodeSpec spec;
     spec.name = object["name"].toString();
     spec.type = object["type"].toString();
-    for (const QJsonValue& group : object["groups"].toArray())
+    const QJsonArray groups = object["groups"].toArray();
+    for (const auto group : groups)
         spec.groups << group.toString();
     spec.count = object["count"].toInt();
     spec.dataForm = object["data"].toBool();
@@ -75,16 +76,16 @@ std::optional<RecoveryBase> BaseOf(const QJsonObject& object)
 {
     if (object["recovery"].toInt() != 1)
         return {};
-    return RecoveryBase{object["file"].toString(), object["size"].toVariant().toLongLong(), object["changed"].toString(),
-                        object["hash"].toString(), object["begun"].toString()};
+    return RecoveryBase{object["file"].toString(), object["size"].toVariant().toLongLong(),
+                        object["changed"].toString(), object["hash"].toString(), object["begun"].toString()};
 }
 
 std::optional<RecoveryChange> ChangeOf(const QJsonObject& object)
 {
     const QString name = object["kind"].toString();
     const auto found =
-        std::ranges::find_if(names, [&](const auto& each) { return name == QLatin1String(each.second); });
-    if (found == names.end())
+        std::ranges::find_if(kindNames, [&](const auto& each) { return name == QLatin1String(each.second); });
+    if (found == kindNames.end())
         return {};
     return RecoveryChange{found->first, object["step"].toVariant().toLongLong(), object["path"].toString(),
                           object["text"].toString(), SpecOf(object["spec"].toObject())};
@@ -163,7 +164,7 @@ QByteArray RecoveryFile::LineOf(const RecoveryBase& base)
 
 QByteArray RecoveryFile::LineOf(const RecoveryChange& change)
 {
-    const auto name = std::ranges::find(names, change.kind, &std::pair<ChangeKind, const char*>::first);
+    const auto name = std::ranges::find(kindNames, change.kind, &std::pair<ChangeKind, const char*>::first);
     QJsonObject object{{"kind", name->second}, {"step", change.step}};
     if (!change.path.isNull())
         object["path"] = change.path;

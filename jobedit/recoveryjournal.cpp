@@ -10,7 +10,6 @@
 #include <QLockFile>
 #include <QRandomGenerator>
 #include <QStandardPaths>
-#include <ranges>
 
 namespace JOBEDIT
 {
@@ -21,7 +20,7 @@ namespace
 constexpr int delay = 500;             // ms from an edit to its writing
 constexpr size_t recordsAtOnce = 1000; // so that the window goes on working meanwhile
 
-const QString editsSuffix = QStringLiteral(".edits");
+constexpr QLatin1StringView editsSuffix{".edits"};
 
 using ChangeKind = RecoveryChange::Kind;
 
@@ -78,7 +77,7 @@ QStringList RecoveryJournal::FindAbandoned()
 {
     QStringList found;
     const QDir directory(Directory());
-    for (const QFileInfo& info : directory.entryInfoList({'*' + editsSuffix}, QDir::Files, QDir::Time))
+    for (const QFileInfo& info : directory.entryInfoList({u'*' + editsSuffix}, QDir::Files, QDir::Time))
         if (Lock(info.filePath()))
             found << info.filePath();
     return found;
@@ -145,8 +144,9 @@ void RecoveryJournal::Slot_OnRedone(const EditStep& step)
 void RecoveryJournal::KeepBack(const EditStep& step)
 {
     const qint64 number = -qint64(step.number);
-    for (const EditChange& change : std::views::reverse(step.changes))
+    for (auto each = step.changes.rbegin(); each != step.changes.rend(); ++each)
     {
+        const EditChange& change = *each;
         if (!change.structure)
         {
             Keep({ChangeKind::Value, number, change.path, change.before});

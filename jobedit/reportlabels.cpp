@@ -117,7 +117,7 @@ QString ReportLabels::Translated(const QString& label)
     {
         const QByteArray source = wanted.toUtf8();
         for (const char* context : FieldTexts::Contexts())
-            if (const QString text = QCoreApplication::translate(context, source.constData()); text != wanted)
+            if (QString text = QCoreApplication::translate(context, source.constData()); text != wanted)
                 return text;
     }
     return label;

@@ -143,8 +143,8 @@ bool ValueScan::Accepts(const TKE::ValueBase& value, bool pathMatches)
         return false;
     if (pathMatches || Holds(value.GetName(), m_query.text))
         return true;
-    auto label = m_labels.constFind(&value.GetDescriptor());
-    if (label == m_labels.constEnd())
+    auto label = m_labels.find(&value.GetDescriptor());
+    if (label == m_labels.end())
         label = m_labels.insert(&value.GetDescriptor(), Holds(ValueTexts::Label(value), m_query.text));
     return *label || Holds(ValueTexts::OfContent(value), m_query.text);
 }

@@ -17,7 +17,7 @@ public:
     QString translate(const char*, const char* source, const char*, int) const override
     {
         const QString text = QString::fromUtf8(source);
-        return QChar(u'‹') + text + QString(qsizetype(text.size() * 0.35), '~') + QChar(u'›');
+        return QChar(u'‹') + text + QString(text.size() * 35 / 100, '~') + QChar(u'›');
     }
     bool isEmpty() const override { return false; }
 };

@@ -157,7 +157,7 @@ bool JobFile::Save(FileError* error)
 
 bool JobFile::SaveAs(const QString& fileName, FileError* error)
 {
-    if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
+    if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile())
         return Fail(error, fileName, tr("There is something that is no file"));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))

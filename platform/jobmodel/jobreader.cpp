@@ -10,7 +10,7 @@ namespace TKE
 namespace
 {
 
-constexpr size_t longestText = 16 * 1024 * 1024;
+constexpr size_t longestText = 16UL * 1024 * 1024;
 
 QString Text(std::string_view utf8)
 {

@@ -260,7 +260,7 @@ QString JobStructure::PathFor(const JobNode& node, const QString& name, NodeSpec
         Refuse(reason, fault);
         return {};
     }
-    const QString path = node.parent->path + spec.name + QLatin1Char('/');
+    QString path = node.parent->path + spec.name + QLatin1Char('/');
     if (!m_layout.byPath.contains(path) && !m_tree.FindNode(path))
         return path;
     Refuse(reason, tr("There is a node \"%1\" already").arg(path.chopped(1)));

@@ -11,7 +11,7 @@ namespace TKE
 namespace
 {
 
-constexpr size_t blockSize = 256 * 1024;
+constexpr size_t blockSize = 256UL * 1024;
 
 // `startTag` without the "/" that closes it.
 std::string Opened(std::string startTag)

@@ -12,8 +12,8 @@ namespace TKE
 namespace
 {
 
-constexpr qint64 readSize = 64 * 1024;
-constexpr qint64 longestPiece = 4 * 1024 * 1024; // of one tag or comment
+constexpr qint64 readSize = 64LL * 1024;
+constexpr qint64 longestPiece = 4LL * 1024 * 1024; // of one tag or comment
 constexpr qint64 tickMs = 10;
 constexpr int deepest = 256;
 constexpr qsizetype mostErrors = 1000;

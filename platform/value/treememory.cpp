@@ -21,8 +21,8 @@ namespace
 
 constexpr std::size_t grain = alignof(std::max_align_t) / 2;
 constexpr std::size_t largestPiece = 128;
-constexpr std::size_t firstBlock = 4 * 1024;
-constexpr std::size_t largestBlock = 256 * 1024;
+constexpr std::size_t firstBlock = 4UL * 1024;
+constexpr std::size_t largestBlock = 256UL * 1024;
 
 struct Link
 {

@@ -91,11 +91,9 @@ struct Marks
         {
             if (*c == '.')
                 result += point;
-            else if (plain)
-                result += QLatin1Char(*c);
-            else if (*c == '-')
+            else if (!plain && *c == '-')
                 result += locale.negativeSign();
-            else if (*c >= '0' && *c <= '9')
+            else if (!plain && *c >= '0' && *c <= '9')
                 result += locale.toString(*c - '0');
             else
                 result += QLatin1Char(*c);
@@ -117,7 +115,8 @@ std::optional<Decimal> Decimal::Read(const QString& text, const QLocale& locale,
     // Digits of any script, one kind of minus, the decimal point of Arabic digits as a dot. The marks of the writing
     // direction, which come with a minus there, mean nothing.
     std::u16string typed;
-    for (const QChar c : text.trimmed())
+    const QString trimmed = text.trimmed();
+    for (const QChar c : trimmed)
     {
         if (c.isDigit())
             typed += char16_t(u'0' + c.digitValue());

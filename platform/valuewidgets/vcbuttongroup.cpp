@@ -3,6 +3,7 @@
 #include "value/valueselection.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 

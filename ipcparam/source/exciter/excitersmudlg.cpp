@@ -3,6 +3,8 @@
 #include "exciter/exciter_settings.h"
 #include "jobmodel/exciterparameter.h"
 
+#include <QGridLayout>
+
 namespace TKE
 {
 

@@ -13,8 +13,8 @@ namespace
 {
 
 // Kinds of resources
-constexpr QLatin1StringView hf{"HF"};
-constexpr QLatin1StringView vuhf{"VUHF"};
+constexpr QLatin1StringView hfKind{"HF"};
+constexpr QLatin1StringView vuhfKind{"VUHF"};
 constexpr QLatin1StringView hfWideband{"HF_WB"};
 constexpr QLatin1StringView vuhfWideband{"VUHF_WB"};
 constexpr QLatin1StringView directionFinder{"DF"};
@@ -52,7 +52,7 @@ void ResourceDlg::BuildOptions(const QString& kind)
 {
     // Made only for a kind that has options.
     const auto group = [this] { return PanelRows(*this, *Grid(), Binding::Raw).Group({1, 0}, QT_TR_NOOP("Options")); };
-    if (kind == hf || kind == vuhf)
+    if (kind == hfKind || kind == vuhfKind)
     {
         PanelRows options = group();
         options.CheckBox({0, 0, 1, 2}, QT_TR_NOOP("Demodulator"), RESOURCE_OPTION_DEMODULATOR);

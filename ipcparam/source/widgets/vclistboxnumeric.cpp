@@ -227,12 +227,12 @@ void VCListBoxNumeric::focusOutEvent(QFocusEvent* event)
         DropPendingRow();
 }
 
-// Tab moves cell by cell, but does not go round: at the ends it leaves the table.
+// Tab moves cell by cell. At the ends it leaves the table, which would go round by itself: its own way is passed over.
 bool VCListBoxNumeric::focusNextPrevChild(bool next)
 {
     const QModelIndex end = next ? model()->index(rowCount() - 1, columnCount() - 1) : model()->index(0, 0);
     if (!currentIndex().isValid() || currentIndex() == end)
-        return QAbstractScrollArea::focusNextPrevChild(next);
+        return QAbstractScrollArea::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
     return QTableWidget::focusNextPrevChild(next);
 }
 
@@ -241,7 +241,7 @@ void VCListBoxNumeric::MoveOn(bool forward)
     const int cell = currentRow() * columnCount() + currentColumn() + (forward ? 1 : -1);
     if (cell < 0 || cell >= rowCount() * columnCount())
     {
-        QAbstractScrollArea::focusNextPrevChild(forward);
+        QAbstractScrollArea::focusNextPrevChild(forward); // NOLINT(bugprone-parent-virtual-call)
         return;
     }
     setCurrentCell(cell / columnCount(), cell % columnCount());
