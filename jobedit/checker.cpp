@@ -239,7 +239,7 @@ const QStringList& Checker::UpperNames(const QString& name) const
     if (known != m_upperNames.constEnd())
         return *known;
     QStringList others;
-    for (const Pair& pair : pairs)
+    for (const Pair& pair : boundPairs)
         if (name.endsWith(pair.lower))
             others << name.chopped(pair.lower.size()) + pair.upper;
     return *m_upperNames.insert(&name, others);
