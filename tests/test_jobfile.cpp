@@ -441,6 +441,24 @@ private slots:
         QVERIFY(released);
     }
 
+    void whoLoadsWithinALoadHasTheJobThatHeLoadedAndItsName()
+    {
+        const QString inner = Write(Job(Mgc("62")), "inner.job.xml");
+        QVERIFY(Load(Job(Mgc("60"))));
+        Listener listener;
+        bool isFirst = true;
+        listener.heard = [&](Observable*, TChangeCode)
+        {
+            if (std::exchange(isFirst, false))
+                QVERIFY(m_job->Load(inner));
+        };
+        At("TUNER_HF_NB_MGCVALUE")->Attach(&listener);
+        QVERIFY(Load(Job(Mgc("61"))));
+        QCOMPARE(m_job->ToUtf8(), Job(Mgc("62")));
+        QCOMPARE(m_job->GetFileName(), inner); // or saving would write it over the other
+        QVERIFY(!m_job->ChangedOnDisk());
+    }
+
     void statesStartAsTheModelSaysAndFollowTheirSource()
     {
         QVERIFY(Load(Job("<Value name=\"TUNER_HF_NB_SQUELCHMODE\">3</Value>", "groups=\"G_TUNER_HF G_EXC_CHECKS\"")));

@@ -86,11 +86,7 @@ bool JobFile::Load(const QString& fileName, FileError* error)
 {
     const Stamp stamp = StampOf(fileName);
     QFile file(fileName);
-    if (!Open(file, error) || !Read(file, fileName, error))
-        return false;
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
-    m_stamp = stamp;
-    return true;
+    return Open(file, error) && Read(file, fileName, QFileInfo(fileName).absoluteFilePath(), stamp, error);
 }
 
 bool JobFile::LoadSample(FileError* error)
@@ -99,19 +95,16 @@ bool JobFile::LoadSample(FileError* error)
     QFile file(QStringLiteral(":/models/sample.job.xml"));
     if (!file.open(QIODevice::ReadOnly))
         return Fail(error, file.fileName(), file.errorString());
-    if (!Read(file, file.fileName(), error))
-        return false;
-    m_fileName.clear();
-    m_stamp = {};
-    return true;
+    return Read(file, file.fileName(), {}, {}, error);
 }
 
-bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error)
+bool JobFile::Read(QIODevice& device, const QString& shownName, const QString& fileName, const Stamp& stamp,
+                   FileError* error)
 {
     Tree fresh;
     auto layout = std::make_shared<JobLayout>();
     // What is replaced, or was begun in vain. The rules end before their values do: whoever hears of their end finds
-    // the new job complete.
+    // the new job complete, and may load a further one.
     const auto dispose = qScopeGuard(
         [&]
         {
@@ -137,6 +130,8 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error
     JobModel::KeepForValues(m_model);
     m_tree.Swap(fresh);
     m_layout.swap(layout);
+    m_fileName = fileName;
+    m_stamp = stamp;
     return true;
 }
 

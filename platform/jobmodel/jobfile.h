@@ -125,7 +125,7 @@ private:
         bool operator==(const Stamp&) const = default;
     };
     static Stamp StampOf(const QString& fileName);
-    bool Read(QIODevice& device, const QString& shownName, FileError* error);
+    bool Read(QIODevice& device, const QString& shownName, const QString& fileName, const Stamp& stamp, FileError* error);
 
     Tree& m_tree;
     std::shared_ptr<const JobModel> m_model;
