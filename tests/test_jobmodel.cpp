@@ -178,6 +178,9 @@ private slots:
             << "document type" << 0;
         QTest::newRow("attribute of megabytes")
             << "<JobModel version=\"1\"><Group name=\"" + QByteArray(9000000, 'a') + "\"/></JobModel>" << "longer" << 0;
+        QTest::newRow("depth of a million")
+            << "<JobModel version=\"1\">" + QByteArray("<Group name=\"G\">").repeated(1000000) << "Group" << 0;
+        QTest::newRow("two bytes a character") << QByteArray("\xFF\xFE<\0J\0/\0>\0", 10) << "UTF-16" << 0;
         QTest::newRow("no UTF-8") << QByteArray("<JobModel version=\"1\">\n\xE4\xE4</JobModel>") << "UTF-8" << 0;
         QTest::newRow("another root") << QByteArray("<Job version=\"1\"/>") << "Job" << 0;
         QTest::newRow("no group") << QByteArray("<JobModel version=\"1\"/>") << "no group" << 0;

@@ -358,8 +358,13 @@ private slots:
         holder.pointer = first;
         first->SetState(stReleased);
         QVERIFY(!holder.pointer && !first->IsObserved());
-
+        // It would not tell its end a second time.
         holder.pointer = first;
+        QVERIFY(!holder.pointer && !first->IsObserved());
+
+        first->SetState(stEnabled);
+        holder.pointer = first;
+        QVERIFY(holder.pointer.Get() == first);
         holder.pointer.Reset();
         QVERIFY(!holder.pointer && !first->IsObserved());
     }
