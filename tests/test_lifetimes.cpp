@@ -9,7 +9,6 @@
 #include "exciter/exciterscudlg.h"
 #include "exciter/wderasterdetectordlg.h"
 #include "exciter/wdesimulationdlg.h"
-#include "ipcparam/activitygenerationdlg.h"
 #include "ipcparam/autorecordingdlg.h"
 #include "ipcparam/excitergeneraldlg.h"
 #include "ipcparam/ipcparam.h"
