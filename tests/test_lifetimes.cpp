@@ -33,6 +33,9 @@ using namespace TKE;
 namespace
 {
 
+// What hashes give comes in the same order each time.
+[[maybe_unused]] const bool isReplayed = qputenv("QT_HASH_SEED", "0");
+
 constexpr int stepsInTest = 400;
 constexpr int stepsBetweenChecks = 5;
 constexpr int mostNested = 12; // steps within the notifications of one step
@@ -389,9 +392,13 @@ private:
     {
         if (m_depth > 0) // keys do not come within a notification
             return;
+        QList<QWidget*> widgets; // in the same order for the same seed
+        for (const auto& host : m_hosts)
+            widgets << host->dialog->findChildren<QWidget*>();
+        for (const auto& panel : m_panels)
+            widgets << panel->findChildren<QWidget*>();
         QList<QWidget*> fields;
-        const auto widgets = QApplication::allWidgets();
-        for (QWidget* widget : widgets)
+        for (QWidget* widget : std::as_const(widgets))
             if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
                 fields << widget;
         if (fields.isEmpty())
@@ -509,8 +516,9 @@ private slots:
                 world.Step(step);
             if (QTest::currentTestFailed())
                 MonkeyLog::Print();
-            QVERIFY(world.Calls() > steps / 4 || steps < stepsInTest);
-            QVERIFY(world.DeepestCall() > 1 || steps < stepsInTest);
+            // Those that run each time do meddle; others may have had bad luck.
+            const bool isGiven = qEnvironmentVariableIsSet("LIFETIMES_SEED") || steps < stepsInTest;
+            QVERIFY(isGiven || (world.Calls() > steps / 4 && world.DeepestCall() > 1));
         }
         MonkeyLog::End();
         Tree::Instance()->Clear();
