@@ -83,6 +83,12 @@ QString AddNodeDialog::GetName() const
     return m_name->text().trimmed();
 }
 
+void AddNodeDialog::accept()
+{
+    if (m_ok->isEnabled())
+        QDialog::accept();
+}
+
 void AddNodeDialog::FillKinds()
 {
     // The kind of the node that the user stands on is what is wanted most.

@@ -27,6 +27,9 @@ public:
     const NodePlace* GetPlace() const;
     QString GetName() const;
 
+    /// Stays open while what is chosen cannot be added, so kind and place are there when it was accepted.
+    void accept() override;
+
 private:
     void FillKinds();
     void ApplyFilter(const QString& text);

@@ -48,12 +48,12 @@ std::optional<JobLock> JobLock::Of(const QString& fileName, const QLockFile& tri
 
 QString JobLock::ToText() const
 {
-    const QString since = QLocale().toString(this->since, QLocale::ShortFormat);
+    const QString begin = QLocale().toString(since, QLocale::ShortFormat);
     if (program.isEmpty())
-        return JobLockText::tr("another editor, since %1").arg(since);
+        return JobLockText::tr("another editor, since %1").arg(begin);
     if (user.isEmpty())
-        return JobLockText::tr("%1 on %2, process %3, since %4").arg(program, host).arg(process).arg(since);
-    return JobLockText::tr("%1 of %2 on %3, process %4, since %5").arg(program, user, host).arg(process).arg(since);
+        return JobLockText::tr("%1 on %2, process %3, since %4").arg(program, host).arg(process).arg(begin);
+    return JobLockText::tr("%1 of %2 on %3, process %4, since %5").arg(program, user, host).arg(process).arg(begin);
 }
 
 bool JobLock::IsOutOfSight() const

@@ -50,7 +50,7 @@ inline void WriteAll(const QString& fileName, const QByteArray& bytes)
 /// Keeps what it hears and does something then.
 struct Hearer final : TKE::IObserver
 {
-    explicit Hearer(std::function<void()> act = {}) : act(std::move(act)) {}
+    explicit Hearer(std::function<void()> todo = {}) : act(std::move(todo)) {}
     void Update(TKE::Observable* from, TKE::TChangeCode code) override
     {
         source = from;

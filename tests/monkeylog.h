@@ -15,8 +15,10 @@ extern "C" void __sanitizer_set_death_callback(void (*callback)(void));
 class MonkeyLog
 {
 public:
-    static void Begin(unsigned seed)
+    /// `variable` is what the environment replays the seed by.
+    static void Begin(const char* variable, unsigned seed)
     {
+        s_variable = variable;
         s_seed = seed;
         s_next = 0;
         for (Line& line : s_lines)
@@ -37,7 +39,7 @@ public:
     static void Print()
     {
         Line head;
-        Write(head.data(), size_t(snprintf(head.data(), head.size(), "Monkey with MONKEY_SEED=%u. Its last steps:\n", s_seed)));
+        Write(head.data(), size_t(snprintf(head.data(), head.size(), "Replay with %s=%u. The last steps:\n", s_variable, s_seed)));
         for (size_t i = 0; i < s_lines.size(); ++i)
         {
             const Line& line = s_lines[(s_next + i) % s_lines.size()];
@@ -60,6 +62,7 @@ private:
         std::raise(number);
     }
 
+    inline static const char* s_variable = "";
     inline static unsigned s_seed = 0;
     inline static size_t s_next = 0;
     inline static std::array<Line, 40> s_lines;

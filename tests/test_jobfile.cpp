@@ -221,6 +221,9 @@ private slots:
         row("value twice", Job(Mgc("1") + "\n" + Mgc("1")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "twice");
         row("value without name", Job("\n<Value>1</Value>"), 4, 1, "", "name");
         row("node twice", Job("\n<Node name=\"B\" type=\"\"/>\n<Node name=\"B\" type=\"\"/>"), 5, 1, "/B", "twice");
+        row("node twice by two ways",
+            Job("<Node name=\"B\" type=\"\"/>").replace("</Job>", "<Node name=\"/Jobs/A/B\" type=\"\"/></Job>"), 0, 0,
+            "/B", "twice");
         row("node without type", Job("\n<Node name=\"B\"/>"), 4, 1, "/B", "type");
         row("node upwards", Job("\n<Node name=\"..\" type=\"B\"/>"), 4, 1, "/..", "..");
         row("count without end", Job({}, "count=\"2000000000\""), 3, 3, "", "2000000000");
@@ -387,6 +390,24 @@ private slots:
         QVERIFY(released);
     }
 
+    void whoLoadsWithinALoadHasTheJobThatHeLoadedAndItsName()
+    {
+        const QString inner = Write(Job(Mgc("62")), "inner.job.xml");
+        QVERIFY(Load(Job(Mgc("60"))));
+        Listener listener;
+        bool isFirst = true;
+        listener.heard = [&](Observable*, TChangeCode)
+        {
+            if (std::exchange(isFirst, false))
+                QVERIFY(m_job->Load(inner));
+        };
+        At("TUNER_HF_NB_MGCVALUE")->Attach(&listener);
+        QVERIFY(Load(Job(Mgc("61"))));
+        QCOMPARE(m_job->ToUtf8(), Job(Mgc("62")));
+        QCOMPARE(m_job->GetFileName(), inner); // or saving would write it over the other
+        QVERIFY(!m_job->ChangedOnDisk());
+    }
+
     void statesStartAsTheModelSaysAndFollowTheirSource()
     {
         QVERIFY(Load(Job("<Value name=\"TUNER_HF_NB_SQUELCHMODE\">3</Value>", "groups=\"G_TUNER_HF G_EXC_CHECKS\"")));
@@ -513,6 +534,39 @@ private slots:
         QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
         QVERIFY(QFileInfo(Path("link.job.xml")).isSymLink());
         QCOMPARE(ReadBack("target.job.xml"), Job(Mgc("62")));
+    }
+
+    void aLinkInThePlaceOfTheBackupIsReplacedAndNotFollowed_data()
+    {
+        QTest::addColumn<QString>("link");
+        for (const char* link : {"a.job.xml~", "a.job.xml~new"})
+            QTest::newRow(link) << link;
+    }
+    void aLinkInThePlaceOfTheBackupIsReplacedAndNotFollowed()
+    {
+        QFETCH(QString, link);
+        QVERIFY(Load(Job(Mgc("61"))));
+        QFile::remove(Path(link));
+        QVERIFY(QFile::link(Write("precious", "precious"), Path(link)));
+        QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("62"));
+        QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
+        QCOMPARE(ReadBack("precious"), QByteArray("precious"));
+        QVERIFY(!QFileInfo(Path("a.job.xml~")).isSymLink());
+        QCOMPARE(ReadBack("a.job.xml~"), Job(Mgc("61")));
+        QVERIFY(!QFileInfo(Path("a.job.xml~new")).isSymLink());
+    }
+
+    void aLinkThatGoesRoundIsNoFileAndGivesWayToOne()
+    {
+        QVERIFY(Load(Job(Mgc("61"))));
+        QVERIFY(QFile::link(Path("round2.job.xml"), Path("round1.job.xml")));
+        QVERIFY(QFile::link(Path("round1.job.xml"), Path("round2.job.xml")));
+        QVERIFY(!m_job->Load(Path("round1.job.xml"), &m_error));
+        QVERIFY(!m_error.reason.isEmpty());
+        QCOMPARE(m_job->GetFileName(), Path("a.job.xml"));
+        QVERIFY2(m_job->SaveAs(Path("round1.job.xml"), &m_error), qPrintable(m_error.ToText()));
+        QCOMPARE(ReadBack("round1.job.xml"), Job(Mgc("61")));
+        QCOMPARE(ReadBack("round2.job.xml"), Job(Mgc("61")));
     }
 
     void aChangeOnDiskIsSeen()

@@ -26,6 +26,22 @@ const QByteArray job = declaration +
                                   "  <Node name=\"/Jobs/C\" type=\"JOB\" groups=\"G_TUNER_HF\">\n    ") +
                        Value("TUNER_HF_NB_MGCVALUE", "60") + "\n  </Node>\n</Job>\n";
 
+const QByteArray otherJob = declaration + QByteArray("<Job version=\"1\">\n"
+                                                     "  <Node name=\"AB\" type=\"CS\" groups=\"G_TUNER_VUHF\"/>\n"
+                                                     "</Job>\n");
+
+/// Does something on the first change that it hears of.
+struct Once : IObserver
+{
+    explicit Once(std::function<void()> f) : act(std::move(f)) {}
+    void Update(Observable*, TChangeCode) override
+    {
+        if (const auto now = std::exchange(act, {}))
+            now();
+    }
+    std::function<void()> act;
+};
+
 } // namespace
 
 class TestJobStructure : public QObject
@@ -35,6 +51,40 @@ class TestJobStructure : public QObject
     QTemporaryDir m_directory;
     std::unique_ptr<JobFile> m_job;
     QString m_reason;
+
+    // What somebody does to the job who hears of an operation.
+    void Act(const QString& act)
+    {
+        if (act == "remove above")
+            m_job->RemoveNode(u"AB");
+        else if (act == "remove another")
+            m_job->RemoveNode(u"/Jobs/C");
+        else if (act == "rename above")
+            m_job->RenameNode(u"AB", "BA");
+        else if (act == "copy above")
+            m_job->DuplicateNode(u"AB", "BA");
+        else if (act == "load")
+            Load(otherJob);
+        else if (act == "die")
+            m_job.reset();
+        if (act == "load") // a modal dialog, say
+            QTest::qWait(1);
+    }
+    // That the tree holds what the job says, and the file the same again.
+    void IsWhole()
+    {
+        QStringList missing;
+        m_job->VisitNodes(
+            [&](const QString& path, const NodeSpec& spec, const QString&)
+            {
+                const Node* node = Tree::Instance()->FindNode(path);
+                if (!node || (!spec.groups.isEmpty() && node->GetValues().empty()))
+                    missing << path;
+            });
+        QCOMPARE(missing, QStringList());
+        const QByteArray bytes = m_job->ToUtf8();
+        Load(bytes);
+    }
 
     void Load(const QByteArray& text)
     {
@@ -52,7 +102,11 @@ class TestJobStructure : public QObject
     }
 
 private slots:
-    void init() { m_job = std::make_unique<JobFile>(); }
+    void init()
+    {
+        m_job = std::make_unique<JobFile>();
+        m_reason.clear();
+    }
     void cleanup()
     {
         Tree::Instance()->SetJournal({});
@@ -142,6 +196,10 @@ private slots:
         QCOMPARE(m_job->ToUtf8(), text);
         QVERIFY(m_job->PutBackNode(*m_job->TakeNode(u"AB/X"), &m_reason));
         QCOMPARE(m_job->ToUtf8(), text);
+        m_job->RemoveNode(u"AB"); // with the stranger, since nothing is to come back
+        QCOMPARE(Paths(), QStringList());
+        QVERIFY(!Tree::Instance()->FindNode(u"AB"));
+        QVERIFY2(m_job->AddNode({}, {.name = "AB/X", .type = "T"}, &m_reason), qPrintable(m_reason));
     }
 
     void aCopyStandsBehindItsNodeWithTheSameContent()
@@ -161,6 +219,86 @@ private slots:
         const QByteArray one = m_job->ToUtf8();
         Load(bytes);
         QVERIFY(one.size() < bytes.size());
+    }
+
+    void whoHearsOfAnEndMayChangeTheJob_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("act");
+        QTest::addColumn<QStringList>("left");
+        const QStringList above{"AB/", "/Jobs/C/"};
+        const QStringList renamed{"AB/", "AB/NEW/", "/Jobs/C/"};
+        const auto row = [](const char* way, const char* act, const QStringList& left)
+        { QTest::addRow("%s, then %s", way, act) << way << act << left; };
+        row("remove", "remove above", {"/Jobs/C/"});
+        row("remove", "remove another", {"AB/"});
+        row("remove", "rename above", {"BA/", "/Jobs/C/"});
+        row("remove", "copy above", {"AB/", "BA/", "/Jobs/C/"});
+        row("remove", "load", {"AB/"});
+        row("remove", "die", {});
+        row("rename", "remove above", {"/Jobs/C/"});
+        row("rename", "remove another", {"AB/", "AB/NEW/"});
+        row("rename", "copy above", {"AB/", "AB/NEW/", "BA/", "/Jobs/C/"});
+        row("rename", "load", {"AB/"});
+        row("rename", "die", {});
+    }
+    void whoHearsOfAnEndMayChangeTheJob()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, act);
+        QFETCH(QStringList, left);
+        Load(job);
+        Once once([&] { Act(act); });
+        ValueBase* value = Tree::Instance()->FindNode(u"AB/IN")->GetValues().front().get();
+        const QString name = value->GetName();
+        value->Attach(&once);
+        if (way == "remove")
+            m_job->RemoveNode(u"AB/IN");
+        else
+            QCOMPARE(m_job->RenameNode(u"AB/IN", "NEW", &m_reason), left.contains("AB/NEW/") || act == "die");
+        QVERIFY(!once.act);
+        if (!m_job)
+        {
+            QCOMPARE(At("AB/NEW/" + name) != nullptr, way == "rename"); // the tree keeps what it has
+            return;
+        }
+        QCOMPARE(Paths(), left);
+        IsWhole();
+    }
+
+    void whoHearsOfANewStateMayChangeTheJob_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("act");
+        for (const char* way : {"add", "put back"})
+            for (const char* act : {"remove above", "remove another", "load", "die"})
+                QTest::addRow("%s, then %s", way, act) << way << act;
+    }
+    void whoHearsOfANewStateMayChangeTheJob()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, act);
+        Load(job);
+        std::shared_ptr<TakenNode> taken;
+        if (way == "put back")
+        {
+            QVERIFY(m_job->DuplicateNode(u"/Jobs/C", "AB/X"));
+            taken = m_job->TakeNode(u"AB/X");
+        }
+        // The host has made a value already that the rules of the new node disable.
+        ValueBase* own = Tree::Instance()->CreateValue<IntValue>(u"AB/X/TUNER_HF_NB_MGCVALUE");
+        Once once([&] { Act(act); });
+        own->Attach(&once);
+        const bool stays = act == "remove another" || act == "die";
+        if (way == "add")
+            QCOMPARE(m_job->AddNode({}, {.name = "AB/X", .type = "T", .groups = {"G_TUNER_HF"}}, &m_reason) != nullptr,
+                     stays);
+        else
+            QCOMPARE(m_job->PutBackNode(*taken, &m_reason), stays);
+        QVERIFY(!once.act);
+        QCOMPARE(m_reason.isEmpty(), stays);
+        if (m_job)
+            IsWhole();
     }
 
     void aValueThatSeveralNodesHaveIsNeverLost()

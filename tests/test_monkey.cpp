@@ -388,7 +388,7 @@ private slots:
         QTemporaryDir directory;
         QVERIFY(QDir::setCurrent(directory.path()));
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, directory.path());
-        MonkeyLog::Begin(seed);
+        MonkeyLog::Begin("MONKEY_SEED", seed);
         {
             Editor editor(TKE::JobModel::Load());
             editor.Window().show();

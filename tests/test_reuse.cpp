@@ -326,6 +326,8 @@ private Q_SLOTS:
                     QTest::keyClick(name, Qt::Key_Delete);
                     QTest::keyClicks(name, bad);
                     QVERIFY2(!ok->isEnabled(), bad);
+                    dialog.accept(); // by whichever way
+                    QVERIFY2(dialog.isVisible(), bad);
                 }
                 name->selectAll();
                 QTest::keyClicks(name, "NIGHT");

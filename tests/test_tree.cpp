@@ -284,6 +284,86 @@ private slots:
         QVERIFY(!m_tree.FindValue(first) && !m_tree.FindNode(further));
     }
 
+    void WhoHearsOfAnEndMaySwapTheTreeOrDeleteIt_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("swap");
+        for (const char* way : {"branch", "value", "clear", "clear later"})
+        {
+            QTest::addRow("%s, swap", way) << way << true;
+            QTest::addRow("%s, delete", way) << way << false;
+        }
+    }
+    void WhoHearsOfAnEndMaySwapTheTreeOrDeleteIt()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, swap);
+        auto tree = std::make_unique<Tree>();
+        QStringList told;
+        Hearer hearer(
+            [&](Observable* source, TChangeCode)
+            {
+                const auto* value = static_cast<ValueBase*>(source);
+                told += value->GetNode()->GetBasePath() + value->GetText();
+                if (!swap)
+                    return tree.reset();
+                Tree other; // dies with all that was in the tree
+                tree->Swap(other);
+            });
+        for (const char* path : {"/a/b/K", "/a/b/c/L", "/a/M"})
+        {
+            ValueBase* value = tree->CreateValue(QString::fromUtf8(path), text);
+            value->SetFromText(value->GetName());
+            value->Attach(&hearer);
+        }
+        if (way == u"branch")
+            tree->RemoveBranch(u"/a/b");
+        else if (way == u"value")
+            tree->RemoveValue(u"/a/b/K");
+        else
+            way == u"clear" ? tree->Clear() : tree->ClearLater();
+        told.sort();
+        QCOMPARE(told, QStringList({"/a/M", "/a/b/K", "/a/b/c/L"}));
+        QVERIFY(swap ? tree->ValueCount() == 0 : !tree);
+        QTRY_VERIFY(!IdleDisposal::IsUnderWay());
+    }
+
+    void ANodeThatIsRemovedAndATreeThatDiesTakeNoMoreValues_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"branch", "clear", "clear later", "tree"})
+            QTest::newRow(way) << way;
+    }
+    void ANodeThatIsRemovedAndATreeThatDiesTakeNoMoreValues()
+    {
+        QFETCH(QString, way);
+        auto tree = std::make_unique<Tree>();
+        tree->CreateValue(u"/a/b/K", text);
+        tree->CreateValue(u"c/L", text); // of another top node, which is told after the first
+        Node* above = tree->FindNode(u"/a");
+        int told = 0, made = 0;
+        Hearer maker(
+            [&, dying = tree.get()](Observable*, TChangeCode)
+            {
+                ++told;
+                made += dying->CreateValue(*above, u"NEW", text) || dying->CreateValue(*above, u"d/NEW", text) ||
+                        dying->CreateValue(*above, Tree::Intern(u"NEW"), text, "");
+                made += way == u"tree" && dying->CreateValue(u"/x/NEW", text);
+            });
+        tree->FindValue(u"/a/b/K")->Attach(&maker);
+        tree->FindValue(u"c/L")->Attach(&maker);
+        if (way == u"branch")
+            tree->RemoveBranch(u"/a");
+        else if (way == u"clear")
+            tree->Clear();
+        else
+            way == u"tree" ? tree.reset() : tree->ClearLater();
+        QCOMPARE(told, way == u"branch" ? 1 : 2);
+        QCOMPARE(made, 0);
+        QVERIFY(!tree || !tree->FindNode(u"/a"));
+        QTRY_VERIFY(!IdleDisposal::IsUnderWay());
+    }
+
     void AValueMayBeRemovedWithinItsOwnWrite()
     {
         for (const ValueKind kind : {ValueKind::Text, ValueKind::Selection})

@@ -343,10 +343,52 @@ private slots:
         holder.pointer = first;
         first->SetState(stReleased);
         QVERIFY(!holder.pointer && !first->IsObserved());
-
+        // It would not tell its end a second time.
         holder.pointer = first;
+        QVERIFY(!holder.pointer && !first->IsObserved());
+
+        first->SetState(stEnabled);
+        holder.pointer = first;
+        QVERIFY(holder.pointer.Get() == first);
         holder.pointer.Reset();
         QVERIFY(!holder.pointer && !first->IsObserved());
+    }
+
+    void AnEndIsToldAgainWhenItComesBeforeAllHaveHeardThatTheValueIsWithdrawn()
+    {
+        ValueBase* value = m_tree.CreateValue(u"/K", level);
+        struct Remover final : IObserver
+        {
+            explicit Remover(Tree& t) : tree(t) {}
+            void Update(Observable*, TChangeCode) override { tree.RemoveValue(u"/K"); }
+            Tree& tree;
+        } remover(m_tree);
+        value->Attach(&remover);
+        ValueObservingPtr<ValueBase> later;
+        later = value;
+        value->SetState(stReleased);
+        QVERIFY(!m_tree.FindValue(u"/K"));
+        QVERIFY(!later);
+    }
+
+    void AValueThatGoesStaysReleasedAndTellsItOnce()
+    {
+        int told = 0;
+        struct Reviver final : IObserver
+        {
+            explicit Reviver(int& count) : told(count) {}
+            void Update(Observable* source, TChangeCode) override
+            {
+                ++told;
+                auto* value = static_cast<ValueBase*>(source);
+                value->SetState(stEnabled);
+                QCOMPARE(value->GetState(), stReleased);
+            }
+            int& told;
+        } reviver(told);
+        m_tree.CreateValue(u"/K", level)->Attach(&reviver);
+        m_tree.RemoveValue(u"/K");
+        QCOMPARE(told, 1);
     }
 
     void APointerMayDieWithItsHolderInTheHoldersUpdate()

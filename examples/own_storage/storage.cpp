@@ -40,22 +40,27 @@ struct Tree::Index
     std::pmr::map<std::pair<const Node*, QStringView>, ValueBase*> values{&memory};
     std::vector<std::unique_ptr<Node>> topNodes;
 
-    // What was removed, until the outermost removal ends: observers may still look at it.
-    int removals = 0;
-    std::vector<std::unique_ptr<Node>> removedNodes;
-    std::vector<std::unique_ptr<ValueBase>> removedValues;
+    // What was removed, until the outermost removal ends: observers may still look at it, and may delete the tree.
+    struct Removed
+    {
+        int removals = 0;
+        std::vector<std::unique_ptr<Node>> nodes;
+        std::vector<std::unique_ptr<ValueBase>> values;
+    };
+    std::shared_ptr<Removed> removed = std::make_shared<Removed>();
+    bool isClosing = false;
 
     struct Removal
     {
-        explicit Removal(Index& i) : index(i) { ++index.removals; }
+        explicit Removal(const Index& index) : removed(index.removed) { ++removed->removals; }
         ~Removal()
         {
-            if (--index.removals > 0)
+            if (--removed->removals > 0)
                 return;
-            const auto nodes = std::move(index.removedNodes);
-            const auto values = std::move(index.removedValues);
+            const auto nodes = std::move(removed->nodes);
+            const auto values = std::move(removed->values);
         }
-        Index& index;
+        std::shared_ptr<Removed> removed;
     };
 
     void Forget(const Node& node)
@@ -66,10 +71,13 @@ struct Tree::Index
             Forget(*below);
         nodes.erase(KeyOf(node.GetBasePath()));
     }
-    void ForgetAll()
+    std::vector<std::unique_ptr<Node>> TakeAll()
     {
         nodes.clear();
         values.clear();
+        for (const auto& node : topNodes)
+            node->TakeOut();
+        return std::exchange(topNodes, {});
     }
 };
 
@@ -86,6 +94,7 @@ Tree::Tree() : m_index(std::make_unique<Index>())
 
 Tree::~Tree()
 {
+    m_index->isClosing = true;
     Clear();
 }
 
@@ -154,7 +163,8 @@ Node* Tree::CreateNode(QStringView path, const QString& type)
 
 bool Tree::Insert(Node& node, std::unique_ptr<ValueBase> value)
 {
-    if (!value || !m_index->values.emplace(std::pair(&node, QStringView(value->GetName())), value.get()).second)
+    if (!value || node.m_isOut || m_index->isClosing ||
+        !m_index->values.emplace(std::pair(&node, QStringView(value->GetName())), value.get()).second)
         return false;
     value->m_node = &node;
     node.m_values.push_back(std::move(value));
@@ -169,7 +179,7 @@ ValueBase* Tree::CreateValue(QStringView path, const ValueDescriptor& descriptor
 
 ValueBase* Tree::CreateValue(Node& node, QStringView name, const ValueDescriptor& descriptor)
 {
-    return CreateValue(QString(node.GetBasePath() % name), descriptor);
+    return node.m_isOut ? nullptr : CreateValue(QString(node.GetBasePath() % name), descriptor);
 }
 
 ValueBase* Tree::CreateValue(Node& node, const QString& name, const ValueDescriptor& descriptor, std::string_view content)
@@ -189,8 +199,9 @@ void Tree::RemoveBranch(QStringView path)
         return;
     const Index::Removal removal(*m_index);
     m_index->Forget(*node);
+    node->TakeOut();
     auto& siblings = node->GetParent() ? node->GetParent()->m_nodes : m_index->topNodes;
-    m_index->removedNodes.push_back(TakeFrom(siblings, node));
+    removal.removed->nodes.push_back(TakeFrom(siblings, node));
     node->Release();
 }
 
@@ -202,25 +213,23 @@ void Tree::RemoveValue(QStringView path)
     const Index::Removal removal(*m_index);
     Node* node = value->GetNode();
     m_index->values.erase({node, value->GetName()});
-    m_index->removedValues.push_back(TakeFrom(node->m_values, value));
+    removal.removed->values.push_back(TakeFrom(node->m_values, value));
     value->Release();
 }
 
 void Tree::Clear()
 {
     const Index::Removal removal(*m_index);
-    m_index->ForgetAll();
     std::vector<Node*> nodes;
-    for (auto& node : std::exchange(m_index->topNodes, {}))
-        nodes.push_back(m_index->removedNodes.emplace_back(std::move(node)).get());
+    for (auto& node : m_index->TakeAll())
+        nodes.push_back(removal.removed->nodes.emplace_back(std::move(node)).get());
     for (Node* node : nodes)
         node->Release();
 }
 
 void Tree::ClearLater()
 {
-    m_index->ForgetAll();
-    auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(std::exchange(m_index->topNodes, {}));
+    auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(m_index->TakeAll());
     for (const auto& node : *remains)
         node->Release();
     IdleDisposal::Add(

@@ -64,7 +64,7 @@ bool BackUp(const QString& fileName, QString& reason)
 
 } // namespace
 
-JobFile::JobFile(Tree& tree) : m_tree(tree), m_layout(std::make_unique<JobLayout>()) {}
+JobFile::JobFile(Tree& tree) : m_tree(tree), m_layout(std::make_shared<JobLayout>()) {}
 
 JobFile::~JobFile()
 {
@@ -93,11 +93,7 @@ bool JobFile::Load(const QString& fileName, FileError* error)
 {
     const Stamp stamp = StampOf(fileName);
     QFile file(fileName);
-    if (!Open(file, error) || !Read(file, fileName, error))
-        return false;
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
-    m_stamp = stamp;
-    return true;
+    return Open(file, error) && Read(file, fileName, QFileInfo(fileName).absoluteFilePath(), stamp, error);
 }
 
 bool JobFile::LoadSample(FileError* error)
@@ -106,19 +102,16 @@ bool JobFile::LoadSample(FileError* error)
     QFile file(QStringLiteral(":/models/sample.job.xml"));
     if (!file.open(QIODevice::ReadOnly))
         return Fail(error, file.fileName(), QtCompat::ErrorText(file));
-    if (!Read(file, file.fileName(), error))
-        return false;
-    m_fileName.clear();
-    m_stamp = {};
-    return true;
+    return Read(file, file.fileName(), {}, {}, error);
 }
 
-bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error)
+bool JobFile::Read(QIODevice& device, const QString& shownName, const QString& fileName, const Stamp& stamp,
+                   FileError* error)
 {
     Tree fresh;
-    auto layout = std::make_unique<JobLayout>();
+    auto layout = std::make_shared<JobLayout>();
     // What is replaced, or was begun in vain. The rules end before their values do: whoever hears of their end finds
-    // the new job complete.
+    // the new job complete, and may load a further one.
     const auto dispose = qScopeGuard(
         [&]
         {
@@ -145,6 +138,8 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, FileError* error
     JobModel::KeepForValues(m_model);
     m_tree.Swap(fresh);
     m_layout.swap(layout);
+    m_fileName = fileName;
+    m_stamp = stamp;
     return true;
 }
 
@@ -233,7 +228,7 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
         return {error};
 
     Tree tree;
-    auto layout = std::make_unique<JobLayout>();
+    auto layout = std::make_shared<JobLayout>();
     FileErrors errors;
     {
         const JournalPause pause(tree);
@@ -253,7 +248,7 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
 
 const NodeSpec* JobFile::FindNodeSpec(QStringView path) const
 {
-    const JobNode* node = JobStructure(m_tree, *m_layout).Find(path);
+    const JobNode* node = JobStructure(m_tree, m_layout).Find(path);
     return node ? &node->spec : nullptr;
 }
 
@@ -278,33 +273,40 @@ Node* JobFile::AddNode(QStringView parentPath, const NodeSpec& spec, QString* re
 {
     GetModel();
     JobModel::KeepForValues(m_model);
-    return JobStructure(m_tree, *m_layout).Add(parentPath, spec, *m_model, reason);
+    return JobStructure(m_tree, m_layout).Add(parentPath, spec, *m_model, reason);
 }
 
 void JobFile::RemoveNode(QStringView path)
 {
-    if (!TakeNode(path))
-        m_tree.RemoveBranch(path);
+    // Who hears of it may delete this job.
+    Tree& tree = m_tree;
+    JobStructure structure(tree, m_layout);
+    const QString branch = path.toString();
+    if (structure.Take(branch, nullptr))
+        return;
+    for (const QString& below : structure.PathsBelow(branch))
+        structure.Take(below, nullptr);
+    tree.RemoveBranch(branch);
 }
 
 std::shared_ptr<TakenNode> JobFile::TakeNode(QStringView path, QString* reason)
 {
-    return JobStructure(m_tree, *m_layout).Take(path, reason);
+    return JobStructure(m_tree, m_layout).Take(path, reason);
 }
 
 bool JobFile::PutBackNode(TakenNode& taken, QString* reason)
 {
-    return JobStructure(m_tree, *m_layout).PutBack(taken, reason);
+    return JobStructure(m_tree, m_layout).PutBack(taken, reason);
 }
 
 bool JobFile::RenameNode(QStringView path, const QString& name, QString* reason)
 {
-    return JobStructure(m_tree, *m_layout).Rename(path, name, reason);
+    return JobStructure(m_tree, m_layout).Rename(path, name, reason);
 }
 
 Node* JobFile::DuplicateNode(QStringView path, const QString& name, QString* reason)
 {
-    return JobStructure(m_tree, *m_layout).Duplicate(path, name, reason);
+    return JobStructure(m_tree, m_layout).Duplicate(path, name, reason);
 }
 
 } // namespace TKE

@@ -26,6 +26,9 @@ struct TakenNode;
 /// changes nothing: what was there stays. Loading replaces the whole content of the tree; the old values report state 1
 /// as they go. The journal hears nothing of it.
 ///
+/// Who hears of values that go, or of new states, may load another job, and add, remove and rename nodes: an operation
+/// tells when the job is whole again, and goes on with what is left of it.
+///
 /// Saving writes each value that the file named or that differs from its default. What the program does not know stays
 /// in place, byte for byte, as does every element that was not edited; a job that was not edited gives the bytes it was
 /// loaded from.
@@ -99,7 +102,8 @@ public:
     /// Adds a node with all values of its groups below the node at `parentPath` (empty: at the top). Null, with the
     /// reason when asked for, when that is not possible.
     Node* AddNode(QStringView parentPath, const NodeSpec& spec, QString* reason = nullptr);
-    /// Removes the node at `path` with all below it from the tree and from the job.
+    /// Removes the node at `path` with all below it, nodes of the file that are no part of it too, from the tree and
+    /// from the job.
     void RemoveNode(QStringView path);
     /// The same, and what puts it back with its bytes and contents. Null with the reason when the job holds no such
     /// node, or when another node of the file, which is no part of this one, lies below it.
@@ -127,11 +131,11 @@ private:
         bool operator==(const Stamp&) const = default;
     };
     static Stamp StampOf(const QString& fileName);
-    bool Read(QIODevice& device, const QString& shownName, FileError* error);
+    bool Read(QIODevice& device, const QString& shownName, const QString& fileName, const Stamp& stamp, FileError* error);
 
     Tree& m_tree;
     std::shared_ptr<const JobModel> m_model;
-    std::unique_ptr<JobLayout> m_layout;
+    std::shared_ptr<JobLayout> m_layout;
     FileErrors m_warnings;
     Progress m_progress;
     NodeVisitor m_readVisitor;

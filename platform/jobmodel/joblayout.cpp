@@ -124,11 +124,12 @@ void JobNode::EndRules()
     }
 }
 
-void JobLayout::DisposeLater(std::unique_ptr<JobLayout> layout)
+void JobLayout::DisposeLater(std::shared_ptr<JobLayout> layout)
 {
+    layout->isReplaced = true;
     layout->root.EndRules();
     IdleDisposal::Add(
-        [remains = std::shared_ptr<JobLayout>(std::move(layout))]
+        [remains = std::move(layout)]
         {
             // A node without further ones below.
             JobNode* node = &remains->root;

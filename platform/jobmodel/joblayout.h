@@ -85,11 +85,12 @@ struct JobLayout
     JobNode root;            ///< its start tag holds all that comes before, too
     std::string tail = "\n"; ///< what follows the root element
     QHash<QString, JobNode*> byPath;
+    bool isReplaced = false; ///< by that of another file: no more of this one is in the tree
 
     /// The template of nodes like `spec`; made once.
     std::shared_ptr<const NodeTemplate> TemplateFor(const JobModel& model, const NodeSpec& spec);
     /// Ends all rules of `layout` now and deletes the rest of it a little at a time.
-    static void DisposeLater(std::unique_ptr<JobLayout> layout);
+    static void DisposeLater(std::shared_ptr<JobLayout> layout);
     /// Takes `node` and all below it out of byPath.
     void Forget(const JobNode& node);
 

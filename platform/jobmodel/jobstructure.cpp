@@ -102,7 +102,20 @@ bool HasAbsolute(const JobNode& node)
 
 JobNode* JobStructure::Find(QStringView path) const
 {
-    return m_layout.byPath.value(NodePath(path));
+    return m_layout.isReplaced ? nullptr : m_layout.byPath.value(NodePath(path));
+}
+
+QStringList JobStructure::PathsBelow(QStringView path) const
+{
+    const QString prefix = NodePath(path);
+    QStringList paths;
+    for (auto each = m_layout.byPath.begin(); each != m_layout.byPath.end(); ++each)
+    {
+        if (!prefix.isEmpty() && each.key().startsWith(prefix))
+            paths << each.key();
+    }
+    std::ranges::sort(paths, std::greater(), &QString::size);
+    return paths;
 }
 
 Node* JobStructure::Add(QStringView parentPath, const NodeSpec& spec, const JobModel& model, QString* reason)
@@ -136,10 +149,9 @@ Node* JobStructure::Add(QStringView parentPath, const NodeSpec& spec, const JobM
     parent->Add(JobNode::Piece::Node, parent->nodes.size());
     parent->nodes.push_back(std::move(node));
     size_t next = 0;
-    Node* made = Make(added, {}, next);
+    Make(added, {}, next);
     Adopt(added);
-    Begin(added);
-    return made;
+    return Begin(added, reason);
 }
 
 std::shared_ptr<TakenNode> JobStructure::Take(QStringView path, QString* reason)
@@ -171,7 +183,7 @@ std::shared_ptr<TakenNode> JobStructure::Take(QStringView path, QString* reason)
 bool JobStructure::PutBack(TakenNode& taken, QString* reason)
 {
     JobNode* parent = taken.parentPath.isEmpty() ? &m_layout.root : Find(taken.parentPath);
-    if (!parent || taken.slot >= parent->nodes.size() || parent->nodes[taken.slot])
+    if (m_layout.isReplaced || !parent || taken.slot >= parent->nodes.size() || parent->nodes[taken.slot])
         return Refuse(reason, tr("The job holds no node \"%1\"").arg(taken.parentPath));
     if (Find(taken.node->path))
         return Refuse(reason, tr("The node occurs twice"));
@@ -190,8 +202,7 @@ bool JobStructure::PutBack(TakenNode& taken, QString* reason)
     Make(node, taken.contents, next);
     next = 0;
     ForEach(node, [&](JobNode& each) { each.borrowed = std::move(borrowed[next++]); });
-    Begin(node);
-    return true;
+    return Begin(node, reason);
 }
 
 bool JobStructure::Rename(QStringView path, const QString& name, QString* reason)
@@ -246,10 +257,9 @@ Node* JobStructure::Duplicate(QStringView path, const QString& name, QString* re
     parent.content.emplace(piece + 1, JobNode::Piece::Node, parent.nodes.size());
     parent.nodes.push_back(std::move(copied));
     size_t next = 0;
-    Node* made = Make(copy, contents, next);
+    Make(copy, contents, next);
     DropBorrowed(copy);
-    Begin(copy);
-    return made;
+    return Begin(copy, reason);
 }
 
 QString JobStructure::PathFor(const JobNode& node, const QString& name, NodeSpec& spec, QString* reason) const
@@ -306,12 +316,12 @@ void JobStructure::Read(const JobNode& node, Contents& contents) const
 }
 
 // Makes the values of `node` and of all below it. Those that are there already keep their content.
-Node* JobStructure::Make(JobNode& node, const Contents& contents, size_t& next)
+void JobStructure::Make(JobNode& node, const Contents& contents, size_t& next)
 {
     m_layout.byPath.insert(node.path, &node);
     node.borrowed.clear();
     std::vector<ValueBase*> values;
-    Node* made = node.Create(m_tree, values);
+    node.Create(m_tree, values);
     if (next < contents.size())
     {
         for (const TakenNode::Content& content : contents[next++])
@@ -327,19 +337,33 @@ Node* JobStructure::Make(JobNode& node, const Contents& contents, size_t& next)
         if (below)
             Make(*below, contents, next);
     }
-    return made;
 }
 
-void JobStructure::Begin(JobNode& node)
+// Lets the rules of `node` and of all below it begin. Values that were there before may have observers, who hear of the
+// states: of the job, only what is found anew is touched once the first one is set.
+Node* JobStructure::Begin(JobNode& node, QString* reason)
 {
+    const QString path = node.path;
+    std::vector<std::pair<QString, std::shared_ptr<const NodeTemplate>>> begun;
     ForEach(node,
-            [this](JobNode& each)
+            [&](JobNode& each)
             {
                 each.rules = std::make_unique<NodeRules>(m_tree, each.path, each.values);
                 std::vector<ValueBase*> values;
                 each.FindValues(m_tree, values);
-                each.rules->Begin(values);
+                each.rules->Follow(values);
+                begun.emplace_back(each.path, each.values);
             });
+    for (const auto& [eachPath, values] : begun)
+    {
+        const JobNode* each = Find(eachPath);
+        if (each && each->values == values)
+            NodeRules::SetStates(m_tree, eachPath, *values);
+    }
+    if (Find(path))
+        return m_tree.FindNode(path);
+    Refuse(reason, tr("The job holds no node \"%1\"").arg(path));
+    return nullptr;
 }
 
 // Values outside of `node` that it wrote go over to other nodes that have them.

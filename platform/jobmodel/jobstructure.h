@@ -32,12 +32,20 @@ struct TakenNode
 
 /// The operations that add, take, rename and copy nodes of a job, in its layout and in the tree. The journal hears
 /// nothing of the values that come and go. Where an operation fails, `reason` says why, and nothing has changed.
+///
+/// Who hears of values that go, or of the states that the rules of new nodes give to values of other nodes, may change
+/// the job, down to another one in its place. So an operation tells when all is done; a node that did not live to see
+/// that counts as a failure. Renaming tells half-way: what was renamed comes back only where the job still has a place
+/// for it.
 class JobStructure
 {
     Q_DECLARE_TR_FUNCTIONS(TKE::JobStructure)
 
 public:
-    JobStructure(Tree& tree, JobLayout& layout) : m_tree(tree), m_layout(layout) {}
+    JobStructure(Tree& tree, std::shared_ptr<JobLayout> layout)
+        : m_tree(tree), m_held(std::move(layout)), m_layout(*m_held)
+    {
+    }
 
     Node* Add(QStringView parentPath, const NodeSpec& spec, const JobModel& model, QString* reason);
     std::shared_ptr<TakenNode> Take(QStringView path, QString* reason);
@@ -48,6 +56,9 @@ public:
     Node* Duplicate(QStringView path, const QString& name, QString* reason);
 
     JobNode* Find(QStringView path) const;
+    /// Of the node at `path`, of all below it and of those that are no part of it but lie below it: each before the
+    /// one that it lies below.
+    QStringList PathsBelow(QStringView path) const;
 
 private:
     using Contents = std::vector<std::vector<TakenNode::Content>>;
@@ -56,12 +67,13 @@ private:
     QString PathFor(const JobNode& node, const QString& name, NodeSpec& spec, QString* reason) const;
     bool HasStranger(const JobNode& node) const;
     void Read(const JobNode& node, Contents& contents) const;
-    Node* Make(JobNode& node, const Contents& contents, size_t& next);
-    void Begin(JobNode& node);
+    void Make(JobNode& node, const Contents& contents, size_t& next);
+    Node* Begin(JobNode& node, QString* reason);
     void Bequeath(const JobNode& node, std::vector<TakenNode::Heir>& heirs);
     void Adopt(JobNode& node);
 
     Tree& m_tree;
+    std::shared_ptr<JobLayout> m_held;
     JobLayout& m_layout;
 };
 

@@ -36,14 +36,35 @@ NodeRules::NodeRules(Tree& tree, const QString& basePath, std::shared_ptr<const 
 {
 }
 
-void NodeRules::Begin(const std::vector<ValueBase*>& values)
+void NodeRules::Follow(const std::vector<ValueBase*>& values)
 {
     for (const NodeTemplate::Rule& rule : m_values->GetRules())
     {
-        if (!values[rule.source] || !values[rule.target])
+        if (values[rule.source] && values[rule.target])
+            values[rule.source]->Attach(this);
+    }
+}
+
+void NodeRules::Begin(const std::vector<ValueBase*>& values)
+{
+    Follow(values);
+    for (const NodeTemplate::Rule& rule : m_values->GetRules())
+    {
+        if (values[rule.source] && values[rule.target])
+            Apply(rule, *values[rule.source], *values[rule.target]);
+    }
+}
+
+void NodeRules::SetStates(Tree& tree, const QString& basePath, const NodeTemplate& values, const QString* name)
+{
+    for (const NodeTemplate::Rule& rule : values.GetRules())
+    {
+        if (name && *values.GetEntries()[rule.source].name != *name)
             continue;
-        values[rule.source]->Attach(this);
-        Apply(rule, *values[rule.source], *values[rule.target]);
+        const ValueBase* source = Find(tree, basePath, values, rule.source);
+        ValueBase* target = Find(tree, basePath, values, rule.target);
+        if (source && target)
+            Apply(rule, *source, *target);
     }
 }
 
@@ -54,19 +75,10 @@ void NodeRules::Update(Observable* changed, TChangeCode code)
     // Whoever hears of a new state may change the source again, remove values or end these rules: nothing here is
     // touched after the first state is set but what is held by this operation itself, and values are sought anew for
     // each rule.
-    Tree& tree = *m_tree;
     const QString basePath = m_basePath;
     const auto values = m_values;
     const QString name = static_cast<ValueBase*>(changed)->GetName();
-    for (const NodeTemplate::Rule& rule : values->GetRules())
-    {
-        if (*values->GetEntries()[rule.source].name != name)
-            continue;
-        const ValueBase* source = Find(tree, basePath, *values, rule.source);
-        ValueBase* target = Find(tree, basePath, *values, rule.target);
-        if (source && target)
-            Apply(rule, *source, *target);
-    }
+    SetStates(*m_tree, basePath, *values, &name);
 }
 
 } // namespace TKE

@@ -76,24 +76,31 @@ struct Tree::Index
                            { return value.m_node == &node && Same(value.GetName(), name); });
     }
 
-    // Keeps what is removed until the outermost removal ends, for the observers that are still to hear of it.
+    // What is removed stays until the outermost removal ends, for the observers that are still to hear of it. One of
+    // them may swap the index into another tree and delete that, so a removal under way holds on to the graveyard
+    // itself.
+    struct Graveyard
+    {
+        int removals = 0;
+        std::vector<std::unique_ptr<Node>> nodes;
+        std::vector<std::unique_ptr<ValueBase>> values;
+    };
     struct Removal
     {
-        explicit Removal(Index& i) : index(i) { ++index.removals; }
+        explicit Removal(const Index& index) : graveyard(index.graveyard) { ++graveyard->removals; }
         ~Removal()
         {
-            if (--index.removals > 0)
+            if (--graveyard->removals > 0)
                 return;
-            const auto nodes = std::move(index.removedNodes);
-            const auto values = std::move(index.removedValues);
+            const auto nodes = std::move(graveyard->nodes);
+            const auto values = std::move(graveyard->values);
         }
-        Node* Bury(std::unique_ptr<Node> node) const { return index.removedNodes.emplace_back(std::move(node)).get(); }
-        void Bury(std::unique_ptr<ValueBase> value) const { index.removedValues.push_back(std::move(value)); }
-        Index& index;
+        Node* Bury(std::unique_ptr<Node> node) const { return graveyard->nodes.emplace_back(std::move(node)).get(); }
+        void Bury(std::unique_ptr<ValueBase> value) const { graveyard->values.push_back(std::move(value)); }
+        std::shared_ptr<Graveyard> graveyard;
     };
-    int removals = 0;
-    std::vector<std::unique_ptr<Node>> removedNodes;
-    std::vector<std::unique_ptr<ValueBase>> removedValues;
+    std::shared_ptr<Graveyard> graveyard = std::make_shared<Graveyard>();
+    bool isClosing = false; // the tree dies and takes no more values
 
     // Some values or a node of the last branch. Whether there is more.
     static bool DeleteSome(std::vector<std::unique_ptr<Node>>& branches)
@@ -113,13 +120,21 @@ struct Tree::Index
     }
 
     // Of the look-up.
-    void TakeOut(const Node& node)
+    void Forget(const Node& node)
     {
         for (const auto& value : node.GetValues())
             values.Erase(value.get());
         for (const auto& below : node.GetNodes())
-            TakeOut(*below);
+            Forget(*below);
         nodes.Erase(&node);
+    }
+    std::vector<std::unique_ptr<Node>> TakeAll()
+    {
+        nodes.Clear();
+        values.Clear();
+        for (const auto& node : topNodes)
+            node->TakeOut();
+        return std::exchange(topNodes, {});
     }
 };
 
@@ -136,6 +151,7 @@ Tree::Tree() : m_index(std::make_unique<Index>())
 
 Tree::~Tree()
 {
+    m_index->isClosing = true;
     Clear();
 }
 
@@ -204,7 +220,7 @@ Node* Tree::CreateNode(QStringView path, const QString& type)
 
 bool Tree::Insert(Node& node, std::unique_ptr<ValueBase> value)
 {
-    if (!value)
+    if (!value || node.m_isOut || m_index->isClosing)
         return false;
     value->m_node = &node;
     const QStringView name = value->GetName();
@@ -225,7 +241,7 @@ ValueBase* Tree::CreateValue(QStringView path, const ValueDescriptor& descriptor
 ValueBase* Tree::CreateValue(Node& node, QStringView name, const ValueDescriptor& descriptor)
 {
     if (name.contains(u'/'))
-        return CreateValue(QString(node.m_prefix % name), descriptor);
+        return node.m_isOut ? nullptr : CreateValue(QString(node.m_prefix % name), descriptor);
     return Add(node, ValueBase::Make(Intern(name), descriptor));
 }
 
@@ -265,7 +281,8 @@ void Tree::RemoveBranch(QStringView path)
     if (!node)
         return;
     const Index::Removal removal(*m_index);
-    m_index->TakeOut(*node);
+    m_index->Forget(*node);
+    node->TakeOut();
     removal.Bury(TakeFrom(node->m_parent ? node->m_parent->m_nodes : m_index->topNodes, node));
     node->Release();
 }
@@ -284,10 +301,8 @@ void Tree::RemoveValue(QStringView path)
 void Tree::Clear()
 {
     const Index::Removal removal(*m_index);
-    m_index->nodes.Clear();
-    m_index->values.Clear();
     std::vector<Node*> nodes;
-    for (auto& node : std::exchange(m_index->topNodes, {}))
+    for (auto& node : m_index->TakeAll())
         nodes.push_back(removal.Bury(std::move(node)));
     for (Node* node : nodes)
         node->Release();
@@ -295,9 +310,7 @@ void Tree::Clear()
 
 void Tree::ClearLater()
 {
-    m_index->nodes.Clear();
-    m_index->values.Clear();
-    auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(std::exchange(m_index->topNodes, {}));
+    auto remains = std::make_shared<std::vector<std::unique_ptr<Node>>>(m_index->TakeAll());
     for (const auto& node : *remains)
         node->Release();
     IdleDisposal::Add([remains] { return Index::DeleteSome(*remains); });

@@ -3,6 +3,13 @@
 namespace TKE
 {
 
+void Node::TakeOut()
+{
+    m_isOut = true;
+    for (const auto& below : m_nodes)
+        below->TakeOut();
+}
+
 void Node::Release()
 {
     for (const auto& value : m_values)

@@ -36,6 +36,8 @@ private:
     friend class Tree;
     Node(Node* parent, const QString& prefix, quint64 hash) : m_parent(parent), m_prefix(prefix), m_hash(hash) {}
 
+    /// From now on this node and all below it take no more values.
+    void TakeOut();
     /// Lets all values here and below report their end.
     void Release();
 
@@ -43,6 +45,7 @@ private:
     QString m_prefix;
     quint64 m_hash; // of the prefix: the first half of the hash of every value below
     QString m_type;
+    bool m_isOut = false; // removed from the tree: it takes no more values
     std::vector<std::unique_ptr<Node>> m_nodes;
     std::vector<std::unique_ptr<ValueBase>> m_values;
 };

@@ -18,7 +18,9 @@ namespace TKE
 /// nothing.
 ///
 /// Ownership: the tree owns nodes and values. What is removed is first out of reach of Find, then reports state 1, then
-/// is deleted; who hears of it may remove more, and nothing is deleted before the outermost removal ends.
+/// is deleted; nothing is deleted before the outermost removal ends. Who hears of it may remove more, make new values
+/// (not below a node that was removed), swap the tree with another and even delete it. A tree that dies takes no more
+/// values.
 ///
 /// A host may bring a storage of its own: what is not defined here makes up the library `storage`, and docs/storage.md
 /// says how to put another in its place.
@@ -43,7 +45,7 @@ public:
     Node* CreateNode(QStringView path, const QString& type = {});
 
     /// Makes a value of type V at `path`, and the nodes above it as needed; its content is the default of the
-    /// descriptor. Null when a value stands there already.
+    /// descriptor. Null when a value stands there already, when the node has been removed, and when the tree dies.
     template <class V> V* CreateValue(QStringView path, const ValueDescriptor& descriptor)
     {
         const Place place = Split(path);

@@ -69,10 +69,19 @@ QString ValueBase::GetPathName() const
 
 void ValueBase::SetState(EnableState state, const IObserver* excluded)
 {
-    if (state == m_state)
+    if (state == m_state || m_isGoing)
         return;
     m_state = state;
     Notify(ccState, excluded);
+}
+
+void ValueBase::Release()
+{
+    if (m_isGoing)
+        return;
+    m_isGoing = true;
+    m_state = stReleased;
+    Notify(ccState);
 }
 
 QString ValueBase::GetStoredText() const

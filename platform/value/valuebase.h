@@ -41,7 +41,8 @@ using JournalHook = std::function<void(const JournalEntry&)>;
 /// false, content unchanged, reason as text. A value may be removed by whom its notification reaches: do not touch it
 /// after a write unless you know better.
 ///
-/// Lifetime: a value that goes away first reports state 1 (released), so that every holder forgets it.
+/// Lifetime: a value that goes away first reports state 1 (released), so that every holder forgets it, and keeps that
+/// state.
 ///
 /// Exported by itself, since a library that hides what it does not export would else have a journal of its own.
 class Q_DECL_EXPORT ValueBase : public Observable
@@ -114,9 +115,9 @@ protected:
         Nested nested;
         Notify(ccContent, excluded);
     }
-    /// Reports the end. The destructor of each kind of value calls it, while the value is whole, for observers that
-    /// read its content.
-    void Release() { SetState(stReleased); }
+    /// Reports the end, once, even of a value that was withdrawn before: not all may have heard of that yet. The
+    /// destructor of each kind of value calls it, while the value is whole, for observers that read its content.
+    void Release();
 
 private:
     friend class Tree;
@@ -135,6 +136,7 @@ private:
     const ValueDescriptor* m_descriptor;
     EnableState m_state = stEnabled;
     bool m_explicit = false;
+    bool m_isGoing = false; // has reported its end
 };
 
 } // namespace TKE

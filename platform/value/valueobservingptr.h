@@ -20,9 +20,12 @@ public:
         Reset(value);
         return *this;
     }
-    /// Lets go of the value held and holds `value` (null: nothing).
+    /// Lets go of the value held and holds `value` (null: nothing). A value that is released already is not held: it
+    /// does not tell its end again.
     void Reset(T* value = nullptr)
     {
+        if (value && value->GetState() == stReleased)
+            value = nullptr;
         if (value == m_value)
             return;
         if (m_value)
