@@ -37,20 +37,20 @@ private:
 };
 
 /// What all values of one kind and key share: the texts, the range and the items. A descriptor outlives the values made
-/// from it.
+/// from it. Members have initializers, so that one may be written with the names of some of them and without a warning.
 struct ValueDescriptor
 {
     ValueKind kind = ValueKind::Text;
     bool multiple = false; ///< selections: a set of keys instead of one
-    QString label;
-    QString description;
-    QString unit;                  ///< unit of the stored number
-    QString defaultText;           ///< in stored form (ValueBase::GetStoredText)
-    std::optional<double> minimum; ///< in stored units; of each number for lists
-    std::optional<double> maximum;
+    QString label{};
+    QString description{};
+    QString unit{};                  ///< unit of the stored number
+    QString defaultText{};           ///< in stored form (ValueBase::GetStoredText)
+    std::optional<double> minimum{}; ///< in stored units; of each number for lists
+    std::optional<double> maximum{};
     double step = 1.0;
     int precision = 0; ///< decimals of a double
-    std::vector<SelectionItem> items;
+    std::vector<SelectionItem> items{};
 
     /// The descriptor of values that nobody describes: no range, no items, an empty default.
     static const ValueDescriptor& Plain(ValueKind kind);
