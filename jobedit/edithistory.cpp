@@ -7,8 +7,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
-#include <ranges>
-#include <span>
+#include <iterator>
 
 namespace JOBEDIT
 {
@@ -265,29 +264,29 @@ bool EditHistory::MayGoOn(qint64 done, qint64 all)
 
 bool EditHistory::Apply(const EditStep& step, bool undo)
 {
-    const std::span all(step.changes);
+    const auto& all = step.changes;
     const bool mayCancel = !m_isCancelled; // else it is the cancelled step itself that is taken back
-    const size_t done = undo ? Apply(std::views::reverse(all), true, mayCancel) : Apply(all, false, mayCancel);
-    if (done == all.size())
+    const auto done = undo ? Apply(all.rbegin(), all.rend(), true, mayCancel) : Apply(all.begin(), all.end(), false, mayCancel);
+    if (done == std::ssize(all))
         return true;
-    undo ? Apply(all.last(done), false, false) : Apply(std::views::reverse(all.first(done)), true, false);
+    undo ? Apply(all.end() - done, all.end(), false, false) : Apply(all.rend() - done, all.rend(), true, false);
     return false;
 }
 
-template <class Changes> size_t EditHistory::Apply(const Changes& changes, bool undo, bool mayCancel)
+template <class Iterator> qsizetype EditHistory::Apply(Iterator from, Iterator end, bool undo, bool mayCancel)
 {
     Contents wanted;
     m_wanted = &wanted;
-    const auto count = qint64(std::size(changes));
+    const qint64 count = end - from;
     qint64 told = 0;
     // The second half is to look whether all is as wanted.
     const auto goesOn = [&] { return told++ % changesAtOnce != 0 || !m_progress || m_progress(told - 1, 2 * count); };
-    size_t done = 0;
-    for (const EditChange& change : changes)
+    qsizetype done = 0;
+    for (; from != end; ++from, ++done)
     {
         if (!goesOn() && mayCancel)
             break;
-        ++done;
+        const EditChange& change = *from;
         if (!change.structure)
         {
             const QString& content = undo ? change.before : change.after;

@@ -94,7 +94,8 @@ private:
     void Append(const EditChange& change);
     void Bound();
     bool Apply(const EditStep& step, bool undo);
-    template <class Changes> size_t Apply(const Changes& changes, bool undo, bool mayCancel);
+    /// How many were made before somebody cancelled.
+    template <class Iterator> qsizetype Apply(Iterator from, Iterator end, bool undo, bool mayCancel);
     void Write(const QString& path, const QString& stored);
     void Tell(const StructureEdit& edit, bool undo);
     void TellOfNodes();

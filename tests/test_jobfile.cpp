@@ -394,13 +394,13 @@ private slots:
     {
         const QString inner = Write(Job(Mgc("62")), "inner.job.xml");
         QVERIFY(Load(Job(Mgc("60"))));
-        Listener listener;
         bool isFirst = true;
-        listener.heard = [&](Observable*, TChangeCode)
-        {
-            if (std::exchange(isFirst, false))
-                QVERIFY(m_job->Load(inner));
-        };
+        Hearer listener(
+            [&]
+            {
+                if (std::exchange(isFirst, false))
+                    QVERIFY(m_job->Load(inner));
+            });
         At("TUNER_HF_NB_MGCVALUE")->Attach(&listener);
         QVERIFY(Load(Job(Mgc("61"))));
         QCOMPARE(m_job->ToUtf8(), Job(Mgc("62")));

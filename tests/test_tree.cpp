@@ -301,9 +301,9 @@ private slots:
         auto tree = std::make_unique<Tree>();
         QStringList told;
         Hearer hearer(
-            [&](Observable* source, TChangeCode)
+            [&]
             {
-                const auto* value = static_cast<ValueBase*>(source);
+                const auto* value = static_cast<ValueBase*>(hearer.source);
                 told += value->GetNode()->GetBasePath() + value->GetText();
                 if (!swap)
                     return tree.reset();
@@ -343,7 +343,7 @@ private slots:
         Node* above = tree->FindNode(u"/a");
         int told = 0, made = 0;
         Hearer maker(
-            [&, dying = tree.get()](Observable*, TChangeCode)
+            [&, dying = tree.get()]
             {
                 ++told;
                 made += dying->CreateValue(*above, u"NEW", text) || dying->CreateValue(*above, u"d/NEW", text) ||
