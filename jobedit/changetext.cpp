@@ -1,5 +1,6 @@
 #include "changetext.h"
 
+#include "fieldtexts.h"
 #include "valuetexts.h"
 #include "valuewidgets/valuelink.h"
 
@@ -58,7 +59,7 @@ QString ChangeText::Of(const QString& path, QString label, const TKE::ValueDescr
                        const QString& before, const QString& after)
 {
     if (label.isEmpty())
-        label = Plain(descriptor.label);
+        label = FieldTexts::Label(descriptor);
     return tr("%1: %2 -> %3", "label of a value, content before and after")
         .arg(label.isEmpty() ? path.section('/', -1) : label, Told(descriptor, before), Told(descriptor, after));
 }

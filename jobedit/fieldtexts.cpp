@@ -147,6 +147,13 @@ QString FieldTexts::Label(const TKE::ValueBase& value)
     const TKE::ValueDescriptor& descriptor = value.GetDescriptor();
     if (descriptor.label.isEmpty())
         return descriptor.description.isEmpty() ? value.GetName() : descriptor.description;
+    return Label(descriptor);
+}
+
+QString FieldTexts::Label(const TKE::ValueDescriptor& descriptor)
+{
+    if (descriptor.label.isEmpty())
+        return {};
     const auto& label = FindLabel(descriptor.label);
     return label.context ? Bare(QCoreApplication::translate(label.context, label.source.constData()))
                          : label.texts.constFirst();

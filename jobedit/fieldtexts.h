@@ -14,6 +14,8 @@ class FieldTexts
 public:
     /// The label in the language that runs; without a label the description, without that the key.
     static QString Label(const TKE::ValueBase& value);
+    /// The label in the language that runs; empty without a label.
+    static QString Label(const TKE::ValueDescriptor& descriptor);
     /// The label in all languages, English first; empty without a label.
     static QStringList Labels(const TKE::ValueDescriptor& descriptor);
     /// The content with its unit: numbers in the locale, selections by name.

@@ -1,5 +1,6 @@
 #include "jobdiff.h"
 
+#include "fieldtexts.h"
 #include "valuetexts.h"
 
 #include <QCoreApplication>
@@ -183,7 +184,8 @@ QString Difference::RightText() const
 
 QString Difference::Label() const
 {
-    return !descriptor || descriptor->label.isEmpty() ? key : descriptor->label;
+    const QString label = descriptor ? FieldTexts::Label(*descriptor) : QString();
+    return label.isEmpty() ? key : label;
 }
 
 QString ToText(const std::vector<Difference>& differences)

@@ -1,5 +1,6 @@
 #include "valuetexts.h"
 
+#include "fieldtexts.h"
 #include "valuewidgets/decimal.h"
 #include "valuewidgets/showntext.h"
 #include "valuewidgets/suffixeddouble.h"
@@ -92,10 +93,7 @@ QString ValueTexts::Range(const TKE::ValueBase& value)
 
 QString ValueTexts::Label(const TKE::ValueBase& value)
 {
-    QString label = value.GetDescriptor().label;
-    label.remove(u'&');
-    if (label.endsWith(u':'))
-        label.chop(1);
+    const QString label = FieldTexts::Label(value.GetDescriptor());
     return label.isEmpty() ? value.GetName() : label;
 }
 

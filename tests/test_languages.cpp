@@ -2,6 +2,7 @@
 #include "jobedit/editor.h"
 #include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
+#include "jobedit/valuetexts.h"
 
 #include <QLockFile>
 
@@ -85,6 +86,7 @@ private Q_SLOTS:
                  QStringLiteral("Abbrechen"));
         QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040500"));
         QVERIFY2(FrequencyField()->text().contains("7040,5"), qPrintable(FrequencyField()->text()));
+        QCOMPARE(ValueTexts::Label(*Tree::Instance()->FindValue(frequencyPath)), QStringLiteral("Frequenz"));
         // And why the platform refuses a content.
         const auto refusal = [](QLatin1StringView key, const QString& text)
         {
