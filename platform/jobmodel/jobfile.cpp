@@ -115,6 +115,7 @@ bool JobFile::Read(QIODevice& device, const QString& shownName, const QString& f
     const auto dispose = qScopeGuard(
         [&]
         {
+            layout->isReplaced = true;
             JobLayout::DisposeLater(std::move(layout));
             fresh.ClearLater();
         });

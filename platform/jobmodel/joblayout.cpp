@@ -126,7 +126,6 @@ void JobNode::EndRules()
 
 void JobLayout::DisposeLater(std::shared_ptr<JobLayout> layout)
 {
-    layout->isReplaced = true;
     layout->root.EndRules();
     IdleDisposal::Add(
         [remains = std::move(layout)]
