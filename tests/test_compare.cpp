@@ -280,13 +280,13 @@ private Q_SLOTS:
         QStringList seen;
         for (int row = 0; row < 3; ++row)
         {
-            const Difference& difference = dialog->Model().GetDifferences()[size_t(row)];
+            const QString key = dialog->Model().GetDifferences()[size_t(row)].key; // the list is made anew meanwhile
             list->setCurrentIndex(list->model()->index(row, DifferenceModel::Parameter));
             QTest::keyClick(list, Qt::Key_Return);
             QTRY_COMPARE(QApplication::activeWindow(), &Window());
             QVERIFY(dialog->isVisible());
             seen << Window().Nodes().GetCurrentNode()->path;
-            if (difference.key == Keys::TUNER_HF_NB_FREQUENCY)
+            if (key == Keys::TUNER_HF_NB_FREQUENCY)
             {
                 auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
                 QVERIFY(field);
