@@ -3,7 +3,10 @@
 
 # Signs are left out of the conversions: Qt counts with signed numbers and the standard library with unsigned ones, so that loops over both
 # would need casts that hide more than they show. What may lose digits is an error either way.
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+if(NOT IPCPARAM_QT EQUAL 5) # whose sizes are int where those of Qt 6 are as wide as a pointer
+    add_compile_options(-Wconversion -Wno-sign-conversion)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     add_compile_options(-fpch-preprocess) # lets a compiler cache see through the compiled headers
 endif()

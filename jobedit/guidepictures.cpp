@@ -3,7 +3,6 @@
 #include "checkdock.h"
 #include "compareactions.h"
 #include "comparedialog.h"
-#include "dialogpane.h"
 #include "findbar.h"
 #include "keys/keys.h"
 #include "mainwindow.h"
