@@ -26,8 +26,8 @@ namespace JOBEDIT
 namespace
 {
 
-const QString tunerPath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/");
-const QString voicePath = QStringLiteral("/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/");
+constexpr QLatin1StringView tunerPath{"/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/"};
+constexpr QLatin1StringView voicePath{"/Jobs/Demo/TDS_HF1/CS_VOICE/VOICE/"};
 constexpr QSize windowSize(1240, 700);
 constexpr int patienceMilliseconds = 10000;
 
@@ -131,8 +131,8 @@ private:
 
     bool Write(QLatin1StringView key, const QString& text)
     {
-        TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(tunerPath + key);
-        return Check(value && value->SetStoredText(text), tr("The sample job has no %1.").arg(tunerPath + key));
+        TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(QString(tunerPath) + key);
+        return Check(value && value->SetStoredText(text), tr("The sample job has no %1.").arg(QString(tunerPath) + key));
     }
 
     template <class Condition> bool WaitFor(Condition condition)

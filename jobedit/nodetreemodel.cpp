@@ -41,7 +41,7 @@ void NodeTreeModel::MakePlaces()
     for (size_t number = 0; number < m_nodes.size(); ++number)
         if (shown.empty() || shown[number])
         {
-            m_places[number + 1].row = m_places[size_t(m_nodes[number].parent + 1)].belowCount++;
+            m_places[number + 1].row = m_places[size_t(m_nodes[number].parent) + 1].belowCount++;
             ++count;
         }
     int begin = 0;
@@ -50,7 +50,7 @@ void NodeTreeModel::MakePlaces()
     m_below.resize(size_t(count));
     for (size_t number = 0; number < m_nodes.size(); ++number)
         if (const int row = m_places[number + 1].row; row >= 0)
-            m_below[size_t(PlaceOf(m_nodes[number].parent).belowBegin + row)] = int(number);
+            m_below[size_t(PlaceOf(m_nodes[number].parent).belowBegin) + size_t(row)] = int(number);
 }
 
 // Empty when all are.

@@ -48,7 +48,7 @@ private:
         int belowBegin = 0; ///< in m_below
         int belowCount = 0;
     };
-    const Place& PlaceOf(int number) const { return m_places[size_t(number + 1)]; }
+    const Place& PlaceOf(int number) const { return m_places[size_t(number) + 1]; }
     std::vector<bool> FindShown();
     void MakePlaces();
     void CollectTexts();

@@ -5,6 +5,7 @@
 #include "valuewidgets/showntext.h"
 #include "valuewidgets/suffixeddouble.h"
 
+#include <QDateTime>
 #include <algorithm>
 #include <cmath>
 

@@ -59,7 +59,7 @@ WriteResult WriteValues(JobDocument& document, const QString& stepName, const st
     WriteResult result;
     std::vector<const ValueChange*> accepted;
     qint64 done = 0;
-    const auto goesOn = [&] { return history.MayGoOn(done++, qint64(2 * changes.size())); };
+    const auto goesOn = [&] { return history.MayGoOn(done++, 2 * qint64(changes.size())); };
     for (const ValueChange& change : changes)
     {
         if (!goesOn())

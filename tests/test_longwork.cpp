@@ -427,7 +427,7 @@ private Q_SLOTS:
         m_window->Nodes().Filter()->setText("J7");
         const QTreeView* view = m_window->Nodes().View();
         const QModelIndex job = view->model()->index(0, 0);
-        QCOMPARE(view->model()->rowCount(), 11); // J7 and J70 to J79
+        QCOMPARE(view->model()->rowCount(), copies > 79 ? 11 : 1); // J7 and J70 to J79
         QVERIFY(view->isExpanded(job) && view->isExpanded(view->model()->index(0, 0, job)));
     }
 

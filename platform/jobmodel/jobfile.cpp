@@ -173,7 +173,8 @@ bool JobFile::SaveAs(const QString& fileName, FileError* error)
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_stamp = StampOf(m_fileName);
     // The names, of the backup as well, which stands beside a link.
-    for (const QString& directory : QSet{QFileInfo(m_fileName).path(), QFileInfo(m_fileName).canonicalPath()})
+    const QSet<QString> directories{QFileInfo(m_fileName).path(), QFileInfo(m_fileName).canonicalPath()};
+    for (const QString& directory : directories)
         DiskSync::Directory(directory);
     return true;
 }
