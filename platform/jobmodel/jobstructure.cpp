@@ -114,7 +114,7 @@ QStringList JobStructure::PathsBelow(QStringView path) const
         if (!prefix.isEmpty() && each.key().startsWith(prefix))
             paths << each.key();
     }
-    std::ranges::sort(paths, [](const QString& one, const QString& other) { return one.size() > other.size(); });
+    std::sort(paths.begin(), paths.end(), [](const QString& one, const QString& other) { return one.size() > other.size(); });
     return paths;
 }
 
