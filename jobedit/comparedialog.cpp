@@ -159,17 +159,17 @@ void CompareDialog::Swap()
 // To the field of either side, or of the open job only.
 void CompareDialog::AddWays(bool both)
 {
-    const auto add = [this](const QString& text, Qt::KeyboardModifiers modifiers, QString CompareSides::*base)
+    const auto add = [this](const QString& text, const QList<QKeySequence>& keys, QString CompareSides::*base)
     {
         auto* way = new QAction(text, m_view);
-        way->setShortcuts({modifiers | Qt::Key_Return, modifiers | Qt::Key_Enter});
+        way->setShortcuts(keys);
         way->setShortcutContext(Qt::WidgetShortcut);
         connect(way, &QAction::triggered, this, [this, base] { Go(m_sides.*base); });
         m_view->addAction(way);
     };
-    add(both ? tr("Go to &Left Field") : tr("&Go to Field"), {}, &CompareSides::leftBase);
+    add(both ? tr("Go to &Left Field") : tr("&Go to Field"), {Qt::Key_Return, Qt::Key_Enter}, &CompareSides::leftBase);
     if (both)
-        add(tr("Go to &Right Field"), Qt::ControlModifier, &CompareSides::rightBase);
+        add(tr("Go to &Right Field"), {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}, &CompareSides::rightBase);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(m_view, &QTreeView::activated, this, [this] { Go(m_sides.leftBase); });
 }

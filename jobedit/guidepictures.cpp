@@ -18,6 +18,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QStatusBar>
+#include <QVector>
 #include <algorithm>
 
 namespace JOBEDIT
@@ -38,10 +39,11 @@ QImage Shrunk(const QImage& image)
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             ++counts[image.pixel(x, y)];
-    QList<QRgb> colours = counts.keys();
+    const auto all = counts.keys();
+    QVector<QRgb> colours(all.begin(), all.end());
     std::sort(colours.begin(), colours.end(), [&](QRgb one, QRgb other)
               { return std::pair(counts[other], other) < std::pair(counts[one], one); });
-    colours.resize(qMin<qsizetype>(colours.size(), 256));
+    colours.resize(std::min<decltype(colours.size())>(colours.size(), 256));
     return image.convertToFormat(QImage::Format_Indexed8, colours);
 }
 

@@ -212,7 +212,7 @@ QStringList Describe(const ParameterDlg& panel, const QString& prefix)
     QStringList lines;
     auto* grid = static_cast<QGridLayout*>(panel.layout());
     const auto boxes = panel.findChildren<QGroupBox*>(QString(), Qt::FindDirectChildrenOnly);
-    if (grid->count() == 1 && boxes.contains(grid->itemAt(0)->widget())) // the frame around the grid
+    if (grid->count() == 1 && boxes.contains(qobject_cast<QGroupBox*>(grid->itemAt(0)->widget()))) // the frame around the grid
         grid = GridIn(grid->itemAt(0)->widget());
     Describe(*grid, {}, prefix, lines);
     for (QGroupBox* box : boxes)
