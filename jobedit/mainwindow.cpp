@@ -42,9 +42,26 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <algorithm>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace JOBEDIT
 {
+
+namespace
+{
+
+// The pieces of memory that a job leaves are put together as they are freed, in the slices in which it goes. Otherwise
+// the C library would do that at once for millions of them, when a large piece is asked for: a step of 80 ms.
+void JoinFreedMemoryAtOnce()
+{
+#ifdef __GLIBC__
+    mallopt(M_MXFAST, 0);
+#endif
+}
+
+} // namespace
 
 MainWindow::MainWindow(std::shared_ptr<const TKE::JobModel> model, QWidget* parent)
     : MainWindow(std::make_unique<JobDocument>(std::move(model)), parent)
@@ -67,6 +84,7 @@ MainWindow::MainWindow(std::unique_ptr<JobDocument> document, QWidget* parent)
     , m_toolsMenu(menuBar()->addMenu(tr("&Tools")))
     , m_helpMenu(menuBar()->addMenu(tr("&Help")))
 {
+    JoinFreedMemoryAtOnce();
     m_document->setParent(this);
     MakePanes();
     FillFileMenu();

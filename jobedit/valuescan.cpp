@@ -225,7 +225,7 @@ void ValueScan::Sort()
         std::transform(sorted.begin(), sorted.end(), rows.begin(),
                        [&](quint32 row) { return work->listing.rows[row]; });
         work->listing.rows = std::move(rows);
-        work->keys = {}; // a million texts take a while to go
+        work->keys = std::vector<SortKey>(); // a million texts take a while to go
         const auto finish = [this, work, generation]
         {
             if (generation != m_generation)

@@ -226,6 +226,8 @@ Qt::ItemFlags ValuesModel::flags(const QModelIndex& index) const
     if (!index.isValid())
         return {};
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    if (!IsBranch(index))
+        flags |= Qt::ItemNeverHasChildren;
     const TKE::ValueBase* value = index.column() == ValueListing::Content ? ValueAt(index) : nullptr;
     if (value && value->GetState() == TKE::stEnabled)
         flags |= value->GetKind() == TKE::ValueKind::Bool ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
