@@ -14,11 +14,19 @@
 #include <QScreen>
 #include <QSet>
 #include <QSortFilterProxyModel>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 namespace JOBEDIT
 {
+
+namespace
+{
+
+constexpr int pause = 100; // ms between two looks whether long work is over
+
+} // namespace
 
 CompareDialog::CompareDialog(JobDocument& document, CompareSides sides, std::shared_ptr<const void> holder,
                              const CompareTexts& texts, QWidget* parent)
@@ -225,6 +233,8 @@ void CompareDialog::Refresh()
 {
     if (!m_outdated || !isActiveWindow())
         return;
+    if (LongWork::IsUnderWay()) // it may be what outdates the list, time and again
+        return QTimer::singleShot(pause, this, &CompareDialog::Refresh);
     const auto pathOf = [this](int row) { return m_model->GetDifferences()[size_t(row)].Path(); };
     QSet<QString> ticked;
     for (int row = 0; row < m_model->rowCount(); ++row)
