@@ -222,6 +222,7 @@ private slots:
         window.list->setCurrentCell(0, 0);
         QCOMPARE(OpenMenu(window.list)[0]->text(), "&New row");
         OpenMenu(window.list)[0]->trigger();
+        QCoreApplication::sendPostedEvents(window.list); // it waits until the menu is done
         TypeAndLeave(window.list, "2", Qt::Key_Tab);
         QCOMPARE(value->GetStoredText(), "3000000;2000000;1000000");
         QCOMPARE(window.list->currentRow(), 2);
@@ -313,7 +314,7 @@ private slots:
         row("new row", Qt::Key_Insert, press(Qt::Key_Return));
         row("Delete", 0, press(Qt::Key_Delete));
         row("paste", 0, [](const ListWindow& window) { Paste(window.list, "5"); });
-        row("menu", 0, [](const ListWindow& window) { OpenMenu(window.list)[1]->trigger(); });
+        row("menu", 0, [](const ListWindow& window) { ChooseInMenu(window.list, Qt::Key_D); });
     }
     void whoHearsOfAnEditMayDeleteTheTable()
     {

@@ -281,12 +281,15 @@ void VCListBoxNumeric::Slot_OnMenuRequested(const QPoint& position)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* newRow = menu->addAction(tr("&New row"), this, &VCListBoxNumeric::Slot_OnNewRow);
+    // Done when the menu is closed: whoever hears of the write may delete the table, and the menu with it.
+    QAction* newRow = menu->addAction(tr("&New row"));
     newRow->setShortcut(Qt::Key_Insert);
     newRow->setEnabled(CanAddRow());
-    QAction* deleteRow = menu->addAction(tr("&Delete row"), this, &VCListBoxNumeric::Slot_OnDeleteRow);
+    connect(newRow, &QAction::triggered, this, &VCListBoxNumeric::Slot_OnNewRow, Qt::QueuedConnection);
+    QAction* deleteRow = menu->addAction(tr("&Delete row"));
     deleteRow->setShortcut(Qt::Key_Delete);
     deleteRow->setEnabled(CanDeleteRow());
+    connect(deleteRow, &QAction::triggered, this, &VCListBoxNumeric::Slot_OnDeleteRow, Qt::QueuedConnection);
     menu->popup(viewport()->mapToGlobal(position));
 }
 
