@@ -13,8 +13,8 @@ void PanelRules::Observe(std::initializer_list<QString> keys)
 {
     for (const QString& key : keys)
     {
-        const QString path = m_binding == Binding::Parent ? m_panel.ParentPathOf(key)
-                                                          : m_panel.PathOf(key, m_binding == Binding::Raw);
+        const QString path =
+            m_binding == Binding::Parent ? m_panel.ParentPathOf(key) : m_panel.PathOf(key, m_binding == Binding::Raw);
         m_observed.emplace_back(key, &m_panel).value.Reset(m_panel.m_tree->FindValue(path));
     }
 }
