@@ -8,7 +8,7 @@
 namespace TKE
 {
 
-/// The rules of a list of numbers in rows: how it is stored, shown, read and kept in order. Numbers are in stored units
+/// The rules of a list of numbers in rows: how it is stored, shown and kept in order. Numbers are in stored units
 /// where nothing else is said; stored number = shown number x factor.
 class NumberRows
 {
