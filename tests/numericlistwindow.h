@@ -87,14 +87,6 @@ inline QString Shown(const VCListBoxNumeric* list)
     return rows.trimmed();
 }
 
-/// The actions of the menu that a click with the right button opens.
-inline QList<QAction*> OpenMenu(QAbstractItemView* list)
-{
-    emit list->customContextMenuRequested({5, 5});
-    const auto menus = list->findChildren<QMenu*>();
-    return menus.isEmpty() ? QList<QAction*>() : menus.last()->actions();
-}
-
 } // namespace NumericListTest
 
 Q_DECLARE_METATYPE(NumericListTest::Way)

@@ -444,6 +444,12 @@ private slots:
         QTest::keyClicks(edit, "16");
         window.other->setFocus();
         QCOMPARE(value->GetStoredText(), QString("2021-01-16T00:00:00"));
+        edit->setFocus();
+        edit->setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(edit, "17");
+        value->SetState(stDisabled); // which ends the edit
+        QCOMPARE(value->GetStoredText(), QString("2021-01-16T00:00:00"));
+        QCOMPARE(edit->text(), QString("16.01.2021 00:00:00"));
     }
 };
 

@@ -1,5 +1,5 @@
 #include "common.h"
-#include "jobmodel/jobmodel.h"
+#include "jobmodel/nodetemplate.h"
 
 #include <QSet>
 #include <QTemporaryDir>
@@ -133,6 +133,19 @@ private slots:
         QCOMPARE(parameter.GetValueDescriptor(3).defaultText, QString("200"));
         QCOMPARE(parameter.GetValueDescriptor(1).defaultText, QString("100"));
         QCOMPARE(parameter.GetValueDescriptor(4).defaultText, QString("210"));
+    }
+
+    void aRuleHoldsInTheDataFormToo()
+    {
+        const auto model = Read(Parameters("<Parameter name='A' kind='bool' at='W' default='true' description='d'/>"
+                                           "<Parameter name='B' kind='int' at='WD' default='1' description='d'/>"
+                                           "<Rule target='B' source='A' equals='true'/>"));
+        QVERIFY(model->GetErrors().isEmpty());
+        for (const bool dataForm : {false, true})
+        {
+            const TKE::NodeTemplate values(*model, {.groups = {"G_A"}, .dataForm = dataForm});
+            QCOMPARE(values.GetRules().size(), size_t(1));
+        }
     }
 
     void whatIsFaultyIsNamedWithItsLineAndTheRestIsUsed_data()

@@ -2,6 +2,7 @@
 #include "application/cfgcenter.h"
 #include "configuration.h"
 #include "ipcparam/parameterdlg.h"
+#include "ipcparam/sigtrackingcontroldlg.h"
 #include "ipcparam/tkeoptions.h"
 #include "keys/keymanager.h"
 #include "value/tree.h"
@@ -265,6 +266,19 @@ private Q_SLOTS:
             return panel.minimumSizeHint().height();
         };
         QCOMPARE(hint(300), hint(100) + 200);
+
+        // Also one that is derived from a panel that shares.
+        struct Extended : SigTrackingControlDlg
+        {
+            Extended() : SigTrackingControlDlg("/J/", nullptr)
+            {
+                auto* own = new QWidget;
+                own->setMinimumHeight(300);
+                Grid()->addWidget(own, 1, 0);
+            }
+        };
+        const int plain = SigTrackingControlDlg("/J/", nullptr).minimumSizeHint().height();
+        QVERIFY(Extended().minimumSizeHint().height() >= plain + 300);
     }
 
     void theJobModelDirectoryComesFromJobManagementFirst()

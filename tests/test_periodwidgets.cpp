@@ -244,7 +244,7 @@ private slots:
         QVERIFY(times.isEnabled() && inner.isEnabled());
     }
 
-    void escapeTakesBackWhatIsTyped()
+    void escapeAndTheLossOfTheValueTakeBackWhatIsTyped()
     {
         Times times("10:20", "11:30");
         Open(times);
@@ -259,6 +259,12 @@ private slots:
         QTest::keyClicks(edit, "15");
         times.stopEdit->setFocus();
         QCOMPARE(times.start->GetValue(), QString("15:20"));
+        edit->setFocus();
+        edit->setSelectedSection(QTimeEdit::HourSection);
+        QTest::keyClicks(edit, "16");
+        times.start->SetState(stDisabled);
+        QCOMPARE(times.start->GetValue(), QString("15:20"));
+        QCOMPARE(edit->text(), QString("15:20"));
     }
 
     void aPeriodMayBeDeletedByItsOwnWrite()

@@ -183,6 +183,15 @@ private slots:
         QVERIFY(!shown);
     }
 
+    void aRuleLooksOnlyWhereItsRowsDo()
+    {
+        Fill("G_DFLOCATE", basePath, Band::Hf);
+        Tree::Instance()->RemoveValue(basePath + DFLOCATE_DF_ON);
+        Tree::Instance()->CreateValue<BoolValue>(parentPath + DFLOCATE_DF_ON); // of another node, and off
+        const DFLocateDlg panel(basePath, nullptr, false);
+        QCOMPARE(ValueOf(DFLOCATE_DF_MODE)->GetState(), stEnabled);
+    }
+
     void aMemoryScanHasOneLinePerChannel()
     {
         for (const int count : {0, 3})

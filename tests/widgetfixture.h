@@ -142,4 +142,22 @@ inline void CleanUp()
     s_descriptors.clear();
 }
 
+/// The actions of the menu that a click with the right button opens.
+inline QList<QAction*> OpenMenu(QAbstractItemView* list)
+{
+    emit list->customContextMenuRequested({5, 5});
+    const auto menus = list->findChildren<QMenu*>();
+    return menus.isEmpty() ? QList<QAction*>() : menus.last()->actions();
+}
+
+/// Chooses from that menu by the key of an entry.
+inline void ChooseInMenu(QAbstractItemView* list, Qt::Key key)
+{
+    OpenMenu(list);
+    QPointer<QMenu> menu = list->findChildren<QMenu*>().last();
+    QTest::keyClick(menu, key);
+    QVERIFY(menu); // what was chosen waits until the menu is done
+    QCoreApplication::processEvents();
+}
+
 } // namespace WidgetFixture

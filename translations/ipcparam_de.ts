@@ -5771,6 +5771,10 @@ Ersetzen?</translation>
         <source>&amp;Delete row</source>
         <translation>Zeile &amp;löschen</translation>
     </message>
+    <message>
+        <source>Not taken over:</source>
+        <translation>Nicht übernommen:</translation>
+    </message>
 </context>
 <context>
     <name>TKE::VCListBoxString</name>

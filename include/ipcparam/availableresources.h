@@ -28,7 +28,7 @@ public:
     virtual bool Slot12() const;
     virtual ~AvailableResources() = default; // behind the answers, which so keep their numbers in the table of virtuals, too
 
-    /// Resource `index` (0 to ResourceCount - 1).
+    /// Resource `index` (0 to ResourceCount - 1; any other throws std::out_of_range).
     void SetResource(int index, bool available) { m_resources.at(size_t(index)) = available; }
     bool HasResource(int index) const { return m_resources.at(size_t(index)); }
     void SetCounts(int countA, int countB)

@@ -23,6 +23,10 @@ class Tree;
 /// again rebuilds the tabs: the old panels are deleted at once, so do not call it from a signal of one of their
 /// widgets, but any notification of the value tree may lead to it.
 ///
+/// A notification of the value tree may lead to the end of the host, too, but not while one of its entry points, its
+/// Update or its destructor runs: a panel may write values as it is built, and so may an editor that loses the focus
+/// with its tab. Who cannot tell calls deleteLater().
+///
 /// Item paths begin and end with "/". What a path does not find in the value tree is left out; nothing is reported. The
 /// host owns its panels and lets go of the values that it observes when it dies. GUI thread only.
 class IPCPARAM_EXPORT IPCParam : public QTabWidget, public IObserver

@@ -26,9 +26,9 @@ public:
     bool Slot11() const override;
     bool Slot12() const override;
 
-    /// Gate `number` (1 to GateCount) lets the answer of the same number through.
+    /// Gate `number` (1 to GateCount; any other throws std::out_of_range) lets the answer of the same number through.
     void SetGate(int number, bool open) { m_gates.at(size_t(number - 1)) = open; }
-    /// Switch `number` (1 to SwitchCount).
+    /// Switch `number` (1 to SwitchCount; any other throws std::out_of_range).
     void SetSwitch(int number, bool on) { m_switches.at(size_t(number - 1)) = on; }
 
 private:

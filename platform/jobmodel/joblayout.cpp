@@ -130,6 +130,8 @@ void JobLayout::DisposeLater(std::shared_ptr<JobLayout> layout)
     IdleDisposal::Add(
         [remains = std::move(layout)]
         {
+            // Who heard of a change may have deleted the job and run the event loop: the change finds no node then.
+            remains->byPath.clear();
             // A node without further ones below.
             JobNode* node = &remains->root;
             while (!node->nodes.empty() && node->nodes.back())

@@ -89,11 +89,11 @@ void NodeTemplate::AddGroup(const ParameterGroup& group, const NodeSpec& spec)
     for (const ParameterRule& rule : group.GetRules())
     {
         if (!group.FindParameter(rule.target)->IsPerChannel())
-            AddRule(rule, group, 1);
+            AddRule(rule, group, 1, spec.dataForm);
         else
         {
             for (int channel = 1; channel <= spec.count; ++channel)
-                AddRule(rule, group, channel);
+                AddRule(rule, group, channel, spec.dataForm);
         }
     }
 }
@@ -119,12 +119,12 @@ void NodeTemplate::AddParameter(const Parameter& parameter, int channel, const N
     m_byFileName.insert(quint32(m_entries.size() - 1));
 }
 
-void NodeTemplate::AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel)
+void NodeTemplate::AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel, bool dataForm)
 {
     const auto indexOf = [&](const QString& key)
     {
         const Parameter& parameter = *group.FindParameter(key);
-        return FindEntry(PathsOf(parameter, channel, false).file.toStdString());
+        return FindEntry(PathsOf(parameter, channel, dataForm).file.toStdString());
     };
     const qsizetype target = indexOf(rule.target);
     const qsizetype source = indexOf(rule.source);

@@ -83,7 +83,7 @@ private:
 
     void AddGroup(const ParameterGroup& group, const NodeSpec& spec);
     void AddParameter(const Parameter& parameter, int channel, const NodeSpec& spec);
-    void AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel);
+    void AddRule(const ParameterRule& rule, const ParameterGroup& group, int channel, bool dataForm);
     quint32 HomeOf(QStringView path, bool absolute);
 
     std::vector<Home> m_homes;

@@ -27,7 +27,7 @@ std::optional<int> PowerOfTen(double factor)
 
 bool IsWhole(const ValueBase& value)
 {
-    return value.GetKind() != ValueKind::Double;
+    return value.GetKind() == ValueKind::Int || value.GetKind() == ValueKind::Frequency;
 }
 
 // The largest number that a value of this kind holds and a double holds exactly.

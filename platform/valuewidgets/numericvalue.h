@@ -25,8 +25,8 @@ public:
     /// Decimals that show all digits of a stored number x `factor`.
     static int GetDecimals(const ValueBase& value, double factor);
 
-    /// Reads what was typed for `value`, shown = stored x `factor`, and checks it. A frequency may have a unit, which
-    /// goes before the factor. `reason` is for people.
+    /// Reads what was typed for `value`, or for an entry of a list, shown = stored x `factor`, and checks it. A
+    /// frequency may have a unit, which goes before the factor. `reason` is for people.
     static bool Read(const ValueBase& value, const QString& typed, double factor, const QLocale& locale, double& stored,
                      QString& reason);
     /// Whether `stored` lies in the range; the reason otherwise is in shown units.

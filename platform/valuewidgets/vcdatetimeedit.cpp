@@ -122,6 +122,11 @@ void VCDateTimeEdit::WriteEdit()
     ValueBase* value = GetBoundValue();
     if (!value || dateTime() == m_shown)
         return;
+    if (!isEnabled())
+    {
+        ShowContent(); // disabled while it was typed into
+        return;
+    }
     m_shown = dateTime();
     if (!value->SetStoredText(m_shown.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")), this))
         ShowContent();

@@ -1,6 +1,6 @@
 #include "framework/panelrules.h"
 
-#include "value/valueselection.h"
+#include "value/tree.h"
 
 #include <QPointer>
 #include <algorithm>
@@ -8,23 +8,14 @@
 namespace TKE
 {
 
+// Where the rows find their values, and nowhere else.
 void PanelRules::Observe(std::initializer_list<QString> keys)
 {
     for (const QString& key : keys)
     {
-        ValueObservingPtr<ValueBase>& value = m_observed.emplace_back(key, &m_panel).value;
-        switch (m_binding)
-        {
-        case Binding::Mapped:
-            m_panel.GetValuePtr(value, key);
-            break;
-        case Binding::Raw:
-            m_panel.GetValuePtr(value, m_panel.GetBasePath(), key);
-            break;
-        case Binding::Parent:
-            m_panel.GetValuePtr(value, ParameterDlg::GetParentPath(m_panel.GetBasePath()), key);
-            break;
-        }
+        const QString path =
+            m_binding == Binding::Parent ? m_panel.ParentPathOf(key) : m_panel.PathOf(key, m_binding == Binding::Raw);
+        m_observed.emplace_back(key, &m_panel).value.Reset(m_panel.m_tree->FindValue(path));
     }
 }
 

@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QStyle>
+#include <typeinfo>
 
 namespace TKE
 {
@@ -229,7 +230,8 @@ QSize ParameterDlg::CachedHint(bool minimum) const
     if (!m_sharesSizeHints)
         return measure();
     const size_t look = qHashMulti(size_t(minimum), font(), style()->objectName(), logicalDpiX(), layoutDirection());
-    const size_t key = qHashMulti(look, m_signature, objectName());
+    // By its type: a host may derive from a panel that shares and add widgets of its own.
+    const size_t key = qHashMulti(look, m_signature, typeid(*this).hash_code());
     if (!isVisible())
     {
         if (const auto found = hints.constFind(key); found != hints.constEnd())

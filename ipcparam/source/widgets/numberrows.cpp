@@ -1,7 +1,6 @@
 #include "widgets/numberrows.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace TKE
@@ -83,15 +82,9 @@ QString NumberRows::ToText(double stored, QLocale locale) const
     return text;
 }
 
-std::optional<double> NumberRows::FromText(const QString& shown) const
+double NumberRows::Rounded(double stored)
 {
-    const QByteArray utf8 = shown.trimmed().replace(u',', u'.').toUtf8();
-    const char* end = utf8.constData() + utf8.size();
-    double number = 0;
-    const auto [stop, error] = std::from_chars(utf8.constData() + utf8.startsWith('+'), end, number);
-    if (error != std::errc() || stop != end)
-        return {};
-    return std::round(number * m_factor * partsPerStoredUnit) / partsPerStoredUnit;
+    return std::round(stored * partsPerStoredUnit) / partsPerStoredUnit;
 }
 
 } // namespace TKE

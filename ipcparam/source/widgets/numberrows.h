@@ -8,7 +8,7 @@
 namespace TKE
 {
 
-/// The rules of a list of numbers in rows: how it is stored, shown, read and kept in order. Numbers are in stored units
+/// The rules of a list of numbers in rows: how it is stored, shown and kept in order. Numbers are in stored units
 /// where nothing else is said; stored number = shown number x factor.
 class NumberRows
 {
@@ -35,9 +35,9 @@ public:
     std::optional<int> Find(const Rows& rows, double number, int column) const;
 
     QString ToText(double stored, QLocale locale) const;
-    /// Both "." and "," are the decimal point. Rounded to a thousandth of a stored unit. Nothing when `shown` is no
-    /// number.
-    std::optional<double> FromText(const QString& shown) const;
+    /// To a thousandth of a stored unit.
+    static double Rounded(double stored);
+    double GetFactor() const { return m_factor; }
 
 private:
     bool HoldsRanges() const { return m_columns == 2; }

@@ -49,8 +49,12 @@ protected:
         if (!alive)
             return handled;
         this->blockSignals(blocked);
-        if (this->dateTime() != before)
+        if (this->dateTime() == before)
+            return handled;
+        if (this->isEnabled())
             Tell();
+        else
+            Show(before); // disabled while it was typed into
         return handled;
     }
 
@@ -67,9 +71,13 @@ private:
     {
         if (this->text() == this->textFromDateTime(this->dateTime()))
             return false;
-        const QSignalBlocker quiet(this);
-        this->setDateTime(this->dateTime());
+        Show(this->dateTime());
         return true;
+    }
+    void Show(const QDateTime& moment)
+    {
+        const QSignalBlocker quiet(this);
+        this->setDateTime(moment);
     }
     void Tell()
     {

@@ -1,5 +1,7 @@
 #include "widgets/vclistboxnumeric.h"
 
+#include "valuewidgets/numericvalue.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -10,9 +12,18 @@
 #include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <QTimer>
+#include <QToolTip>
 
 namespace TKE
 {
+
+namespace
+{
+
+constexpr qsizetype mostRefusedLines = 5; // that are named
+
+} // namespace
 
 // Leaves the number of an editor with the table, which stores it once the editor is closed: storing may take the table
 // down with it.
@@ -27,7 +38,7 @@ public:
         // Who only looked into a cell did not edit it: the stored number keeps the digits that are not shown.
         if (!line || !line->isModified())
             return;
-        if (const auto number = m_table.StoredNumber(line->text()))
+        if (const auto number = m_table.StoredNumber(line->text(), m_table.m_refusal))
             m_table.m_entry = Entry{index.row(), index.column(), *number};
     }
 
@@ -143,6 +154,7 @@ void VCListBoxNumeric::DiscardOpenEditor()
 void VCListBoxNumeric::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
     const std::optional<Entry> entry = std::exchange(m_entry, std::nullopt);
+    const QString refusal = std::exchange(m_refusal, {});
     QTableWidget::closeEditor(editor, QAbstractItemDelegate::NoHint);
     if (m_isLoading)
         return;
@@ -151,6 +163,8 @@ void VCListBoxNumeric::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEd
         DropPendingRow();
         return;
     }
+    if (!refusal.isEmpty())
+        Explain(refusal);
     const QPointer alive(this);
     if (entry)
         Accept(*entry);
@@ -281,12 +295,15 @@ void VCListBoxNumeric::Slot_OnMenuRequested(const QPoint& position)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* newRow = menu->addAction(tr("&New row"), this, &VCListBoxNumeric::Slot_OnNewRow);
+    // Done when the menu is closed: whoever hears of the write may delete the table, and the menu with it.
+    QAction* newRow = menu->addAction(tr("&New row"));
     newRow->setShortcut(Qt::Key_Insert);
     newRow->setEnabled(CanAddRow());
-    QAction* deleteRow = menu->addAction(tr("&Delete row"), this, &VCListBoxNumeric::Slot_OnDeleteRow);
+    connect(newRow, &QAction::triggered, this, &VCListBoxNumeric::Slot_OnNewRow, Qt::QueuedConnection);
+    QAction* deleteRow = menu->addAction(tr("&Delete row"));
     deleteRow->setShortcut(Qt::Key_Delete);
     deleteRow->setEnabled(CanDeleteRow());
+    connect(deleteRow, &QAction::triggered, this, &VCListBoxNumeric::Slot_OnDeleteRow, Qt::QueuedConnection);
     menu->popup(viewport()->mapToGlobal(position));
 }
 
@@ -363,6 +380,7 @@ void VCListBoxNumeric::PasteRows()
     static const QRegularExpression separators(QStringLiteral("[\\s;]+"));
     DropPendingRow();
     Rows rows = m_rows;
+    QStringList refused;
     const QStringList lines = QApplication::clipboard()->text().split(u'\n');
     for (const QString& line : lines)
     {
@@ -370,22 +388,36 @@ void VCListBoxNumeric::PasteRows()
         Row row;
         for (const QString& field : fields)
         {
-            if (const auto number = StoredNumber(field))
+            QString reason;
+            if (const auto number = StoredNumber(field, reason))
                 row.push_back(*number);
         }
         const bool isGood = fields.size() == columnCount() && row.size() == size_t(columnCount());
         if (isGood && int(rows.size()) < m_maxRows)
             rows.push_back(row);
+        else if (!line.trimmed().isEmpty())
+            refused.append(line.trimmed());
     }
+    if (!refused.isEmpty())
+        Explain(tr("Not taken over:") + u'\n' + refused.mid(0, mostRefusedLines).join(u'\n'));
     if (rows.size() > m_rows.size())
         WriteNormalised(rows, {int(rows.size()) - 1, 0, rows.back()[0]});
 }
 
 // Refuses what is no number or lies outside the limits.
-std::optional<double> VCListBoxNumeric::StoredNumber(const QString& shown) const
+std::optional<double> VCListBoxNumeric::StoredNumber(const QString& shown, QString& reason) const
 {
-    const std::optional<double> number = m_rules.FromText(shown);
-    return number && List() && List()->GetDescriptor().Accepts(*number) ? number : std::nullopt;
+    double stored = 0;
+    if (!List() || !NumericValue::Read(*List(), shown, 1 / m_rules.GetFactor(), locale(), stored, reason))
+        return {};
+    return NumberRows::Rounded(stored);
+}
+
+// When the focus has moved, which would take the tool tip away.
+void VCListBoxNumeric::Explain(const QString& reason)
+{
+    const QPoint place = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    QTimer::singleShot(0, this, [this, place, reason] { QToolTip::showText(place, reason, this); });
 }
 
 } // namespace TKE

@@ -16,7 +16,7 @@ namespace TKE
 /// the least number are filled up in the view with the lower limit; the fill is stored with the next edit. What is
 /// stored is shown in its order; a sorted list is brought into ascending order, without duplicates or overlaps, by the
 /// user's edits only. Every accepted edit writes the whole list; a number that cannot be read or lies outside the
-/// limits leaves the cell as it was.
+/// limits leaves the cell as it was, and a tool tip says why. See Decimal for what is understood.
 class IPCPARAM_EXPORT VCListBoxNumeric : public QTableWidget, public ValueLink
 {
     Q_OBJECT
@@ -66,7 +66,8 @@ private:
     bool CanAddRow() const;
     bool CanDeleteRow() const;
     QString ShownText(double stored) const { return m_rules.ToText(stored, locale()); }
-    std::optional<double> StoredNumber(const QString& shown) const;
+    std::optional<double> StoredNumber(const QString& shown, QString& reason) const;
+    void Explain(const QString& reason);
 
     void CommitOpenEditor();
     void DiscardOpenEditor();
@@ -89,6 +90,7 @@ private:
     std::vector<std::optional<double>> m_pending; // what it holds by now
     Rows m_rows;                                  // as shown, with the fill, without the pending row
     std::optional<Entry> m_entry;                 // what the editor that is about to close leaves behind
+    QString m_refusal;                            // or why it leaves nothing
 };
 
 } // namespace TKE

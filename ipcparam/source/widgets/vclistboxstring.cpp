@@ -131,8 +131,10 @@ void VCListBoxString::Slot_OnMenuRequested(const QPoint& position)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* setToDefault = menu->addAction(tr("Set to &Default"), this, &VCListBoxString::Slot_OnSetToDefault);
+    QAction* setToDefault = menu->addAction(tr("Set to &Default"));
     setToDefault->setEnabled(isEnabled());
+    // Done when the menu is closed: whoever hears of the write may delete the list, and the menu with it.
+    connect(setToDefault, &QAction::triggered, this, &VCListBoxString::Slot_OnSetToDefault, Qt::QueuedConnection);
     menu->popup(viewport()->mapToGlobal(position));
 }
 
