@@ -51,7 +51,8 @@ void ShorttimeProfileDlg::BuildRequiredParameters()
     rows.FloatSpin({0, 1}, nullptr, MINBURSTLENGTH, 6, QT_TR_NOOP("s"));
     rows.Unit({1, 0}, QT_TR_NOOP("Burst Length Max."));
     rows.FloatSpin({1, 1}, nullptr, MAXBURSTLENGTH, 6, QT_TR_NOOP("s"));
-    rows.CheckBox({2, 0, 1, 3}, QT_TR_NOOP("Use Hoprate for Matching"), USEHOPPINGRATE);
+    // The same in every language, as "1/s" is.
+    AddCheckBoxFromVT(grid, 2, 0, 1, 3, USEHOPPINGRATE, QStringLiteral("Use Hoprate for Matching"), false);
     rows.Unit({3, 0}, QT_TR_NOOP("Hop Rate"));
     rows.FloatSpin({3, 1}, nullptr, NOMINALHOPPINGRATE, 6);
     AddLeftLabel(grid, 3, 2, 1, 1, QStringLiteral("1/s"));
@@ -68,8 +69,8 @@ void ShorttimeProfileDlg::BuildRequiredParameters()
 
 void ShorttimeProfileDlg::BuildBandwidth()
 {
-    PanelRows(*this, *Grid(), Binding::Mapped)
-        .CheckBox({9, 0, 1, 4}, QT_TR_NOOP("Bandwidth (Min\\Nominal\\Max)"), USEBANDWIDTH);
+    // The same in every language.
+    AddCheckBoxFromVT(Grid(), 9, 0, 1, 4, USEBANDWIDTH, QStringLiteral(R"(Bandwidth (Min\Nominal\Max))"), false);
     PanelRows rows(*this, *Grid(), Binding::Raw);
     rows.LineEditFrequency({10, 0}, nullptr, MINBANDWIDTH, false);
     rows.LineEditFrequency({10, 1}, nullptr, NOMINALBANDWIDTH, false);
