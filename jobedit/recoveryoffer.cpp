@@ -23,10 +23,17 @@ namespace
 
 constexpr int correctionRounds = 3;
 
+/// The journal belongs to the document, which outlives the window when the language changes.
+RecoveryJournal* JournalOf(JobDocument& document)
+{
+    auto* journal = document.findChild<RecoveryJournal*>();
+    return journal ? journal : new RecoveryJournal(document, &document);
+}
+
 } // namespace
 
 RecoveryOffer::RecoveryOffer(MainWindow& window)
-    : QObject(&window), m_window(window), m_journal(new RecoveryJournal(window.Document(), this))
+    : QObject(&window), m_window(window), m_journal(JournalOf(window.Document()))
 {
 }
 

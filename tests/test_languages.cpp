@@ -2,6 +2,8 @@
 #include "jobedit/editor.h"
 #include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
+#include "jobedit/recoveryfile.h"
+#include "jobedit/recoveryjournal.h"
 #include "jobedit/valuetexts.h"
 
 #include <QLockFile>
@@ -128,6 +130,20 @@ private Q_SLOTS:
         QVERIFY(!Window().isWindowModified());
         QVERIFY(Window().NewFromSample());
         QCOMPARE(Window().Nodes().GetNodes().size(), size_t(99));
+    }
+
+    void editsOfBeforeAndAfterAreKeptForRecovery()
+    {
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040000"));
+        Choose("Deutsch");
+        QVERIFY(Tree::Instance()->FindValue(tunerPath + Keys::TUNER_HF_NB_MGCVALUE)->SetStoredText("20"));
+        auto* journal = Window().Document().findChild<RecoveryJournal*>();
+        QVERIFY(journal);
+        journal->Flush();
+        const RecoveryFile kept = RecoveryFile::Read(journal->GetFileName());
+        QVERIFY(kept.base && kept.base->file == File("a.job.xml"));
+        QCOMPARE(kept.changes.size(), size_t(2));
     }
 
     void theNewWindowShowsWhatTheOldOneShowed()
