@@ -127,6 +127,7 @@ void MainWindow::TakeView(MainWindow& other)
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text()); // it may hide that place
     for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
         panel->MakeAgain(this);
+    m_compare->TakeView(*other.m_compare);
     m_viewActions->FocusPane(other.m_viewActions->CurrentPane());
 }
 

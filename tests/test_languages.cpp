@@ -1,4 +1,6 @@
 #include "editorfixture.h"
+#include "jobedit/compareactions.h"
+#include "jobedit/differencemodel.h"
 #include "jobedit/editor.h"
 #include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
@@ -172,6 +174,38 @@ private Q_SLOTS:
         const auto panels = Window().findChildren<PanelWindow*>();
         QCOMPARE(panels.size(), 1);
         QVERIFY(panels.first()->isVisible());
+    }
+
+    void anOpenComparisonStaysWithItsTicksAndItsSides()
+    {
+        const QString voiceFrequency = EditorTest::voicePath + Keys::TUNER_HF_NB_FREQUENCY;
+        QVERIFY(Tree::Instance()->FindValue(voiceFrequency)->SetStoredText("7040000"));
+        QVERIFY(Tree::Instance()->FindValue(EditorTest::voicePath + Keys::TUNER_HF_NB_MGCVALUE)->SetStoredText("20"));
+        QPointer<CompareDialog> dialog = Window().Comparing().CompareChains(tunerPath, EditorTest::voicePath);
+        dialog->findChild<QPushButton*>("swap")->click();
+        dialog->findChild<QLineEdit*>("differenceFilter")->setText("FREQUENCY");
+        dialog->findChild<QPushButton*>("tickAll")->click();
+        Choose("Deutsch");
+        QTRY_VERIFY(!dialog);
+        dialog = Window().findChild<CompareDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        QCOMPARE(dialog->windowTitle(), "Ketten vergleichen");
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole), "CS_VOICE/VOICE");
+        QCOMPARE(dialog->Model().rowCount(), 2);
+        dialog->findChild<QPushButton*>("takeOver")->click();
+        QCOMPARE(Tree::Instance()->FindValue(voiceFrequency)->GetStoredText(), QStringLiteral("10000000"));
+        QCOMPARE(dialog->Model().rowCount(), 1);
+        // One with a file keeps the other job, and knows when the file is another one.
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        dialog = Window().Comparing().CompareWithSaved();
+        Choose("English");
+        dialog = Window().findChild<CompareDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        QVERIFY(Tree::Instance()->FindValue(voiceFrequency)->SetStoredText("7050000"));
+        dialog->Activate();
+        QTRY_COMPARE(dialog->Model().rowCount(), 1);
+        QVERIFY(Window().Save());
+        QTRY_VERIFY(!dialog);
     }
 
     /// A text that was translated once and for all would stay in the language of the first time.
