@@ -78,6 +78,7 @@ private Q_SLOTS:
         row("render without a directory", {"render"}, 2, "--out");
         row("unknown entry", {"render", "--out", "d", "--entry", "X"}, 2, "VoiceDDCDlg");
         row("unknown form", {"render", "--out", "d", "--form", "round"}, 2, "standalone");
+        row("pictures of the guide, of a file", {"render", "--guide", "--out", "d", "good.job.xml"}, 2, "--guide");
         row("unknown language", {"--language", "12"}, 2, "12");
         row("option of another command", {"check", "x", "--out", "d"}, 2, "render");
         row("two jobs at once", {"a", "b"}, 2, "2");
