@@ -128,6 +128,8 @@ void MainWindow::TakeView(MainWindow& other)
     for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
         panel->MakeAgain(this);
     m_compare->TakeView(*other.m_compare);
+    if (other.findChild<GuideWindow*>())
+        GuideWindow::Open(this);
     m_viewActions->FocusPane(other.m_viewActions->CurrentPane());
 }
 

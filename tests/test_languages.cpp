@@ -2,6 +2,7 @@
 #include "jobedit/compareactions.h"
 #include "jobedit/differencemodel.h"
 #include "jobedit/editor.h"
+#include "jobedit/guidewindow.h"
 #include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
 #include "jobedit/recoveryfile.h"
@@ -161,6 +162,7 @@ private Q_SLOTS:
         Window().Nodes().Filter()->setText("FULL");
         Window().Messages().Add(Severity::Error, "kept");
         Window().Messages().setFocus();
+        GuideWindow::Open(&Window());
         const JobNode profile = nodeOf("SHORTTIMEPROFILE");
         (new PanelWindow(profile, *FindDirectPanels(profile).front(), &Window()))->show();
         Choose("Deutsch");
@@ -174,6 +176,7 @@ private Q_SLOTS:
         const auto panels = Window().findChildren<PanelWindow*>();
         QCOMPARE(panels.size(), 1);
         QVERIFY(panels.first()->isVisible());
+        QVERIFY(Window().findChild<GuideWindow*>());
     }
 
     void anOpenComparisonStaysWithItsTicksAndItsSides()
