@@ -72,19 +72,19 @@ CompareDialog* CompareActions::CompareWithSaved()
     const auto other = fileName.isEmpty() ? nullptr : Load(fileName);
     if (!other)
         return nullptr;
-    return Compare(
-        {{{}, {}, other->Source()},
-         other,
-         [fileName](const CompareSides&)
-         {
-             return CompareTexts{.title = tr("Compare with Saved"),
-                                 .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
-                                 .leftName = tr("Open job"),
-                                 .rightName = tr("Saved"),
-                                 .takeOver = tr("&Take Back to Saved"),
-                                 .close = tr("&Close")};
-         },
-         true});
+    return Compare({{{}, {}, other->Source()},
+                    other,
+                    [fileName](const CompareSides&)
+                    {
+                        return CompareTexts{
+                            .title = tr("Compare with Saved"),
+                            .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
+                            .leftName = tr("Open job"),
+                            .rightName = tr("Saved"),
+                            .takeOver = tr("&Take Back to Saved"),
+                            .close = tr("&Close")};
+                    },
+                    true});
 }
 
 CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QString& rightPath)
@@ -120,17 +120,17 @@ CompareDialog* CompareActions::CompareWithDisk(bool evenIfSame)
                     {
                         return CompareTexts{
                             .title = tr("File Changed by Somebody Else"),
-                            .heading =
-                                tr("%1 was changed by somebody else since it was opened. Take over what is to "
-                                   "come into the open job; what is not taken over stays as it is here, and "
-                                   "saving overwrites the file without asking again.")
-                                    .arg(fileName),
+                            .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
+                                          "come into the open job; what is not taken over stays as it is here, and "
+                                          "saving overwrites the file without asking again.")
+                                           .arg(fileName),
                             .leftName = tr("Mine (open job)"),
                             .rightName = tr("Theirs (file)"),
                             .takeOver = tr("&Take Over Theirs"),
                             .close = tr("&Keep Mine")};
                     },
-                    true, m_told},
+                    true,
+                    m_told},
                    !m_window.Document().IsModified(), evenIfSame);
 }
 

@@ -163,8 +163,8 @@ bool RecoveryOffer::Restore(const RecoveryFile& edits)
     QStringList failures;
     if (!Apply(edits, failures))
     {
-        m_window.statusBar()->showMessage(
-            MainWindow::tr("%1: cancelled, nothing has changed").arg(tr("Recover Edits")), 5000);
+        m_window.statusBar()->showMessage(MainWindow::tr("%1: cancelled, nothing has changed").arg(tr("Recover Edits")),
+                                          5000);
         return false;
     }
     MessageList& messages = m_window.Messages();

@@ -27,8 +27,9 @@ int RunRender(Call& call)
             Commands::tr("--guide shows the sample job, and takes neither FILE nor --entry nor --form."));
 
     if (call.Has("guide"))
-        return MakeGuidePictures(JobDocument::ConfiguredModel(), call.GetValue("out"), call.Out(), call.Errors()) ? esGood
-                                                                                                                  : esFinding;
+        return MakeGuidePictures(JobDocument::ConfiguredModel(), call.GetValue("out"), call.Out(), call.Errors())
+                   ? esGood
+                   : esFinding;
     JobDocument document(JobDocument::ConfiguredModel());
     if (!OpenForReading(document, call.GetArgument(0), call))
         return esFinding;

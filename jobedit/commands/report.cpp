@@ -38,7 +38,8 @@ Command MakeReport()
     return {.name = "report",
             .arguments = "FILE",
             .summary = Commands::tr("writes the job as a document, HTML or PDF"),
-            .help = Commands::tr("One table per node with labels, values and units. What differs from its default is marked."),
+            .help = Commands::tr(
+                "One table per node with labels, values and units. What differs from its default is marked."),
             .fewest = 1,
             .most = 1,
             .draws = true,
