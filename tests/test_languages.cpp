@@ -192,8 +192,9 @@ private Q_SLOTS:
         QTRY_VERIFY(!dialog);
         dialog = Window().findChild<CompareDialog*>();
         QVERIFY(dialog && dialog->isVisible());
-        QCOMPARE(dialog->windowTitle(), "Ketten vergleichen");
-        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole), "CS_VOICE/VOICE");
+        QCOMPARE(dialog->windowTitle(), QString("Ketten vergleichen"));
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole),
+                 QString("CS_VOICE/VOICE"));
         QCOMPARE(dialog->Model().rowCount(), 2);
         dialog->findChild<QPushButton*>("takeOver")->click();
         QCOMPARE(Tree::Instance()->FindValue(voiceFrequency)->GetStoredText(), QStringLiteral("10000000"));
