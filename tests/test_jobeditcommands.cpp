@@ -316,6 +316,11 @@ private Q_SLOTS:
         const QStringList nodes{"diff", File("a.xml"), File("b.xml"), "--node", "TDS_HF1", "--with"};
         QCOMPARE(RunProgram(nodes + QStringList{"TDS_HF1_2"}).status, 0);
         QCOMPARE(RunProgram(nodes + QStringList{"TDS_HFWB"}).status, 1);
+        // What a node is of counts, too.
+        WriteAll(File("c.xml"), ReadAll(File("a.xml")).replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""));
+        const Outcome types = RunProgram({"diff", File("a.xml"), File("c.xml")});
+        QCOMPARE(types.status, 1);
+        QCOMPARE(types.out, QString("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER\tIPC_TUNER_HF\tIPC_OTHER\n"));
     }
 
     void aLargeJobHasWhatWasPlanned()
