@@ -1,7 +1,6 @@
 #include "checker.h"
 
 #include "fieldtexts.h"
-#include "jobmodel/jobfile.h"
 
 #include <QDate>
 #include <QTime>
@@ -167,12 +166,21 @@ void Checker::CheckBelow(const TKE::Node& node, std::vector<Finding>& findings) 
         CheckBelow(*below, findings);
 }
 
-TKE::FileErrors Checker::CheckFile(const QString& fileName, const std::shared_ptr<const TKE::JobModel>& model)
+TKE::FileErrors Checker::CheckFile(const QString& fileName, const std::shared_ptr<const TKE::JobModel>& model,
+                                   const TKE::JobFile::Progress& progress)
 {
-    TKE::FileErrors errors = TKE::JobFile::Check(fileName, model);
+    // It is read twice.
+    const auto half = [&](int number) -> TKE::JobFile::Progress
+    {
+        if (!progress)
+            return {};
+        return [&progress, number](qint64 done, qint64 all) { return progress(done + number * all, 2 * all); };
+    };
+    TKE::FileErrors errors = TKE::JobFile::Check(fileName, model, half(0));
     TKE::Tree tree;
     TKE::JobFile file(tree);
     file.SetModel(model);
+    file.SetProgress(half(1));
     if (std::ranges::any_of(errors, &TKE::FileError::IsError) || !file.Load(fileName))
         return errors;
     for (const Finding& finding : Checker(tree, *model).CheckValues())

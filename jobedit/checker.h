@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jobmodel/jobmodel.h"
+#include "jobmodel/jobfile.h"
 #include "value/tree.h"
 
 #include <QCoreApplication>
@@ -35,7 +35,8 @@ public:
     std::vector<Finding> CheckValues() const;
 
     /// What is wrong with a job file: its form and, where that has no error, its values. Touches no tree in use.
-    static TKE::FileErrors CheckFile(const QString& fileName, const std::shared_ptr<const TKE::JobModel>& model);
+    static TKE::FileErrors CheckFile(const QString& fileName, const std::shared_ptr<const TKE::JobModel>& model,
+                                     const TKE::JobFile::Progress& progress = {});
 
 private:
     struct ListShape

@@ -19,6 +19,20 @@
 namespace JOBEDIT
 {
 
+namespace
+{
+
+/// Of the nearest node that stands above both.
+QString CommonPath(const QString& left, const QString& right)
+{
+    QString above = ParentPath(left);
+    while (!above.isEmpty() && (right == above || !right.startsWith(above)))
+        above = ParentPath(above);
+    return above;
+}
+
+} // namespace
+
 CompareActions::CompareActions(MainWindow& window) : QObject(&window), m_window(window)
 {
     QMenu* menu = window.ToolsMenu();
@@ -38,14 +52,18 @@ CompareDialog* CompareActions::CompareWithFile(const QString& fileName)
     const auto other = Load(fileName);
     if (!other)
         return nullptr;
-    const QString name = QFileInfo(fileName).fileName();
-    return Show({{}, {}, other->Source()}, other,
-                {.title = tr("Compare with %1").arg(name),
-                 .heading = tr("The open job at the left, %1 at the right.").arg(fileName),
-                 .leftName = tr("Open job"),
-                 .rightName = name,
-                 .takeOver = tr("&Take Over from File"),
-                 .close = tr("&Close")});
+    return Compare({{{}, {}, other->Source()},
+                    other,
+                    [fileName](const CompareSides&)
+                    {
+                        const QString name = QFileInfo(fileName).fileName();
+                        return CompareTexts{.title = tr("Compare with %1").arg(name),
+                                            .heading = tr("The open job at the left, %1 at the right.").arg(fileName),
+                                            .leftName = tr("Open job"),
+                                            .rightName = name,
+                                            .takeOver = tr("&Take Over from File"),
+                                            .close = tr("&Close")};
+                    }});
 }
 
 CompareDialog* CompareActions::CompareWithSaved()
@@ -54,15 +72,19 @@ CompareDialog* CompareActions::CompareWithSaved()
     const auto other = fileName.isEmpty() ? nullptr : Load(fileName);
     if (!other)
         return nullptr;
-    CompareDialog* dialog = Show({{}, {}, other->Source()}, other,
-                                 {.title = tr("Compare with Saved"),
-                                  .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
-                                  .leftName = tr("Open job"),
-                                  .rightName = tr("Saved"),
-                                  .takeOver = tr("&Take Back to Saved"),
-                                  .close = tr("&Close")});
-    CloseWhenSaved(dialog);
-    return dialog;
+    return Compare({{{}, {}, other->Source()},
+                    other,
+                    [fileName](const CompareSides&)
+                    {
+                        return CompareTexts{
+                            .title = tr("Compare with Saved"),
+                            .heading = tr("The open job at the left, what %1 holds at the right.").arg(fileName),
+                            .leftName = tr("Open job"),
+                            .rightName = tr("Saved"),
+                            .takeOver = tr("&Take Back to Saved"),
+                            .close = tr("&Close")};
+                    },
+                    true});
 }
 
 CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QString& rightPath)
@@ -70,14 +92,19 @@ CompareDialog* CompareActions::CompareChains(const QString& leftPath, const QStr
     JobDocument& document = m_window.Document();
     const NodeSource open{*TKE::Tree::Instance(),
                           [&document](const QString& path) { return document.File().FindNodeSpec(path); }};
-    return Show({leftPath, rightPath, open}, nullptr,
-                {.title = tr("Compare Chains"),
-                 .heading = tr("Two chains of the open job; the left one takes over."),
-                 .leftName = leftPath,
-                 .rightName = rightPath,
-                 .takeOver = tr("&Take Over from the Right"),
-                 .close = tr("&Close"),
-                 .canSwap = true});
+    return Compare({{leftPath, rightPath, open},
+                    nullptr,
+                    [](const CompareSides& sides)
+                    {
+                        const QString above = CommonPath(sides.leftBase, sides.rightBase);
+                        return CompareTexts{.title = tr("Compare Chains"),
+                                            .heading = tr("Two chains below %1; the left one takes over.").arg(above),
+                                            .leftName = sides.leftBase.mid(above.size()).chopped(1),
+                                            .rightName = sides.rightBase.mid(above.size()).chopped(1),
+                                            .takeOver = tr("&Take Over from the Right"),
+                                            .close = tr("&Close"),
+                                            .canSwap = true};
+                    }});
 }
 
 CompareDialog* CompareActions::CompareWithDisk(bool evenIfSame)
@@ -87,24 +114,38 @@ CompareDialog* CompareActions::CompareWithDisk(bool evenIfSame)
     const auto other = Load(fileName);
     if (!other)
         return nullptr;
-    const Stamp stamp = m_told;
-    CompareDialog* dialog =
-        Show({{}, {}, other->Source()}, other,
-             {.title = tr("File Changed by Somebody Else"),
-              .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
-                            "come into the open job; what is not taken over stays as it is here, and "
-                            "saving overwrites the file without asking again.")
-                             .arg(fileName),
-              .leftName = tr("Mine (open job)"),
-              .rightName = tr("Theirs (file)"),
-              .takeOver = tr("&Take Over Theirs"),
-              .close = tr("&Keep Mine")},
-             !m_window.Document().IsModified(), evenIfSame);
-    // Closed otherwise than by the button, nothing is decided, and saving asks.
-    if (dialog)
-        connect(dialog, &QDialog::accepted, this, [this, stamp] { m_settled = stamp; });
-    CloseWhenSaved(dialog);
-    return dialog;
+    return Compare({{{}, {}, other->Source()},
+                    other,
+                    [fileName](const CompareSides&)
+                    {
+                        return CompareTexts{
+                            .title = tr("File Changed by Somebody Else"),
+                            .heading = tr("%1 was changed by somebody else since it was opened. Take over what is to "
+                                          "come into the open job; what is not taken over stays as it is here, and "
+                                          "saving overwrites the file without asking again.")
+                                           .arg(fileName),
+                            .leftName = tr("Mine (open job)"),
+                            .rightName = tr("Theirs (file)"),
+                            .takeOver = tr("&Take Over Theirs"),
+                            .close = tr("&Keep Mine")};
+                    },
+                    true,
+                    m_told},
+                   !m_window.Document().IsModified(), evenIfSame);
+}
+
+void CompareActions::TakeView(CompareActions& other)
+{
+    m_told = other.m_told;
+    m_settled = other.m_settled;
+    if (!other.m_open || !other.m_comparison)
+        return;
+    Comparison comparison = *other.m_comparison;
+    comparison.sides.leftBase = other.m_open->GetSides().leftBase; // they may have been swapped
+    comparison.sides.rightBase = other.m_open->GetSides().rightBase;
+    CompareDialog* dialog = Make(comparison);
+    dialog->TakeView(*other.m_open);
+    Show(dialog, comparison);
 }
 
 bool CompareActions::eventFilter(QObject* watched, QEvent* event)
@@ -196,34 +237,49 @@ void CompareActions::GoTo(const QString& path)
         m_open->KeepOff({focus->mapToGlobal(QPoint()), focus->size()});
 }
 
-// The file, which it was compared with, is another one then.
-void CompareActions::CloseWhenSaved(CompareDialog* dialog)
+CompareDialog* CompareActions::Make(const Comparison& comparison)
 {
-    if (dialog)
-        connect(&m_window.Document(), &JobDocument::Saved, dialog, &QWidget::close);
-}
-
-CompareDialog* CompareActions::Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
-                                    bool ticked, bool evenIfSame)
-{
-    auto* dialog = new CompareDialog(m_window.Document(), std::move(sides), std::move(holder), texts, &m_window);
+    auto* dialog = new CompareDialog(m_window.Document(), comparison.sides, comparison.holder,
+                                     comparison.texts(comparison.sides), &m_window);
     connect(dialog, &CompareDialog::Refused, this,
             [this](const QString& path, const QString& reason)
             { m_window.Messages().Add(TKE::Severity::Warning, tr("%1 was not taken over").arg(path), reason); });
+    connect(dialog, &CompareDialog::Wanted, this, &CompareActions::GoTo);
+    // Closed otherwise than by the button, nothing is decided, and saving asks.
+    if (comparison.settles != Stamp())
+        connect(dialog, &QDialog::accepted, this, [this, stamp = comparison.settles] { m_settled = stamp; });
+    if (comparison.isOfOpenFile)
+        connect(&m_window.Document(), &JobDocument::Saved, dialog, &QWidget::close);
+    return dialog;
+}
+
+CompareDialog* CompareActions::Compare(const Comparison& comparison, bool ticked, bool evenIfSame)
+{
+    CompareDialog* dialog = Make(comparison);
     const bool compared = dialog->Compare(ticked);
     if (!compared || (!evenIfSame && dialog->Model().rowCount() == 0))
     {
         delete dialog;
         return nullptr;
     }
+    Show(dialog, comparison);
+    return dialog;
+}
+
+void CompareActions::Show(CompareDialog* dialog, const Comparison& comparison)
+{
     if (m_open)
         m_open->close();
     m_open = dialog;
+    m_comparison.emplace(comparison);
     m_toDifferences->setEnabled(true);
-    connect(dialog, &QDialog::finished, m_toDifferences, [action = m_toDifferences] { action->setEnabled(false); });
-    connect(dialog, &CompareDialog::Wanted, this, &CompareActions::GoTo);
+    connect(dialog, &QDialog::finished, this,
+            [this]
+            {
+                m_comparison.reset();
+                m_toDifferences->setEnabled(false);
+            });
     dialog->show();
-    return dialog;
 }
 
 } // namespace JOBEDIT

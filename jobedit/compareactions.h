@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QPointer>
+#include <optional>
 
 namespace JOBEDIT
 {
@@ -32,6 +33,9 @@ public:
     /// The user knows of the file's present content: it is not told of on its own.
     void NoteDisk() { m_told = DiskStamp(); }
 
+    /// Shows the comparison that is open in the window that `other` belongs to, in the language of now.
+    void TakeView(CompareActions& other);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -43,20 +47,30 @@ private:
         QDateTime changed;
         bool operator==(const Stamp&) const = default;
     };
+    /// What a comparison is made of, to make its window once more.
+    struct Comparison
+    {
+        CompareSides sides;
+        std::shared_ptr<const void> holder; ///< of the right side
+        std::function<CompareTexts(const CompareSides& sides)> texts;
+        bool isOfOpenFile = false; ///< which saving replaces
+        Stamp settles{};           ///< the content on disk that the closing button decides about
+    };
     Stamp DiskStamp() const;
     void LookAtDisk();
     void Slot_OnCompareWithFile();
     void Slot_OnCompareChains();
     std::shared_ptr<OtherJob> Load(const QString& fileName);
     void GoTo(const QString& path);
-    void CloseWhenSaved(CompareDialog* dialog);
-    CompareDialog* Show(CompareSides sides, std::shared_ptr<const void> holder, const CompareTexts& texts,
-                        bool ticked = false, bool evenIfSame = true);
+    CompareDialog* Make(const Comparison& comparison);
+    CompareDialog* Compare(const Comparison& comparison, bool ticked = false, bool evenIfSame = true);
+    void Show(CompareDialog* dialog, const Comparison& comparison);
 
     MainWindow& m_window;
     QAction* m_withSaved;
     QAction* m_toDifferences;
     QPointer<CompareDialog> m_open;
+    std::optional<Comparison> m_comparison; // that is open
     Stamp m_told;
     Stamp m_settled;
 };

@@ -69,6 +69,19 @@ bool CompareDialog::Compare(bool ticked)
     return true;
 }
 
+void CompareDialog::TakeView(CompareDialog& other)
+{
+    const int current = other.m_view->currentIndex().row();
+    m_model->TakeFrom(*other.m_model);
+    m_filter->setText(other.m_filter->text());
+    m_view->header()->restoreState(other.m_view->header()->saveState());
+    m_view->setCurrentIndex(m_filtered->index(current, 0));
+    m_view->setFocus();
+    restoreGeometry(other.saveGeometry());
+    if (other.m_outdated)
+        Outdate();
+}
+
 bool CompareDialog::Fill(bool ticked)
 {
     std::vector<Difference> differences;
@@ -114,6 +127,7 @@ void CompareDialog::MakeLayout(const CompareTexts& texts)
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->header()->setStretchLastSection(true);
+    m_view->header()->setTextElideMode(Qt::ElideMiddle);
     m_view->setColumnHidden(DifferenceModel::Reason, true);
     AddWays(texts.canSwap);
 

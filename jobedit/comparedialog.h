@@ -45,6 +45,9 @@ public:
 
     /// Compares; false when the user cancelled it. Ticks all when asked to.
     bool Compare(bool ticked);
+    /// Shows what `other`, which compares the same and goes, shows: differences, ticks, place.
+    void TakeView(CompareDialog& other);
+    const CompareSides& GetSides() const { return m_sides; }
     DifferenceModel& Model() { return *m_model; }
     /// Brings the list to the front, with the keyboard.
     void Activate();

@@ -37,7 +37,7 @@ public:
 
 signals:
     void FormChanged();
-    /// Another dialog is shown, or none.
+    /// Another dialog is shown.
     void DialogChanged();
 
 private:

@@ -17,6 +17,18 @@ void DifferenceModel::SetDifferences(std::vector<Difference> differences, bool t
     emit Ticked();
 }
 
+void DifferenceModel::TakeFrom(DifferenceModel& other)
+{
+    beginResetModel();
+    other.beginResetModel();
+    m_differences = std::exchange(other.m_differences, {});
+    m_ticked = std::exchange(other.m_ticked, {});
+    m_refusals = std::exchange(other.m_refusals, {});
+    other.endResetModel();
+    endResetModel();
+    emit Ticked();
+}
+
 void DifferenceModel::SwapNames()
 {
     std::swap(m_leftName, m_rightName);
@@ -43,7 +55,9 @@ void DifferenceModel::Tick(const QModelIndexList& rows, bool on)
 
 QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    // A name that is cut stands in the tool tip.
+    const bool isTip = role == Qt::ToolTipRole && (section == Left || section == Right);
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && !isTip))
         return {};
     switch (section)
     {

@@ -30,6 +30,8 @@ public:
 
     /// All are ticked or none is.
     void SetDifferences(std::vector<Difference> differences, bool ticked);
+    /// Moves the rows of `other` here, with their ticks.
+    void TakeFrom(DifferenceModel& other);
     const std::vector<Difference>& GetDifferences() const { return m_differences; }
     void SwapNames();
     void SetRefusals(const std::vector<Refusal>& refusals);

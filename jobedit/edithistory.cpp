@@ -48,7 +48,11 @@ EditHistory::Step::~Step()
     const auto& steps = m_history.m_steps;
     // One without changes has left no trace.
     if (m_history.m_isCancelled && !steps.empty() && steps.back().number == number)
+    {
         m_history.Undo();
+        m_history.m_steps.pop_back(); // nobody wants half of it again
+        emit m_history.Changed();
+    }
     m_history.m_isCancelled = false;
 }
 

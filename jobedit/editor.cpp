@@ -4,6 +4,7 @@
 #include "languages.h"
 #include "longwork.h"
 
+#include <QApplication>
 #include <QTimer>
 
 namespace JOBEDIT
@@ -18,7 +19,8 @@ Editor::~Editor() = default;
 
 void Editor::SetLanguage(const QString& language)
 {
-    if (LongWork::IsUnderWay()) // which goes on in the window that there is
+    // These go on in the window that there is.
+    if (LongWork::IsUnderWay() || QApplication::activeModalWidget())
         return QTimer::singleShot(50, this, [this, language] { SetLanguage(language); });
     CommitPendingEdit();
     Languages::Keep(language);

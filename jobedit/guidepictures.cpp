@@ -64,7 +64,8 @@ public:
     bool Sit()
     {
         m_window.show();
-        return Check(m_window.NewFromSample(), tr("The sample job could not be made.")) &&
+        return Check(QDir().mkpath(m_directory), tr("%1 could not be made.").arg(m_directory)) &&
+               Check(m_window.NewFromSample(), tr("The sample job could not be made.")) &&
                Check(m_window.Nodes().SelectNode(tunerPath), tr("The sample job has no %1.").arg(tunerPath)) &&
                Take("window", m_window) && TakePlan() && TakeFind() && TakeChanges() && TakeCheck() &&
                TakeCompare();

@@ -145,6 +145,9 @@ void MainWindow::TakeView(MainWindow& other)
     m_nodes->Filter()->setText(other.m_nodes->Filter()->text()); // it may hide that place
     for (const PanelWindow* panel : other.findChildren<PanelWindow*>())
         panel->MakeAgain(this);
+    m_compare->TakeView(*other.m_compare);
+    if (other.findChild<GuideWindow*>())
+        GuideWindow::Open(this);
     m_viewActions->FocusPane(other.m_viewActions->CurrentPane());
 }
 

@@ -37,7 +37,7 @@ public:
 
     /// For the window that comes after this one: the document outlives this window then.
     std::unique_ptr<JobDocument> TakeDocument();
-    /// Shows what `other`, whose document this window has taken over, shows: place, messages, panes.
+    /// Shows what `other`, whose document this window has taken over, shows: place, messages, panes, the comparison.
     void TakeView(MainWindow& other);
 
     // All return whether it was done: not when the user cancelled, nor when it failed, which the user has been told

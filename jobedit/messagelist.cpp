@@ -54,7 +54,8 @@ void MessageList::Add(TKE::Severity severity, const QString& text, const QString
     item->setToolTip(line);
     while (count() > maximumCount)
         delete takeItem(0);
-    scrollToItem(item);
+    // Once for many: each time all would be laid out.
+    QMetaObject::invokeMethod(this, &MessageList::scrollToBottom, Qt::QueuedConnection);
 }
 
 void MessageList::TakeFrom(MessageList& other)

@@ -2,6 +2,7 @@
 
 #include "addnodedialog.h"
 #include "dialogpane.h"
+#include "longact.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "namedialog.h"
@@ -92,18 +93,27 @@ void NodeActions::Remove()
             paths << node.path;
     if (paths.isEmpty())
         return;
-    const auto& nodes = m_window.Nodes().GetNodes();
-    const auto count = std::ranges::count_if(
-        nodes, [&](const JobNode& node)
-        { return std::ranges::any_of(paths, [&](const QString& path) { return node.path.startsWith(path); }); });
+    qsizetype count = 0;
+    qsizetype reached = 0; // of the paths, which stand in the order of the nodes
+    for (const JobNode& node : m_window.Nodes().GetNodes())
+    {
+        reached += reached < paths.size() && node.path == paths[reached];
+        count += reached > 0 && node.path.startsWith(paths[reached - 1]);
+    }
     // A key hit by chance must not take a section away.
     if (count > 1 &&
         QMessageBox::question(&m_window, tr("Remove"), tr("Remove %1 nodes with all their parameters?").arg(count)) !=
             QMessageBox::Yes)
         return;
-    const EditHistory::Step step(m_window.Document().History(), {});
+    EditHistory& history = m_window.Document().History();
+    LongAct work(tr("Remove"), &m_window, history);
+    const EditHistory::Step step(history, {});
+    qint64 done = 0;
     for (const QString& path : paths)
     {
+        if (!history.MayGoOn(done++, paths.size()))
+            return m_window.statusBar()->showMessage(
+                MainWindow::tr("%1: cancelled, nothing has changed").arg(tr("Remove")), 8000);
         QString reason;
         if (m_window.Document().RemoveNode(path, &reason))
             m_window.statusBar()->showMessage(tr("%1 removed").arg(path), 8000);

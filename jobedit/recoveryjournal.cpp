@@ -231,7 +231,8 @@ bool RecoveryJournal::Open()
     m_base.begun = QDateTime::currentDateTime().toString(Qt::ISODate);
     // Twice, since all depends on it.
     const QByteArray base = RecoveryFile::LineOf(m_base) + RecoveryFile::LineOf(m_base);
-    return m_lock && m_file->open(QIODevice::WriteOnly | QIODevice::NewOnly) && m_file->write(base) == base.size();
+    // Opened in any case: it says why, where the lock cannot be made either.
+    return m_file->open(QIODevice::WriteOnly | QIODevice::NewOnly) && m_lock && m_file->write(base) == base.size();
 }
 
 void RecoveryJournal::WriteSome()

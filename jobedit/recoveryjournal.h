@@ -51,7 +51,6 @@ private:
     void Slot_OnUndone(const EditStep& step);
     void Slot_OnRedone(const EditStep& step);
     void Keep(RecoveryChange change);
-    void KeepForth(const EditStep& step);
     void KeepBack(const EditStep& step);
     void KeepNode(qint64 step, const QString& path);
     bool Open();

@@ -1,6 +1,6 @@
 #include "recoveryoffer.h"
 
-#include "edithistory.h"
+#include "longact.h"
 #include "mainwindow.h"
 #include "messagelist.h"
 #include "recoveryjournal.h"
@@ -10,10 +10,11 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QLockFile>
+#include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QSet>
+#include <QStatusBar>
 
 namespace JOBEDIT
 {
@@ -23,10 +24,29 @@ namespace
 
 constexpr int correctionRounds = 3;
 
+/// The journal belongs to the document, which outlives the window when the language changes.
+RecoveryJournal* JournalOf(JobDocument& document)
+{
+    auto* journal = document.findChild<RecoveryJournal*>();
+    return journal ? journal : new RecoveryJournal(document, &document);
+}
+
+/// Contents by path.
+using KeptContents = QMap<QString, QString>;
+
+KeptContents TakeBelow(KeptContents& contents, const QString& path)
+{
+    KeptContents taken;
+    for (auto each = contents.lowerBound(path); each != contents.end() && each.key().startsWith(path);
+         each = contents.erase(each))
+        taken.insert(each.key(), each.value());
+    return taken;
+}
+
 } // namespace
 
 RecoveryOffer::RecoveryOffer(MainWindow& window)
-    : QObject(&window), m_window(window), m_journal(new RecoveryJournal(window.Document(), this))
+    : QObject(&window), m_window(window), m_journal(JournalOf(window.Document()))
 {
 }
 
@@ -140,7 +160,13 @@ bool RecoveryOffer::Restore(const RecoveryFile& edits)
         !file.isEmpty() && QFileInfo(document.GetFileName()) == QFileInfo(file) && !document.IsModified();
     if (!isOpen && !(file.isEmpty() ? m_window.NewFromSample() : m_window.OpenFile(file)))
         return false;
-    const QStringList failures = Apply(edits);
+    QStringList failures;
+    if (!Apply(edits, failures))
+    {
+        m_window.statusBar()->showMessage(MainWindow::tr("%1: cancelled, nothing has changed").arg(tr("Recover Edits")),
+                                          5000);
+        return false;
+    }
     MessageList& messages = m_window.Messages();
     messages.Add(TKE::Severity::Info, tr("Edits that were not saved were brought back"),
                  tr("Changes: %1.").arg(edits.changes.size() - size_t(failures.size())));
@@ -159,15 +185,27 @@ bool RecoveryOffer::Restore(const RecoveryFile& edits)
     return true;
 }
 
-QStringList RecoveryOffer::Apply(const RecoveryFile& edits)
+bool RecoveryOffer::Apply(const RecoveryFile& edits, QStringList& failures)
 {
     using Kind = RecoveryChange::Kind;
-    QStringList failures;
     JobDocument& document = m_window.Document();
-    const EditHistory::Step step(document.History(), tr("Restore unsaved edits"));
-    QHash<QString, QString> contents;
+    const QString name = tr("Restore unsaved edits");
+    LongAct work(name, &m_window, document.History());
+    const EditHistory::Step step(document.History(), name);
+    KeptContents contents;
+    const QObject moving;
+    connect(&document.History(), &EditHistory::NodeMoved, &moving,
+            [&](const QString& from, const QString& to)
+            {
+                const KeptContents moved = TakeBelow(contents, from);
+                for (auto each = moved.begin(); each != moved.end(); ++each)
+                    contents.insert(to + each.key().mid(from.size()), each.value());
+            });
+    qint64 count = 0;
     for (const RecoveryChange& change : edits.changes)
     {
+        if (!document.History().MayGoOn(count++, qint64(edits.changes.size())))
+            return false;
         QString reason;
         bool done = false;
         switch (change.kind)
@@ -187,6 +225,8 @@ QStringList RecoveryOffer::Apply(const RecoveryFile& edits)
             break;
         case Kind::Remove:
             done = document.RemoveNode(change.path, &reason);
+            if (done) // another node may come in its place
+                TakeBelow(contents, StructureEdit::WithoutSlash(change.path) + '/');
             break;
         case Kind::Rename:
             done = document.RenameNode(change.path, change.text, &reason);
@@ -206,7 +246,7 @@ QStringList RecoveryOffer::Apply(const RecoveryFile& edits)
         for (auto each = contents.constBegin(); each != contents.constEnd(); ++each)
             if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(each.key()))
                 value->SetStoredText(each.value());
-    return failures;
+    return true;
 }
 
 } // namespace JOBEDIT

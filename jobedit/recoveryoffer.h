@@ -37,7 +37,8 @@ private:
     Choice Offer(const QString& kept, const RecoveryFile& edits);
     QString TextOf(const RecoveryFile& edits) const;
     bool Restore(const RecoveryFile& edits);
-    QStringList Apply(const RecoveryFile& edits);
+    /// False when the user cancelled it, and nothing has changed. What cannot be brought back goes to `failures`.
+    bool Apply(const RecoveryFile& edits, QStringList& failures);
 
     MainWindow& m_window;
     RecoveryJournal* m_journal;

@@ -14,7 +14,7 @@ namespace JOBEDIT
 namespace
 {
 
-QString WithoutColon(QString label)
+QString WithoutUnit(QString label)
 {
     // The unit of the panel's field is not that of the document.
     for (const char* unit : {"[Hz]", "[kHz]", "[MHz]"})
@@ -33,7 +33,7 @@ QString ReportLabels::LabelOf(const TKE::ValueDescriptor& descriptor)
     {
         texts.labelKnown = true;
         if (!descriptor.label.isEmpty())
-            texts.label = WithoutColon(Translated(descriptor.label));
+            texts.label = WithoutUnit(FieldTexts::Label(descriptor));
         else if (!descriptor.description.isEmpty())
             texts.label = descriptor.description.left(1).toUpper() + descriptor.description.mid(1);
     }
@@ -108,19 +108,6 @@ ReportLabels::Texts& ReportLabels::TextsOf(const TKE::ValueDescriptor& descripto
     if (found != m_texts.end())
         return *found;
     return *m_texts.insert(&descriptor, {.storedDefault = descriptor.defaultText.toStdString()});
-}
-
-QString ReportLabels::Translated(const QString& label)
-{
-    // Panels have labels with and without a colon; the first panel that knows one of them is as good as the others.
-    for (const QString& wanted : {label, label + " :", label + ':', label.endsWith(" :") ? label.chopped(2) : label})
-    {
-        const QByteArray source = wanted.toUtf8();
-        for (const char* context : FieldTexts::Contexts())
-            if (QString text = QCoreApplication::translate(context, source.constData()); text != wanted)
-                return text;
-    }
-    return label;
 }
 
 } // namespace JOBEDIT

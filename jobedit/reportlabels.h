@@ -40,7 +40,6 @@ private:
         std::string storedDefault{};
     };
     Texts& TextsOf(const TKE::ValueDescriptor& descriptor);
-    static QString Translated(const QString& label);
 
     QLocale m_locale;
     QHash<const TKE::ValueDescriptor*, Texts> m_texts;

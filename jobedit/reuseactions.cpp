@@ -119,12 +119,15 @@ void ReuseActions::SaveAsPreset(const std::optional<ParameterSet>& set)
 void ReuseActions::Apply(const ParameterSet& set, const QString& stepName)
 {
     CommitPendingEdit();
+    LongAct work(stepName, &m_window, m_window.Document().History());
     std::vector<ValueChange> changes;
     const auto targets = m_window.Nodes().GetSelectedNodes();
     for (const JobNode& target : targets)
+    {
         for (ValueChange& change : set.ChangesFor(target.path))
             changes.push_back(std::move(change));
-    LongAct work(stepName, &m_window, m_window.Document().History());
+        work.Progress(0, 1); // cancelled, it writes nothing
+    }
     const WriteResult result = WriteValues(m_window.Document(), stepName, changes);
     if (result.isCancelled)
         return Tell(tr("%1: cancelled, nothing has changed").arg(stepName));

@@ -78,6 +78,7 @@ private Q_SLOTS:
         row("render without a directory", {"render"}, 2, "--out");
         row("unknown entry", {"render", "--out", "d", "--entry", "X"}, 2, "VoiceDDCDlg");
         row("unknown form", {"render", "--out", "d", "--form", "round"}, 2, "standalone");
+        row("pictures of the guide, of a file", {"render", "--guide", "--out", "d", "good.job.xml"}, 2, "--guide");
         row("unknown language", {"--language", "12"}, 2, "12");
         row("option of another command", {"check", "x", "--out", "d"}, 2, "render");
         row("two jobs at once", {"a", "b"}, 2, "2");
@@ -315,6 +316,11 @@ private Q_SLOTS:
         const QStringList nodes{"diff", File("a.xml"), File("b.xml"), "--node", "TDS_HF1", "--with"};
         QCOMPARE(RunProgram(nodes + QStringList{"TDS_HF1_2"}).status, 0);
         QCOMPARE(RunProgram(nodes + QStringList{"TDS_HFWB"}).status, 1);
+        // What a node is of counts, too.
+        WriteAll(File("c.xml"), ReadAll(File("a.xml")).replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""));
+        const Outcome types = RunProgram({"diff", File("a.xml"), File("c.xml")});
+        QCOMPARE(types.status, 1);
+        QCOMPARE(types.out, QString("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER\tIPC_TUNER_HF\tIPC_OTHER\n"));
     }
 
     void aLargeJobHasWhatWasPlanned()

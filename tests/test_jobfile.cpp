@@ -5,9 +5,20 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace TKE;
+
+static bool s_haveHardLinks = true; // some file systems have none
+
+extern "C" int link(const char* from, const char* to) noexcept
+{
+    if (s_haveHardLinks)
+        return linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
+    errno = EPERM;
+    return -1;
+}
 
 namespace
 {
@@ -482,8 +493,15 @@ private slots:
         QVERIFY(QDir(Path("kept.job.xml~")).removeRecursively());
     }
 
+    void whatIsSavedIsOnTheDiskBeforeItTakesThePlaceAndItsNameAfterwards_data()
+    {
+        QTest::addColumn<bool>("haveLinks");
+        QTest::newRow("the backup is a link") << true;
+        QTest::newRow("the backup is a copy") << false;
+    }
     void whatIsSavedIsOnTheDiskBeforeItTakesThePlaceAndItsNameAfterwards()
     {
+        QFETCH(bool, haveLinks);
         QVERIFY(Load(Job({})));
         const QByteArray path = Path("a.job.xml").toUtf8();
         const ino_t old = DiskWatch::Of(path).st_ino;
@@ -495,7 +513,10 @@ private slots:
             return 0;
         };
         QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("62"));
-        QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
+        s_haveHardLinks = haveLinks;
+        const bool isSaved = m_job->Save(&m_error);
+        s_haveHardLinks = true;
+        QVERIFY2(isSaved, qPrintable(m_error.ToText()));
         DiskWatch::s_before = {};
         const struct stat saved = DiskWatch::Of(path);
         const auto calls = DiskWatch::Take();
@@ -504,6 +525,9 @@ private slots:
         QVERIFY(calls.front().file == saved.st_ino && calls.front().size == saved.st_size && inPlace.front() == old);
         QVERIFY(calls.back().isDirectory && calls.back().file == DiskWatch::Of(m_directory.path().toUtf8()).st_ino);
         QVERIFY(inPlace.back() == saved.st_ino);
+        const struct stat backup = DiskWatch::Of(path + '~');
+        QCOMPARE(backup.st_ino == old, haveLinks);
+        QVERIFY(haveLinks || (calls[1].file == backup.st_ino && calls[1].size == backup.st_size && inPlace[1] == old));
     }
 
     void aDiskThatLosesTheNewFileLeavesTheOldOne()

@@ -1,7 +1,12 @@
 #include "editorfixture.h"
+#include "jobedit/compareactions.h"
+#include "jobedit/differencemodel.h"
 #include "jobedit/editor.h"
+#include "jobedit/guidewindow.h"
 #include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
+#include "jobedit/recoveryfile.h"
+#include "jobedit/recoveryjournal.h"
 #include "jobedit/valuetexts.h"
 
 #include <QLockFile>
@@ -130,6 +135,20 @@ private Q_SLOTS:
         QCOMPARE(Window().Nodes().GetNodes().size(), size_t(99));
     }
 
+    void editsOfBeforeAndAfterAreKeptForRecovery()
+    {
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040000"));
+        Choose("Deutsch");
+        QVERIFY(Tree::Instance()->FindValue(tunerPath + Keys::TUNER_HF_NB_MGCVALUE)->SetStoredText("20"));
+        auto* journal = Window().Document().findChild<RecoveryJournal*>();
+        QVERIFY(journal);
+        journal->Flush();
+        const RecoveryFile kept = RecoveryFile::Read(journal->GetFileName());
+        QVERIFY(kept.base && kept.base->file == File("a.job.xml"));
+        QCOMPARE(kept.changes.size(), size_t(2));
+    }
+
     void theNewWindowShowsWhatTheOldOneShowed()
     {
         const auto nodeOf = [this](const char* type)
@@ -143,6 +162,7 @@ private Q_SLOTS:
         Window().Nodes().Filter()->setText("FULL");
         Window().Messages().Add(Severity::Error, "kept");
         Window().Messages().setFocus();
+        GuideWindow::Open(&Window());
         const JobNode profile = nodeOf("SHORTTIMEPROFILE");
         (new PanelWindow(profile, *FindDirectPanels(profile).front(), &Window()))->show();
         Choose("Deutsch");
@@ -156,6 +176,40 @@ private Q_SLOTS:
         const auto panels = Window().findChildren<PanelWindow*>();
         QCOMPARE(panels.size(), 1);
         QVERIFY(panels.first()->isVisible());
+        QVERIFY(Window().findChild<GuideWindow*>());
+    }
+
+    void anOpenComparisonStaysWithItsTicksAndItsSides()
+    {
+        const QString voiceFrequency = EditorTest::voicePath + Keys::TUNER_HF_NB_FREQUENCY;
+        QVERIFY(Tree::Instance()->FindValue(voiceFrequency)->SetStoredText("7040000"));
+        QVERIFY(Tree::Instance()->FindValue(EditorTest::voicePath + Keys::TUNER_HF_NB_MGCVALUE)->SetStoredText("20"));
+        QPointer<CompareDialog> dialog = Window().Comparing().CompareChains(tunerPath, EditorTest::voicePath);
+        dialog->findChild<QPushButton*>("swap")->click();
+        dialog->findChild<QLineEdit*>("differenceFilter")->setText("FREQUENCY");
+        dialog->findChild<QPushButton*>("tickAll")->click();
+        Choose("Deutsch");
+        QTRY_VERIFY(!dialog);
+        dialog = Window().findChild<CompareDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        QCOMPARE(dialog->windowTitle(), QString("Ketten vergleichen"));
+        QCOMPARE(dialog->Model().headerData(DifferenceModel::Left, Qt::Horizontal, Qt::DisplayRole),
+                 QString("CS_VOICE/VOICE"));
+        QCOMPARE(dialog->Model().rowCount(), 2);
+        dialog->findChild<QPushButton*>("takeOver")->click();
+        QCOMPARE(Tree::Instance()->FindValue(voiceFrequency)->GetStoredText(), QStringLiteral("10000000"));
+        QCOMPARE(dialog->Model().rowCount(), 1);
+        // One with a file keeps the other job, and knows when the file is another one.
+        QVERIFY(Window().SaveTo(File("a.job.xml")));
+        dialog = Window().Comparing().CompareWithSaved();
+        Choose("English");
+        dialog = Window().findChild<CompareDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        QVERIFY(Tree::Instance()->FindValue(voiceFrequency)->SetStoredText("7050000"));
+        dialog->Activate();
+        QTRY_COMPARE(dialog->Model().rowCount(), 1);
+        QVERIFY(Window().Save());
+        QTRY_VERIFY(!dialog);
     }
 
     /// A text that was translated once and for all would stay in the language of the first time.

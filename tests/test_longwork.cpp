@@ -334,6 +334,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->Document().File().ToUtf8(), before);
         QCOMPARE(m_window->isWindowModified(), isModified);
         QCOMPARE(history.CanUndo(), act == "undo");
+        QCOMPARE(history.CanRedo(), act == "redo");
         if (act != "take over")
             act == "undo" ? history.Undo() : history.Redo();
         QVERIFY(act == "take over" || m_window->Document().File().ToUtf8() != before);

@@ -305,6 +305,19 @@ private slots:
         QCOMPARE(Editor::Stored(frequencyPath), "7040000");
     }
 
+    void contentsGoWithTheirNodeWhenAnotherTakesItsPlace()
+    {
+        using Kind = RecoveryChange::Kind;
+        Leave({}, {{Kind::Duplicate, 1, "/Jobs/Demo/TDS_HF1", "COPY"},
+                   {Kind::Value, 2, frequencyPath, "7040000"},
+                   {Kind::Rename, 3, "/Jobs/Demo/TDS_HF1", "OLD"},
+                   {Kind::Rename, 4, "/Jobs/Demo/COPY", "TDS_HF1"}});
+        Answer answer({"Restore"});
+        QVERIFY(Recovery().OfferAll());
+        QCOMPARE(Editor::Stored(frequencyPath), "10000000");
+        QCOMPARE(Editor::Stored(QString(frequencyPath).replace("TDS_HF1", "OLD")), "7040000");
+    }
+
     void damagedFilesGiveWhatCanBeRead()
     {
         RecoveryBase base;

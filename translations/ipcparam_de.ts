@@ -431,10 +431,6 @@
         <translation>Eine Zeile je Kette mit ihren Frequenzen, Bandbreiten und Bereichen.</translation>
     </message>
     <message>
-        <source>File or directory to write.</source>
-        <translation>Datei oder Verzeichnis, das geschrieben wird.</translation>
-    </message>
-    <message>
         <source>render needs --out DIR.</source>
         <translation>render braucht --out DIR.</translation>
     </message>
@@ -469,14 +465,6 @@
     <message>
         <source>report needs --out FILE with the suffix .html or .pdf.</source>
         <translation>report braucht --out FILE mit der Endung .html oder .pdf.</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Lesen</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Schreiben</translation>
     </message>
     <message>
         <source>writes the job as a document, HTML or PDF</source>
@@ -525,6 +513,22 @@
     <message>
         <source>Pictures of the editor itself, as its guide shows them.</source>
         <translation>Bilder des Editors selbst, wie seine Anleitung sie zeigt.</translation>
+    </message>
+    <message>
+        <source>The picture, a file with the suffix .svg or .png.</source>
+        <translation>Das Bild, eine Datei mit der Endung .svg oder .png.</translation>
+    </message>
+    <message>
+        <source>--guide shows the sample job, and takes neither FILE nor --entry nor --form.</source>
+        <translation>--guide zeigt den Beispielauftrag und nimmt weder FILE noch --entry noch --form.</translation>
+    </message>
+    <message>
+        <source>Writing %1:</source>
+        <translation>Schreibe %1:</translation>
+    </message>
+    <message>
+        <source>The document, a file with the suffix .html or .pdf.</source>
+        <translation>Das Dokument, eine Datei mit der Endung .html oder .pdf.</translation>
     </message>
 </context>
 <context>
@@ -580,10 +584,6 @@
     <message>
         <source>Compare Chains</source>
         <translation>Ketten vergleichen</translation>
-    </message>
-    <message>
-        <source>Two chains of the open job; the left one takes over.</source>
-        <translation>Zwei Ketten des geöffneten Auftrags; die linke übernimmt.</translation>
     </message>
     <message>
         <source>&amp;Take Over from the Right</source>
@@ -644,6 +644,10 @@
     <message>
         <source>Reading %1</source>
         <translation>Lese %1</translation>
+    </message>
+    <message>
+        <source>Two chains below %1; the left one takes over.</source>
+        <translation>Zwei Ketten unter %1; die linke übernimmt.</translation>
     </message>
 </context>
 <context>

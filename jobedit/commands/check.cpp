@@ -2,6 +2,8 @@
 #include "command.h"
 #include "jobdocument.h"
 #include "jsonlist.h"
+#include "progress.h"
+#include "value/idledisposal.h"
 
 namespace JOBEDIT
 {
@@ -27,7 +29,13 @@ int Check(Call& call)
     if (call.WantsJson())
         list.emplace(call.Out(), QJsonObject(), QStringLiteral("findings"));
     for (const QString& file : call.GetArguments())
-        for (const TKE::FileError& error : Checker::CheckFile(file, model))
+    {
+        TKE::FileErrors errors;
+        {
+            Progress progress(Commands::tr("Reading %1:").arg(file));
+            errors = Checker::CheckFile(file, model, std::ref(progress));
+        }
+        for (const TKE::FileError& error : std::as_const(errors))
         {
             if (list)
                 list->Add(JsonOf(error));
@@ -35,6 +43,10 @@ int Check(Call& call)
                 call.Errors() << error.ToText() << '\n';
             good = good && !error.IsError();
         }
+        // Here is no event loop that it would wait for.
+        while (TKE::IdleDisposal::IsUnderWay())
+            QCoreApplication::processEvents();
+    }
     return good ? esGood : esFinding;
 }
 

@@ -23,17 +23,16 @@ bool CommandJob::Told(bool good, const TKE::FileError& error, Call& call)
 bool CommandJob::Load(const QString& fileName, Call& call)
 {
     TKE::FileError error;
+    bool isLoaded = false;
     {
         Progress progress(Commands::tr("Reading %1:").arg(fileName));
-        m_file.SetProgress([&](qint64 done, qint64 all) { return progress(done, all); });
-        const bool good = m_file.Load(fileName, &error);
+        m_file.SetProgress(std::ref(progress));
+        isLoaded = m_file.Load(fileName, &error);
         m_file.SetProgress({});
-        if (good)
-            Loaded();
-        else
-            progress(1, 1);
     }
-    return Told(error.reason.isEmpty(), error, call);
+    if (isLoaded)
+        Loaded();
+    return Told(isLoaded, error, call);
 }
 
 bool CommandJob::LoadSample(Call& call)

@@ -12,11 +12,10 @@ namespace
 /// One difference of two jobs. Of a node that only one of them has, the values are not named one by one.
 struct Line
 {
+    Difference found;
     QString path; ///< in the first job, or where it would be there
     const TKE::ValueBase* left = nullptr;
     const TKE::ValueBase* right = nullptr;
-    bool isNode = false;
-    bool leftHasNode = false;
 };
 
 std::vector<Line> Compare(const TKE::Tree& left, const QString& leftBase, const TKE::Tree& right,
@@ -26,10 +25,10 @@ std::vector<Line> Compare(const TKE::Tree& left, const QString& leftBase, const 
     for (const Difference& found : CompareTrees(left, leftBase, right, rightBase))
     {
         const QString path = leftBase + found.Path();
-        if (!found.IsNode())
-            lines.push_back({path, left.FindValue(path), right.FindValue(rightBase + found.Path())});
-        else if (found.kind != Difference::Kind::Changed) // the type of a node is no content
-            lines.push_back({path.chopped(1), nullptr, nullptr, true, found.kind == Difference::Kind::OnlyLeft});
+        if (found.IsNode())
+            lines.push_back({found, path.chopped(1)});
+        else
+            lines.push_back({found, path, left.FindValue(path), right.FindValue(rightBase + found.Path())});
     }
     return lines;
 }
@@ -38,13 +37,21 @@ void PrintText(const std::vector<Line>& lines, bool stored, QTextStream& out)
 {
     const auto side = [&](const TKE::ValueBase* value)
     { return value ? CommandText::Escaped(CommandText::Of(*value, stored)) : Commands::tr("(no value)"); };
+    const auto node = [](bool isThere, const QString& type) {
+        return !isThere ? Commands::tr("(no node)") : type.isEmpty() ? Commands::tr("(node)") : type;
+    };
     for (const Line& line : lines)
     {
-        if (!line.isNode)
-            out << line.path << '\t' << side(line.left) << '\t' << side(line.right) << '\n';
+        out << line.path << '\t';
+        if (!line.found.IsNode())
+            out << side(line.left) << '\t' << side(line.right) << '\n';
+        else if (line.found.kind == Difference::Kind::Changed)
+            out << node(true, line.found.leftStored) << '\t' << node(true, line.found.rightStored) << '\n';
         else
-            out << line.path << '\t' << (line.leftHasNode ? Commands::tr("(node)") : Commands::tr("(no node)")) << '\t'
-                << (line.leftHasNode ? Commands::tr("(no node)") : Commands::tr("(node)")) << '\n';
+        {
+            const bool isLeft = line.found.kind == Difference::Kind::OnlyLeft;
+            out << node(isLeft, {}) << '\t' << node(!isLeft, {}) << '\n';
+        }
     }
 }
 
@@ -60,10 +67,15 @@ void PrintJson(const std::vector<Line>& lines, Call& call)
                   QStringLiteral("differences"));
     for (const Line& line : lines)
     {
-        if (line.isNode)
-            list.Add({{"path", line.path}, {"what", "node"}, {"only", line.leftHasNode ? "left" : "right"}});
-        else
+        const Difference& found = line.found;
+        if (!found.IsNode())
             list.Add({{"path", line.path}, {"what", "value"}, {"left", side(line.left)}, {"right", side(line.right)}});
+        else if (found.kind == Difference::Kind::Changed)
+            list.Add({{"path", line.path}, {"what", "type"}, {"left", found.leftStored}, {"right", found.rightStored}});
+        else
+            list.Add({{"path", line.path},
+                      {"what", "node"},
+                      {"only", found.kind == Difference::Kind::OnlyLeft ? "left" : "right"}});
     }
 }
 

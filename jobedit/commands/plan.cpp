@@ -1,5 +1,6 @@
 #include "command.h"
 #include "jobdocument.h"
+#include "opening.h"
 #include "planexport.h"
 
 #include <QFileInfo>
@@ -19,11 +20,10 @@ int RunPlan(Call& call)
     if (!suffixes.contains(QFileInfo(out).suffix().toLower()))
         return call.Misuse(Commands::tr("plan needs --out FILE with the suffix .svg or .png."));
     JobDocument document(JobDocument::ConfiguredModel());
+    if (!OpenForReading(document, call.GetArgument(0), call))
+        return esFinding;
     TKE::FileError error;
-    if (!document.Open(call.GetArgument(0), JobDocument::Access::ReadOnly, error) ||
-        !ExportPlan(document, out, leastSize, error))
-        return call.Refuse(error.ToText());
-    return esGood;
+    return ExportPlan(document, out, leastSize, error) ? esGood : call.Refuse(error.ToText());
 }
 
 } // namespace
@@ -37,7 +37,7 @@ Command MakePlan()
             .fewest = 1,
             .most = 1,
             .draws = true,
-            .options = {{"out", Commands::tr("File or directory to write."), "FILE"}},
+            .options = {{"out", Commands::tr("The picture, a file with the suffix .svg or .png."), "FILE"}},
             .run = RunPlan};
 }
 

@@ -3,6 +3,7 @@
 #include "command.h"
 #include "guidepictures.h"
 #include "jobdocument.h"
+#include "opening.h"
 
 namespace JOBEDIT
 {
@@ -21,15 +22,17 @@ int RunRender(Call& call)
             Commands::tr("There is no entry %1. There are: %2.").arg(entry, EntryNames().join(QLatin1String(", "))));
     if (call.Has("form") && form != QLatin1String("job") && form != QLatin1String("standalone"))
         return call.Misuse(Commands::tr("--form is job or standalone."));
+    if (call.Has("guide") && (call.Has("entry") || call.Has("form") || !call.GetArguments().isEmpty()))
+        return call.Misuse(
+            Commands::tr("--guide shows the sample job, and takes neither FILE nor --entry nor --form."));
 
     if (call.Has("guide"))
-        return MakeGuidePictures(JobDocument::ConfiguredModel(), call.GetValue("out"), call.Out(), call.Errors()) ? esGood
-                                                                                                                  : esFinding;
+        return MakeGuidePictures(JobDocument::ConfiguredModel(), call.GetValue("out"), call.Out(), call.Errors())
+                   ? esGood
+                   : esFinding;
     JobDocument document(JobDocument::ConfiguredModel());
-    TKE::FileError error;
-    const QString file = call.GetArgument(0);
-    if (!(file.isEmpty() ? document.NewFromSample(error) : document.Open(file, JobDocument::Access::ReadOnly, error)))
-        return call.Refuse(error.ToText());
+    if (!OpenForReading(document, call.GetArgument(0), call))
+        return esFinding;
     const RenderRequest request{call.GetValue("out"), entry,
                                 form == QLatin1String("standalone") ? Form::StandAlone : Form::Job};
     return Render(document.GetNodes(), request, call.Out(), call.Errors()) ? esGood : esFinding;

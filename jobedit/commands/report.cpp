@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "jobdocument.h"
+#include "opening.h"
 #include "progress.h"
 
 #include <QFileInfo>
@@ -19,19 +20,15 @@ int RunReport(Call& call)
     if (!suffixes.contains(QFileInfo(out).suffix().toLower()))
         return call.Misuse(Commands::tr("report needs --out FILE with the suffix .html or .pdf."));
     JobDocument document(JobDocument::ConfiguredModel());
+    if (!OpenForReading(document, call.GetArgument(0), call))
+        return esFinding;
     TKE::FileError error;
     {
-        Progress progress(Commands::tr("Reading"));
-        document.SetProgress(std::ref(progress));
-        const bool opened = document.Open(call.GetArgument(0), JobDocument::Access::ReadOnly, error);
-        document.SetProgress({});
-        if (!opened)
-            return call.Refuse(error.ToText());
+        Progress progress(Commands::tr("Writing %1:").arg(out));
+        if (WriteReport(document, out, {.onlyChanges = call.Has("only-changes")}, std::ref(progress), error))
+            return esGood;
     }
-    Progress progress(Commands::tr("Writing"));
-    if (!WriteReport(document, out, {.onlyChanges = call.Has("only-changes")}, std::ref(progress), error))
-        return call.Refuse(error.ToText());
-    return esGood;
+    return call.Refuse(error.ToText());
 }
 
 } // namespace
@@ -41,11 +38,12 @@ Command MakeReport()
     return {.name = "report",
             .arguments = "FILE",
             .summary = Commands::tr("writes the job as a document, HTML or PDF"),
-            .help = Commands::tr("One table per node with labels, values and units. What differs from its default is marked."),
+            .help = Commands::tr(
+                "One table per node with labels, values and units. What differs from its default is marked."),
             .fewest = 1,
             .most = 1,
             .draws = true,
-            .options = {{"out", Commands::tr("File or directory to write."), "FILE"},
+            .options = {{"out", Commands::tr("The document, a file with the suffix .html or .pdf."), "FILE"},
                         {"only-changes", Commands::tr("Only values that differ from their default.")}},
             .run = RunReport};
 }

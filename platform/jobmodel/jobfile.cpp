@@ -52,12 +52,18 @@ bool BackUp(const QString& fileName, QString& reason)
     fs::remove(fresh, code);
     fs::create_hard_link(current, fresh, code);
     if (code) // a file system without such links
+    {
         fs::copy_file(current, fresh, code);
-    if (!code)
+        QFile copy(fileName + QLatin1String("~new"));
+        if (!code && copy.open(QIODevice::ReadOnly))
+            DiskSync::File(copy.handle(), &reason);
+    }
+    if (!code && reason.isEmpty())
         fs::rename(fresh, backup, code);
-    if (!code)
+    if (!code && reason.isEmpty())
         return true;
-    reason = QString::fromStdString(code.message());
+    if (code)
+        reason = QString::fromStdString(code.message());
     fs::remove(fresh, code);
     return false;
 }
