@@ -4926,14 +4926,6 @@ Ersetzen?</translation>
         <source>Frequency</source>
         <translation>Frequenz</translation>
     </message>
-    <message>
-        <source>Use Hoprate for Matching</source>
-        <translation>Sprungrate zum Abgleich verwenden</translation>
-    </message>
-    <message>
-        <source>Bandwidth (Min\Nominal\Max)</source>
-        <translation>Bandbreite (min.\nominal\max.)</translation>
-    </message>
 </context>
 <context>
     <name>TKE::ShorttimeProfileHeaderDlg</name>
