@@ -58,18 +58,31 @@ class TestSampleJob : public QObject
         return form == 1 && panel.objectName() == "FFTDataDlg";
     }
 
-    void AddRows()
+    void CheckOverlaps(const QWidget& dialog)
     {
-        const Table<QString, int> row("path", "form"); // 0 job, 1 stand-alone, 2 direct panels
-        for (const JobNode& node : m_document->GetNodes())
+        for (const QGridLayout* grid : dialog.findChildren<QGridLayout*>())
         {
-            if (FindChain(node))
-                for (const int form : {0, 1})
-                    row(node.path + (form ? " stand-alone" : " job"), node.path, form);
-            if (!FindDirectPanels(node).empty())
-                row(node.path + " direct", node.path, 2);
+            // Of the cells of widgets; lines cross, and so does what has no look of its own.
+            QHash<QPair<int, int>, QString> taken;
+            for (int i = 0; i < grid->count(); ++i)
+            {
+                const QWidget* widget = grid->itemAt(i)->widget();
+                const auto* label = qobject_cast<const QLabel*>(widget);
+                if (!widget || (label && (label->frameShape() != QFrame::NoFrame || label->text().isEmpty())))
+                    continue;
+                int row = 0, column = 0, rows = 0, columns = 0;
+                grid->getItemPosition(i, &row, &column, &rows, &columns);
+                for (int cell = 0; cell < rows * columns; ++cell)
+                {
+                    QString& holder = taken[QPair(row + cell / columns, column + cell % columns)];
+                    const QString name = label ? label->text() : widget->objectName();
+                    QVERIFY2(holder.isEmpty(), qPrintable(Where(widget) + ": " + holder + " and " + name));
+                    holder = name;
+                }
+            }
         }
     }
+
 private slots:
     void initTestCase()
     {
@@ -84,11 +97,23 @@ private slots:
         Tree::Instance()->Clear();
     }
 
-    void everyFieldIsBoundAndInSight_data() { AddRows(); }
-    void everyFieldIsBoundAndInSight()
+    void everyFieldIsBoundAndInSightAndNoneOverlaps_data()
+    {
+        const Table<QString, int> row("path", "form"); // 0 job, 1 stand-alone, 2 direct panels
+        for (const JobNode& node : m_document->GetNodes())
+        {
+            if (FindChain(node))
+                for (const int form : {0, 1})
+                    row(node.path + (form ? " stand-alone" : " job"), node.path, form);
+            if (!FindDirectPanels(node).empty())
+                row(node.path + " direct", node.path, 2);
+        }
+    }
+    void everyFieldIsBoundAndInSightAndNoneOverlaps()
     {
         const auto dialog = Open();
         QVERIFY(dialog && dialog->count() > 0);
+        CheckOverlaps(*dialog);
         for (int index = 0; index < dialog->count(); ++index)
         {
             dialog->setCurrentIndex(index);
@@ -159,33 +184,6 @@ private slots:
         QVERIFY(locked > 500);
         for (const auto& [value, state] : states)
             value->SetState(state);
-    }
-
-    void noTwoWidgetsOfAGridOverlap_data() { AddRows(); }
-    void noTwoWidgetsOfAGridOverlap()
-    {
-        const auto dialog = Open();
-        for (const QGridLayout* grid : dialog->findChildren<QGridLayout*>())
-        {
-            // Of the cells of widgets; lines cross, and so does what has no look of its own.
-            QHash<QPair<int, int>, QString> taken;
-            for (int i = 0; i < grid->count(); ++i)
-            {
-                const QWidget* widget = grid->itemAt(i)->widget();
-                const auto* label = qobject_cast<const QLabel*>(widget);
-                if (!widget || (label && (label->frameShape() != QFrame::NoFrame || label->text().isEmpty())))
-                    continue;
-                int row = 0, column = 0, rows = 0, columns = 0;
-                grid->getItemPosition(i, &row, &column, &rows, &columns);
-                for (int cell = 0; cell < rows * columns; ++cell)
-                {
-                    QString& holder = taken[QPair(row + cell / columns, column + cell % columns)];
-                    const QString name = label ? label->text() : widget->objectName();
-                    QVERIFY2(holder.isEmpty(), qPrintable(Where(widget) + ": " + holder + " and " + name));
-                    holder = name;
-                }
-            }
-        }
     }
 };
 

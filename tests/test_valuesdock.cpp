@@ -1,4 +1,3 @@
-#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
@@ -8,37 +7,28 @@
 
 using namespace EditorTest;
 
-class TestValuesDock : public QObject
+class TestValuesDock : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
     ValuesDock* m_dock = nullptr;
-
-    MainWindow& Window() { return m_desk->window; }
-    static ValueBase* Find(const QString& path) { return Editor::Value(path); }
 
     ValuesModel& Model() { return m_dock->Model(); }
     QTreeView* View() { return m_dock->View(); }
 
-    void Switch(const char* name, bool on) { m_dock->findChild<QCheckBox*>(name)->setChecked(on); }
     void Settle() { QTRY_VERIFY_WITH_TIMEOUT(m_dock->IsUpToDate(), 5000); }
+    void Switch(const char* name, bool on)
+    {
+        m_dock->findChild<QCheckBox*>(name)->setChecked(on);
+        Settle();
+    }
     /// The paths of all values listed, from top to bottom.
     QStringList Listed()
     {
         QStringList paths;
-        const auto collect = [&](const auto& self, const QModelIndex& parent) -> void
-        {
-            for (int row = 0; row < Model().rowCount(parent); ++row)
-            {
-                const QModelIndex index = Model().index(row, 0, parent);
-                if (Model().IsBranch(index))
-                    self(self, index);
-                else
-                    paths << Model().PathAt(index);
-            }
-        };
-        collect(collect, {});
+        for (const QModelIndex& index : AllRows(Model()))
+            if (!Model().IsBranch(index))
+                paths << Model().PathAt(index);
         return paths;
     }
     QModelIndex ContentOf(const QString& path) { return Model().IndexOf(path).siblingAtColumn(ValueListing::Content); }
@@ -51,11 +41,18 @@ class TestValuesDock : public QObject
         QWidget* editor = QApplication::focusWidget();
         return editor != View() && View()->isAncestorOf(editor) ? editor : nullptr;
     }
+    /// Into an editor, instead of what it holds.
+    static void Type(QWidget* editor, const QString& text)
+    {
+        static_cast<QLineEdit*>(editor)->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, Qt::Key_Return);
+    }
     QString FirstOfKind(ValueKind kind, bool multiple = false)
     {
         for (const QString& path : Listed())
-            if (Find(path)->GetKind() == kind && Find(path)->GetState() == stEnabled &&
-                Find(path)->GetDescriptor().multiple == multiple)
+            if (Value(path)->GetKind() == kind && Value(path)->GetState() == stEnabled &&
+                Value(path)->GetDescriptor().multiple == multiple)
                 return path;
         return {};
     }
@@ -63,22 +60,21 @@ class TestValuesDock : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_desk.emplace();
+        Begin();
         Window().resize(1500, 1000);
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         m_dock = Window().findChild<ValuesDock*>();
         m_desk->Press(Qt::Key_F9, {});
         QVERIFY(m_dock->isVisible() && m_dock->Filter()->hasFocus());
         Settle();
     }
-    void cleanup() { m_desk.reset(); }
+    void cleanup() { End(); }
 
     void allValuesAreListedAsATreeAndFlat_data() { WithAndWithout("asTree"); }
     void allValuesAreListedAsATreeAndFlat()
     {
         QFETCH(bool, asTree);
         Switch("asTree", asTree);
-        Settle();
         const QAbstractItemModelTester tester(&Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const QStringList listed = Listed();
         QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
@@ -96,7 +92,7 @@ private Q_SLOTS:
     void theFilterLooksIntoEveryText()
     {
         QFETCH(QString, text);
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        Set(frequencyPath, "7123456");
         if (text == "<content>")
             text = "7.123456";
         if (text == "<label>")
@@ -111,12 +107,11 @@ private Q_SLOTS:
 
     void onlyChangedValuesAreListedWhenAskedFor()
     {
-        QVERIFY(Find(frequencyPath)->SetToDefault());
+        QVERIFY(Value(frequencyPath)->SetToDefault());
         QVERIFY(Window().Save());
         Switch("onlyFromSaved", true);
-        Settle();
         QVERIFY(Listed().isEmpty());
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        Set(frequencyPath, "7123456");
         QTRY_COMPARE(Listed(), QStringList{frequencyPath});
         const QModelIndex content = ContentOf(frequencyPath);
         QVERIFY(content.data().toString() != content.siblingAtColumn(ValueListing::Saved).data().toString());
@@ -124,18 +119,16 @@ private Q_SLOTS:
         QTRY_VERIFY(Listed().isEmpty());
         Switch("onlyFromSaved", false);
         Switch("onlyFromDefault", true);
-        Settle();
         const QStringList listed = Listed();
         QVERIFY(listed.contains(frequencyPath));
         for (const QString& path : listed)
-            QVERIFY(Find(path)->GetStoredText() != Find(path)->GetDescriptor().defaultText);
+            QVERIFY(Stored(path) != Value(path)->GetDescriptor().defaultText);
     }
 
     void onlyTheSelectedNodeIsListedWhenAskedFor()
     {
         Window().Nodes().SelectNode(tunerPath);
         Switch("onlyThisNode", true);
-        Settle();
         QVERIFY(Listed().contains(frequencyPath));
         for (const QString& path : Listed())
             QVERIFY(path.startsWith(tunerPath));
@@ -146,55 +139,51 @@ private Q_SLOTS:
 
     void aFlatListIsSortedByAColumn_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::newRow("label") << int(ValueListing::Label);
-        QTest::newRow("default") << int(ValueListing::Default);
-        QTest::newRow("key") << int(ValueListing::Key);
+        const Table<int> row("column");
+        row("label", ValueListing::Label);
+        row("default", ValueListing::Default);
+        row("key", ValueListing::Key);
     }
     void aFlatListIsSortedByAColumn()
     {
         QFETCH(int, column);
         Switch("asTree", false);
-        Settle();
         QHeaderView* header = View()->header();
         const QPoint place(header->sectionViewportPosition(column) + 20, 5);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
         if (header->sortIndicatorOrder() != Qt::AscendingOrder)
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
         Settle();
-        const auto text = [&](int row) { return Model().index(row, column).data().toString(); };
-        const auto isNumber = [&](int row)
+        // Numbers come first and go by their size: 9 before 10.
+        double number = -HUGE_VAL;
+        QString text;
+        for (int row = 0; row < Model().rowCount(); ++row)
         {
-            const ValueKind kind = Model().ValueAt(Model().index(row, 0))->GetKind();
-            return kind == ValueKind::Int || kind == ValueKind::Double || kind == ValueKind::Frequency;
-        };
-        for (int row = 1; row < Model().rowCount(); ++row)
-            if (column != ValueListing::Default || (!isNumber(row - 1) && !isNumber(row)))
-                QVERIFY(text(row - 1).compare(text(row), Qt::CaseInsensitive) <= 0);
-        // Numbers go by their size: 9 before 10.
-        double last = -HUGE_VAL;
-        for (int row = 0; column == ValueListing::Default && row < Model().rowCount() && isNumber(row); ++row)
-        {
-            const double number = Model().ValueAt(Model().index(row, 0))->GetDescriptor().defaultText.toDouble();
-            QVERIFY(last <= number);
-            last = number;
+            const ValueBase& value = *Model().ValueAt(Model().index(row, 0));
+            const ValueKind kind = value.GetKind();
+            if (column == ValueListing::Default &&
+                (kind == ValueKind::Int || kind == ValueKind::Double || kind == ValueKind::Frequency))
+            {
+                const double before = std::exchange(number, value.GetDescriptor().defaultText.toDouble());
+                QVERIFY(before <= number && text.isEmpty());
+                continue;
+            }
+            const QString before = std::exchange(text, Model().index(row, column).data().toString());
+            QVERIFY(before.compare(text, Qt::CaseInsensitive) <= 0);
         }
     }
 
     void aNumberIsEditedInPlaceAndARefusedOneStaysInTheEditor()
     {
-        const QString before = Find(frequencyPath)->GetStoredText();
+        const QString before = Stored(frequencyPath);
         QWidget* editor = Edit(frequencyPath);
         QVERIFY(editor);
-        QTest::keyClicks(editor, "much");
-        QTest::keyClick(editor, Qt::Key_Return);
+        Type(editor, "much");
         QCOMPARE(QApplication::focusWidget(), editor);
         QVERIFY(editor->toolTip().contains("much"));
-        QCOMPARE(Find(frequencyPath)->GetStoredText(), before);
-        static_cast<QLineEdit*>(editor)->selectAll();
-        QTest::keyClicks(editor, "7040 k");
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCOMPARE(Find(frequencyPath)->GetStoredText(), "7040000");
+        QCOMPARE(Stored(frequencyPath), before);
+        Type(editor, "7040 k");
+        QCOMPARE(Stored(frequencyPath), "7040000");
         QTRY_VERIFY(View()->hasFocus());
         QCOMPARE(ContentOf(frequencyPath).data().toString(), "7.04 MHz");
         QVERIFY(Window().isWindowModified());
@@ -206,10 +195,9 @@ private Q_SLOTS:
         const QString selection = FirstOfKind(ValueKind::Selection);
         const QString list = FirstOfKind(ValueKind::DoubleList);
         QVERIFY(!boolean.isEmpty() && !selection.isEmpty() && !list.isEmpty());
-
-        const bool on = Find(boolean)->GetBool();
+        const bool on = Value(boolean)->GetBool();
         QVERIFY(!Edit(boolean)); // switched at once
-        QCOMPARE(Find(boolean)->GetBool(), !on);
+        QCOMPARE(Value(boolean)->GetBool(), !on);
 
         auto* combo = qobject_cast<QComboBox*>(Edit(selection));
         QVERIFY(combo && combo->count() > 1);
@@ -217,15 +205,13 @@ private Q_SLOTS:
         QTest::keyClick(combo, row == 0 ? Qt::Key_Down : Qt::Key_Up);
         QTest::keyClick(combo, Qt::Key_Return);
         QTRY_VERIFY(View()->hasFocus());
-        QVERIFY(Window().Document().DiffersFromSaved(*Find(selection)));
+        QVERIFY(Window().Document().DiffersFromSaved(*Value(selection)));
 
         QWidget* editor = Edit(list);
         QVERIFY(editor);
-        static_cast<QLineEdit*>(editor)->selectAll();
-        QTest::keyClicks(editor, "nothing");
-        QTest::keyClick(editor, Qt::Key_Return);
+        Type(editor, "nothing");
         QTRY_VERIFY(Window().Messages().GetText().contains(list));
-        QVERIFY(!Window().Document().DiffersFromSaved(*Find(list)));
+        QVERIFY(!Window().Document().DiffersFromSaved(*Value(list)));
     }
 
     void whatIsTypedIntoTheListFilters()
@@ -241,7 +227,7 @@ private Q_SLOTS:
 
     void aDisabledValueIsNotEdited()
     {
-        Find(frequencyPath)->SetState(stDisabled);
+        Value(frequencyPath)->SetState(stDisabled);
         QVERIFY(!Edit(frequencyPath));
         QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
     }
@@ -254,7 +240,7 @@ private Q_SLOTS:
         QTest::keyClick(View(), Qt::Key_Return);
         QCOMPARE(wanted.size(), 1);
         QCOMPARE(wanted.front().front().toString(), frequencyPath);
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
     }
 
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited_data()
@@ -280,25 +266,23 @@ private Q_SLOTS:
                           looked += int(Listed().size());
                           m_dock->grab();
                       }};
-        Find(frequencyPath)->Attach(&looker);
+        Value(frequencyPath)->Attach(&looker);
         if (scanning)
-            Switch("onlyFromDefault", true);
-        WriteAll(m_desk->File("b.job.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">"
-                                            "<Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\"/></Job>");
-        QVERIFY(Window().OpenFile(m_desk->File("b.job.xml")));
+            m_dock->findChild<QCheckBox*>("onlyFromDefault")->setChecked(true);
+        WriteAll(File("b.job.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">"
+                                    "<Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\"/></Job>");
+        QVERIFY(Window().OpenFile(File("b.job.xml")));
         Switch("onlyFromDefault", false);
-        Settle();
         const QStringList listed = Listed();
         QVERIFY(!listed.isEmpty());
         for (const QString& path : listed)
-            QVERIFY(path.startsWith("/T/") && Find(path));
+            QVERIFY(path.startsWith("/T/") && Value(path));
         QVERIFY(looked > 0);
     }
 
     void valuesThatGoLeaveEmptyRowsUntilTheListIsMadeAnew()
     {
         Switch("asTree", false);
-        Settle();
         const QModelIndex index = ContentOf(frequencyPath);
         Tree::Instance()->RemoveBranch(tunerPath);
         QCOMPARE(index.data(), QVariant());
@@ -311,8 +295,8 @@ private Q_SLOTS:
 
     void theContextMenuTakesAValueBack()
     {
-        const QString saved = Find(frequencyPath)->GetStoredText();
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        const QString saved = Stored(frequencyPath);
+        Set(frequencyPath, "7123456");
         View()->setCurrentIndex(Model().IndexOf(frequencyPath));
         View()->setFocus();
         QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
@@ -322,7 +306,7 @@ private Q_SLOTS:
             if (action->text().contains("Saved Value"))
                 action->trigger();
         menu->close();
-        QTRY_COMPARE(Find(frequencyPath)->GetStoredText(), saved);
+        QTRY_COMPARE(Stored(frequencyPath), saved);
     }
 };
 
