@@ -3,8 +3,6 @@
 #include "valuewidgets/vcnumericfloatspin.h"
 #include "widgets/vclistboxnumeric.h"
 
-#include <random>
-
 using namespace EditorTest;
 
 namespace
@@ -352,59 +350,6 @@ private slots:
         QVERIFY(nodes.SelectNode("/Jobs/Demo/NEW"));
         Set("/Jobs/Demo/NEW/" + Keys::TUNER_HF_NB_FREQUENCY, "7111000");
         CompareSteps(8);
-    }
-
-    void anythingDoneCanBeTakenBackToTheByte_data() { EachText("seed", {"1", "2", "3"}); }
-    void anythingDoneCanBeTakenBackToTheByte()
-    {
-        QFETCH(QString, seed);
-        std::mt19937 random(seed.toUInt());
-        const auto pick = [&](auto size) { return decltype(size)(random() % quint32(size)); };
-        JobDocument& document = Window().Document();
-        int structural = 0;
-        QString reason;
-        for (int round = 0; round < 150; ++round)
-        {
-            const auto nodes = Window().Nodes().GetNodes();
-            const QString path = nodes[pick(nodes.size())].path;
-            const QString name = "N" + QString::number(round);
-            const quint32 choice = pick(16u);
-            if (choice == 0)
-                structural += document.RenameNode(path, name, &reason);
-            else if (choice == 1)
-                structural += document.DuplicateNode(path, name, &reason);
-            else if (choice == 2 && path.count('/') > 4)
-                structural += document.RemoveNode(path, &reason);
-            else if (choice < 5)
-                History().Undo();
-            else
-                for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
-                    if (pick(4u) == 0)
-                        value->SetStoredText(value->GetKind() == ValueKind::Bool ? (pick(2u) ? "true" : "false")
-                                                                                 : QString::number(pick(3u)));
-            if (choice % 2)
-                QCoreApplication::processEvents(); // what comes within one turn is one step
-        }
-        CommitPendingEdit();
-        StepsForth();
-        QList<QByteArray> states{m_desk->Bytes()};
-        while (History().CanUndo())
-        {
-            History().Undo();
-            states << m_desk->Bytes();
-        }
-        QVERIFY(states.size() > 20);
-        QVERIFY(structural > 0);
-        QCOMPARE(states.constLast(), m_start);
-        QVERIFY(!Window().isWindowModified());
-        for (qsizetype state = states.size() - 1; state > 0; --state)
-        {
-            QCOMPARE(m_desk->Bytes(), states[state]);
-            QVERIFY(History().CanRedo());
-            History().Redo();
-        }
-        QCOMPARE(m_desk->Bytes(), states.constFirst());
-        QVERIFY(!History().CanRedo());
     }
 };
 

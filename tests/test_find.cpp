@@ -1,4 +1,3 @@
-#include "application/translationcenter.h"
 #include "editorfixture.h"
 #include "ipcparam/parameterdlg.h"
 #include "jobedit/fieldindex.h"
@@ -147,16 +146,6 @@ private Q_SLOTS:
         QVERIFY(!Window().isWindowModified());
     }
 
-    void aFieldStandsUnderItsLabelInTheLanguageThatRuns()
-    {
-        const ValueBase& gain = *Value(tunerPath + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
-        QCOMPARE(FieldTexts::Label(gain), QStringLiteral("Gain"));
-        QVERIFY(TranslationCenter::Instance()->Install(QLocale("de")));
-        QCOMPARE(FieldTexts::Label(gain), QString::fromUtf8("Verst\u00e4rkung"));
-        QCOMPARE(FieldTexts::Labels(gain.GetDescriptor()).constFirst(), QStringLiteral("Gain"));
-        TranslationCenter::Instance()->Install(QLocale::C);
-    }
-
     void moreThanAPageOfHitsIsShownOnDemand()
     {
         Find("frequency");
@@ -217,7 +206,7 @@ private Q_SLOTS:
         QVERIFY(reached > 0);
     }
 
-    void whatNoDialogShowsIsToldAndItsNodeSelected()
+    void whatNoDialogShowsOrDoesNotApplyIsTold()
     {
         const QString hiddenPath = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/STATE_AUTOMATICMODE";
         QVERIFY(!FieldNavigator(Window()).GoTo(hiddenPath));
@@ -228,15 +217,12 @@ private Q_SLOTS:
         QCOMPARE(m_desk->CurrentPath(), ParameterDlg::GetParentPath(hiddenPath + '/'));
         QVERIFY(Window().statusBar()->currentMessage().contains(hiddenPath));
         QVERIFY(Window().Nodes().View()->hasFocus());
-    }
-
-    void aFieldThatDoesNotApplyIsShownAndTold()
-    {
+        // What does not apply is shown without the keyboard.
         Window().Dialog().SetForm(Form::StandAlone);
         const QString path = tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH;
         QVERIFY(FieldNavigator(Window()).GoTo(path));
         QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
-        auto* field = Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        const auto* field = Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
         QVERIFY(field && field->isVisible() && !field->hasFocus());
         QVERIFY(Window().statusBar()->currentMessage().contains(path));
     }

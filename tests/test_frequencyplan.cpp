@@ -288,16 +288,6 @@ private Q_SLOTS:
         QVERIFY(textAt(Hf().PlaceOf(tunerPath, 3.2e6)).contains("Scan: 3 MHz to 3.5 MHz (switched off)"));
     }
 
-    void aLaneThatComesOrGoesAsksForANewPlan()
-    {
-        const QString path = job + "TDS_HF1/CS_TUNER/";
-        FrequencyPlan plan = Plan();
-        QVERIFY(plan.Update(path, *Tree::Instance())); // has none and gets none
-        QVERIFY(plan.Update(path + "Gone/", *Tree::Instance()));
-        Tree::Instance()->CreateValue<FrequencyValue>(path + "TUNER_EXT_FREQUENCY");
-        QVERIFY(!plan.Update(path, *Tree::Instance()));
-    }
-
     void thePicturesHoldAllChains()
     {
         FileError error;

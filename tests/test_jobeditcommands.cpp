@@ -86,7 +86,6 @@ private Q_SLOTS:
         row("two jobs at once", {"a", "b"}, 2, "2");
         row("render a bad file", {"render", "bad.job.xml", "--out", "d"}, 1, "bad.job.xml:3:");
         row("help of a command", {"set", "--help"}, 0, "--dry-run");
-        row("help names the arguments", {"get", "--help"}, 0, "get FILE PATH...");
         row("unknown command", {"frobnicate", "good.job.xml"}, 2, "frobnicate");
         row("too few arguments", {"get", "good.job.xml"}, 2, "FILE PATH...");
         row("too many arguments", {"diff", "a", "b", "c"}, 2, "FILE1 FILE2");
@@ -96,7 +95,6 @@ private Q_SLOTS:
         row("half an option", {"diff", "a", "b", "--with", "c"}, 2, "--node");
         row("get of a bad file", {"get", "bad.job.xml", "x"}, 1, "bad.job.xml:3:");
         row("set in a bad file", {"set", "bad.job.xml", "x=1"}, 1, "bad.job.xml:3:");
-        row("list of a bad file", {"list", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("diff with a bad file", {"diff", "good.job.xml", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("new from a bad file", {"new", "new.job.xml", "--from", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("get of no value", {"get", "good.job.xml", "TDS_HF1/X"}, 1, "TDS_HF1/X");

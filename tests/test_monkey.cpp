@@ -72,14 +72,14 @@ public:
             size_t weight;
             void (Monkey::*run)();
         };
-        static constexpr std::array acts{Act{"edit", 40, &Monkey::Edit},       Act{"structure", 5, &Monkey::Structure},
-                                         Act{"key", 40, &Monkey::Key},         Act{"click", 25, &Monkey::Click},
-                                         Act{"wheel", 10, &Monkey::Wheel},     Act{"node", 10, &Monkey::Node},
-                                         Act{"tab", 8, &Monkey::Tab},          Act{"undo", 8, &Monkey::UndoSome},
-                                         Act{"redo", 5, &Monkey::Redo},        Act{"dock", 3, &Monkey::Dock},
-                                         Act{"form", 3, &Monkey::SwitchForm},  Act{"action", 8, &Monkey::Action},
-                                         Act{"save", 2, &Monkey::Save},        Act{"reload", 1, &Monkey::Reload},
-                                         Act{"language", 1, &Monkey::Language}};
+        static constexpr std::array acts{Act{"edit", 40, &Monkey::Edit},     Act{"structure", 10, &Monkey::Structure},
+                                         Act{"values", 20, &Monkey::Values}, Act{"key", 40, &Monkey::Key},
+                                         Act{"click", 25, &Monkey::Click},   Act{"wheel", 10, &Monkey::Wheel},
+                                         Act{"node", 10, &Monkey::Node},     Act{"tab", 8, &Monkey::Tab},
+                                         Act{"undo", 8, &Monkey::UndoSome},  Act{"redo", 5, &Monkey::Redo},
+                                         Act{"dock", 3, &Monkey::Dock},      Act{"form", 3, &Monkey::SwitchForm},
+                                         Act{"action", 8, &Monkey::Action},  Act{"save", 2, &Monkey::Save},
+                                         Act{"reload", 1, &Monkey::Reload},  Act{"language", 1, &Monkey::Language}};
         std::vector<size_t> weights;
         std::ranges::transform(acts, std::back_inserter(weights), &Act::weight);
         const Act& act = acts[std::discrete_distribution<size_t>(weights.begin(), weights.end())(m_random)];
@@ -91,18 +91,23 @@ public:
             Window().show();
     }
 
-    /// What was done is taken back, made again and taken back, each exactly.
+    /// What was done is taken back, made again and taken back, step by step to the byte.
     void CheckHistory()
     {
         MonkeyLog::Add(m_number, "everything undone and redone");
         Settle();
         EditHistory& history = Document().History();
         m_hasEdited |= Bytes() != m_loaded;
-        Undo(2000);
+        QByteArrayList states;
+        for (; history.CanUndo(); history.Undo())
+            states << Bytes();
         QCOMPARE(Bytes(), m_loaded);
         while (history.CanRedo())
+        {
             history.Redo();
-        // What had been undone before is done now, too: the way back is what counts.
+            if (!states.isEmpty()) // what had been undone before is done now, too
+                QCOMPARE(Bytes(), states.takeLast());
+        }
         Undo(2000);
         QCOMPARE(Bytes(), m_loaded);
     }
@@ -210,6 +215,19 @@ private:
                                   Qt::Key_Tab, Qt::Key_Return, Qt::Key_PageUp};
         for (size_t count = 1 + Below(4); field && count-- > 0;)
             QTest::keyClick(field, Any(keys));
+    }
+    // Some values of a node at once, seen or not, as a paste or a take-over does.
+    void Values()
+    {
+        Settle();
+        if (Window().Nodes().GetNodes().empty())
+            return;
+        const QString path = Any(Window().Nodes().GetNodes()).path;
+        Note(path);
+        for (const auto& value : TKE::Tree::Instance()->FindNode(path)->GetValues())
+            if (Below(4) == 0)
+                value->SetStoredText(value->GetKind() == TKE::ValueKind::Bool ? (Below(2) ? "true" : "false")
+                                                                              : QString::number(Below(3)));
     }
     void Structure()
     {

@@ -85,17 +85,6 @@ class TestRecovery : public DeskTest
         const bool good = Window().NewFromSample() && Window().SaveTo(File()) && Window().NewFromSample();
         return good ? File() : QString();
     }
-    /// Leaves these edits behind as a dead editor would.
-    static QString Leave(const RecoveryBase& base, const QList<RecoveryChange>& changes)
-    {
-        QByteArray bytes = RecoveryFile::LineOf(base);
-        for (const RecoveryChange& change : changes)
-            bytes += RecoveryFile::LineOf(change);
-        QDir().mkpath(RecoveryJournal::Directory());
-        const QString name = RecoveryJournal::Directory() + "/left.edits";
-        WriteAll(name, bytes);
-        return name;
-    }
 
 private slots:
     void initTestCase() { QDir(RecoveryJournal::Directory()).removeRecursively(); }
@@ -154,7 +143,7 @@ private slots:
         sinceTick.start();
         for (int edit = 0; all.elapsed() < 2 * slow; ++edit)
         {
-            QVERIFY(Editor::Value(frequencyPath)->SetStoredText(QString::number(7'000'000 + edit)));
+            Set(frequencyPath, QString::number(7'000'000 + edit));
             QTest::qWait(10);
         }
         QVERIFY2(longest < slow / 2, qPrintable(QString::number(longest)));
@@ -186,7 +175,15 @@ private slots:
         QVERIFY(Asks({"Later"}, [&] { return !Recovery().OfferAll(); }));
         QVERIFY(!Asks({"Later"}, [&] { return Window().OpenFile(job); })); // is not asked again and again
         QCOMPARE(Window().Document().GetFileName(), job);
+        m_desk.emplace();
+        QVERIFY(QFile::rename(job, File("away")));
+        {
+            const Answer answer({"Restore", "OK"});
+            QVERIFY(!Recovery().OfferAll());
+            QVERIFY2(answer.GetText().contains("vanished"), qPrintable(answer.GetText()));
+        }
         QCOMPARE(RecoveryJournal::FindAbandoned().size(), 1);
+        QVERIFY(QFile::rename(File("away"), job));
         m_desk.emplace();
         QVERIFY(Asks({"Discard"}, [&] { return Window().OpenFile(job); }));
         QVERIFY(!Window().isWindowModified());
@@ -210,17 +207,6 @@ private slots:
         QVERIFY(Tree::Instance()->FindNode(u"/Jobs/Demo/COPY"));
     }
 
-    void withoutItsFileTheEditsStay()
-    {
-        const QString job = MakeJob();
-        QVERIFY(!Die(job).isEmpty());
-        QVERIFY(QFile::remove(job));
-        Answer answer({"Restore", "OK"});
-        QVERIFY(!Recovery().OfferAll());
-        QVERIFY2(answer.GetText().contains("vanished"), qPrintable(answer.GetText()));
-        QCOMPARE(RecoveryJournal::FindAbandoned().size(), 1);
-    }
-
     void savingAndClosingLeaveNothingBehind()
     {
         const QDir directory(RecoveryJournal::Directory());
@@ -234,7 +220,7 @@ private slots:
         QCOMPARE(Kept().size(), 1);
         const RecoveryFile undone = RecoveryFile::Read(directory.filePath(Kept().first()));
         QCOMPARE(undone.changes.size(), size_t(1)); // a change of what is saved
-        QCOMPARE(undone.changes.front().text, Editor::Stored(frequencyPath));
+        QCOMPARE(undone.changes.front().text, Stored(frequencyPath));
         QCOMPARE(undone.base->file, File());
         Answer answer({"Discard"});
         QVERIFY(Window().close());
@@ -260,17 +246,17 @@ private slots:
         QVERIFY(QFile::copy(File("kept"), directory.filePath("left.edits")));
         Answer answer({"Restore"});
         QVERIFY(Recovery().OfferAll());
-        QCOMPARE(Editor::Stored(frequencyPath), "7040000");
+        QCOMPARE(Stored(frequencyPath), "7040000");
     }
 
     void damagedFilesGiveWhatCanBeRead()
     {
-        RecoveryBase base;
-        QList<RecoveryChange> changes;
+        QByteArray whole = RecoveryFile::LineOf(RecoveryBase());
         for (int step = 1; step <= 20; ++step)
-            changes << RecoveryChange{RecoveryChange::Kind::Value, step, volumePath, QString::number(step)};
-        const QString name = Leave(base, changes);
-        const QByteArray whole = ReadAll(name);
+            whole += RecoveryFile::LineOf({RecoveryChange::Kind::Value, step, volumePath, QString::number(step)});
+        const QString name = RecoveryJournal::Directory() + "/left.edits";
+        QVERIFY(QDir().mkpath(RecoveryJournal::Directory()));
+        WriteAll(name, whole);
         QCOMPARE(RecoveryFile::Read(name).changes.size(), size_t(20));
         for (qsizetype size = 0; size < whole.size(); size += 7)
         {
@@ -288,23 +274,16 @@ private slots:
                 continue;
             WriteAll(name, damaged);
             const RecoveryFile read = RecoveryFile::Read(name);
-            QVERIFY(read.damaged >= 1);
-            QVERIFY(read.changes.size() >= 18);
+            QVERIFY(read.damaged >= 1 && read.changes.size() >= 18);
         }
         QByteArray damaged = whole;
         damaged[damaged.lastIndexOf("\"text\"") + 2] = '#';
         WriteAll(name, damaged);
-        Answer answer({"Restore"});
+        const Answer answer({"Restore", "Later"});
         QVERIFY(Recovery().OfferAll());
         QVERIFY2(answer.GetText().contains("lost: 1"), qPrintable(answer.GetText()));
-        QCOMPARE(Editor::Stored(volumePath), "19");
-    }
-
-    void aFileWithoutABeginningIsNotThrownAway()
-    {
-        const QString name = Leave({}, {{RecoveryChange::Kind::Value, 1, volumePath, "1"}});
-        WriteAll(name, ReadAll(name).mid(9));
-        Answer answer({"Later"});
+        QCOMPARE(Stored(volumePath), "19");
+        WriteAll(name, whole.mid(9)); // without a beginning, but not thrown away
         QVERIFY(!Recovery().OfferAll());
         QVERIFY2(answer.GetText().contains(name), qPrintable(answer.GetText()));
         QVERIFY(QFile::exists(name));

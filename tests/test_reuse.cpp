@@ -127,21 +127,21 @@ private Q_SLOTS:
     {
         const QString plain = "/Jobs/Demo/TDS_HF1/CS_DATA/WAVECOM/";
         const QString data = "/Jobs/Demo/TDS_VUHF1/CS_DATA/WAVECOM/";
-        const QString key = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
-        auto* value = dynamic_cast<ValueSelection*>(Value(plain + key));
-        QVERIFY(value);
-        QVERIFY(value->SelectKey(value->GetItems().back().GetKey()));
-        Select({plain});
-        Press(Qt::Key_C);
-        Select({data});
-        Press(Qt::Key_V);
-        QCOMPARE(Stored(data + "Data/" + key), value->GetStoredText());
+        const QString type = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
+        auto* value = dynamic_cast<ValueSelection*>(Value(plain + type));
+        QVERIFY(value && value->SelectKey(value->GetItems().back().GetKey()));
+        const QString last = value->GetStoredText();
+        for (const auto& [from, to] : {std::pair(plain, data), {data, plain}})
+        {
+            Select({from});
+            Press(Qt::Key_C);
+            Select({to});
+            value->SelectKey(value->GetItems().front().GetKey());
+            Press(Qt::Key_V);
+            QCOMPARE(Stored(data + "Data/" + type), last);
+        }
+        QCOMPARE(value->GetStoredText(), last);
         QVERIFY(!Window().Messages().GetText().contains("was not written"));
-        value->SelectKey(value->GetItems().front().GetKey());
-        Press(Qt::Key_C);
-        Select({plain});
-        Press(Qt::Key_V);
-        QCOMPARE(value->GetStoredText(), Stored(data + "Data/" + key));
     }
 
     void whatTheClipboardHoldsBesidesIsNotPasted_data()

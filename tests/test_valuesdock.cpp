@@ -48,11 +48,11 @@ class TestValuesDock : public DeskTest
         QTest::keyClicks(editor, text);
         QTest::keyClick(editor, Qt::Key_Return);
     }
-    QString FirstOfKind(ValueKind kind, bool multiple = false)
+    QString FirstOfKind(ValueKind kind)
     {
         for (const QString& path : Listed())
             if (Value(path)->GetKind() == kind && Value(path)->GetState() == stEnabled &&
-                Value(path)->GetDescriptor().multiple == multiple)
+                !Value(path)->GetDescriptor().multiple)
                 return path;
         return {};
     }
@@ -69,19 +69,19 @@ private Q_SLOTS:
         Settle();
     }
     void cleanup() { End(); }
-
-    void allValuesAreListedAsATreeAndFlat_data() { WithAndWithout("asTree"); }
     void allValuesAreListedAsATreeAndFlat()
     {
-        QFETCH(bool, asTree);
-        Switch("asTree", asTree);
         const QAbstractItemModelTester tester(&Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        const QStringList listed = Listed();
-        QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
-        QCOMPARE(QSet<QString>(listed.begin(), listed.end()).size(), listed.size());
-        QCOMPARE(Model().rowCount() == listed.size(), !asTree);
-        for (const QString& path : {listed.front(), listed.back(), frequencyPath})
-            QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
+        for (const bool asTree : {false, true})
+        {
+            Switch("asTree", asTree);
+            const QStringList listed = Listed();
+            QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
+            QCOMPARE(QSet<QString>(listed.begin(), listed.end()).size(), listed.size());
+            QCOMPARE(Model().rowCount() == listed.size(), !asTree);
+            for (const QString& path : {listed.front(), listed.back(), frequencyPath})
+                QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
+        }
         QVERIFY(!Window().isWindowModified());
     }
 
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QVERIFY2(View()->indexBelow(View()->indexAt({5, 5})).isValid(), "found values are shown at once");
     }
 
-    void onlyChangedValuesAreListedWhenAskedFor()
+    void onlyChangedValuesOrThoseOfTheSelectedNodeAreListedWhenAskedFor()
     {
         QVERIFY(Value(frequencyPath)->SetToDefault());
         QVERIFY(Window().Save());
@@ -123,10 +123,7 @@ private Q_SLOTS:
         QVERIFY(listed.contains(frequencyPath));
         for (const QString& path : listed)
             QVERIFY(Stored(path) != Value(path)->GetDescriptor().defaultText);
-    }
-
-    void onlyTheSelectedNodeIsListedWhenAskedFor()
-    {
+        Switch("onlyFromDefault", false);
         Window().Nodes().SelectNode(tunerPath);
         Switch("onlyThisNode", true);
         QVERIFY(Listed().contains(frequencyPath));
@@ -136,40 +133,30 @@ private Q_SLOTS:
         Settle();
         QVERIFY(!Listed().isEmpty() && !Listed().contains(frequencyPath));
     }
-
-    void aFlatListIsSortedByAColumn_data()
-    {
-        const Table<int> row("column");
-        row("label", ValueListing::Label);
-        row("default", ValueListing::Default);
-        row("key", ValueListing::Key);
-    }
     void aFlatListIsSortedByAColumn()
     {
-        QFETCH(int, column);
         Switch("asTree", false);
         QHeaderView* header = View()->header();
-        const QPoint place(header->sectionViewportPosition(column) + 20, 5);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-        if (header->sortIndicatorOrder() != Qt::AscendingOrder)
-            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-        Settle();
-        // Numbers come first and go by their size: 9 before 10.
-        double number = -HUGE_VAL;
-        QString text;
-        for (int row = 0; row < Model().rowCount(); ++row)
+        for (const int column : {ValueListing::Label, ValueListing::Default, ValueListing::Key})
         {
-            const ValueBase& value = *Model().ValueAt(Model().index(row, 0));
-            const ValueKind kind = value.GetKind();
-            if (column == ValueListing::Default &&
-                (kind == ValueKind::Int || kind == ValueKind::Double || kind == ValueKind::Frequency))
+            const QPoint place(header->sectionViewportPosition(column) + 20, 5);
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+            if (header->sortIndicatorOrder() != Qt::AscendingOrder)
+                QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+            Settle();
+            // Numbers come first and go by their size: 9 before 10.
+            std::pair before(false, -HUGE_VAL);
+            QString textBefore;
+            for (const QModelIndex& index : AllRows(Model()))
             {
-                const double before = std::exchange(number, value.GetDescriptor().defaultText.toDouble());
-                QVERIFY(before <= number && text.isEmpty());
-                continue;
+                const ValueBase& value = *Model().ValueAt(index);
+                const std::array numbers{ValueKind::Int, ValueKind::Double, ValueKind::Frequency};
+                const bool isText = column != ValueListing::Default || !std::ranges::count(numbers, value.GetKind());
+                const std::pair here(isText, isText ? 0.0 : value.GetDescriptor().defaultText.toDouble());
+                QVERIFY(std::exchange(before, here) <= here);
+                const QString text = isText ? index.siblingAtColumn(column).data().toString() : QString();
+                QVERIFY(std::exchange(textBefore, text).compare(text, Qt::CaseInsensitive) <= 0);
             }
-            const QString before = std::exchange(text, Model().index(row, column).data().toString());
-            QVERIFY(before.compare(text, Qt::CaseInsensitive) <= 0);
         }
     }
 
@@ -187,6 +174,9 @@ private Q_SLOTS:
         QTRY_VERIFY(View()->hasFocus());
         QCOMPARE(ContentOf(frequencyPath).data().toString(), "7.04 MHz");
         QVERIFY(Window().isWindowModified());
+        Value(frequencyPath)->SetState(stDisabled);
+        QVERIFY(!Edit(frequencyPath));
+        QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
     }
 
     void everyKindIsEditedByItsEditor()
@@ -214,7 +204,7 @@ private Q_SLOTS:
         QVERIFY(!Window().Document().DiffersFromSaved(*Value(list)));
     }
 
-    void whatIsTypedIntoTheListFilters()
+    void whatIsTypedIntoTheListFiltersAndReturnGoesToTheField()
     {
         View()->setCurrentIndex(Model().IndexOf(frequencyPath));
         View()->setFocus();
@@ -223,20 +213,8 @@ private Q_SLOTS:
         QCOMPARE(m_dock->Filter()->text(), "tuner_hf");
         Settle();
         QCOMPARE(Model().PathAt(View()->currentIndex()), frequencyPath);
-    }
-
-    void aDisabledValueIsNotEdited()
-    {
-        Value(frequencyPath)->SetState(stDisabled);
-        QVERIFY(!Edit(frequencyPath));
-        QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
-    }
-
-    void returnOnARowGoesToTheNodeOfTheField()
-    {
         Window().Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
-        QSignalSpy wanted(m_dock, &ValuesDock::Activated);
-        View()->setCurrentIndex(Model().IndexOf(frequencyPath));
+        const QSignalSpy wanted(m_dock, &ValuesDock::Activated);
         QTest::keyClick(View(), Qt::Key_Return);
         QCOMPARE(wanted.size(), 1);
         QCOMPARE(wanted.front().front().toString(), frequencyPath);
