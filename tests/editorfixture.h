@@ -251,6 +251,7 @@ protected:
     {
         m_desk.reset();
         m_place.reset();
+        m_faults.clear();
     }
     MainWindow& Window() { return m_desk->window; }
     QTabWidget* Dialog() { return m_desk->Dialog(); }
@@ -263,8 +264,18 @@ protected:
         QVERIFY2(Value(path) && Value(path)->SetStoredText(stored), qPrintable(path + ": " + stored));
     }
 
+    /// Fails when there are faults, and prints all.
+    void Verdict()
+    {
+        m_faults.removeDuplicates();
+        for (const QString& fault : m_faults)
+            qWarning("%s", qPrintable(fault));
+        QVERIFY(m_faults.isEmpty());
+    }
+
     std::optional<Surroundings> m_place;
     std::optional<Editor> m_desk;
+    QStringList m_faults;
 };
 
 enum class Opened

@@ -95,16 +95,6 @@ class TestAccessibility : public DeskTest
 {
     Q_OBJECT
 
-    QStringList m_faults;
-
-    void Verdict()
-    {
-        m_faults.removeDuplicates();
-        for (const QString& fault : m_faults)
-            qWarning("%s", qPrintable(fault));
-        QVERIFY(m_faults.isEmpty());
-    }
-
     void Listen(const QString& where, QWidget& editor)
     {
         const Heard heard(&editor);
@@ -152,6 +142,14 @@ class TestAccessibility : public DeskTest
                     QAccessible::Pane});
         if (heard.value != shown)
             m_faults << what + "says \"" + heard.value + "\" and shows \"" + shown + '"';
+    }
+
+    std::vector<QWidget*> ListenToAll(const QString& where, const QWidget& top)
+    {
+        const std::vector<QWidget*> editors = EditorsIn(top);
+        for (QWidget* editor : editors)
+            Listen(where, *editor);
+        return editors;
     }
 
     /// Presses Tab from the first editor on. Each that is enabled comes once, after those above it and left of it.
@@ -213,11 +211,7 @@ class TestAccessibility : public DeskTest
 
 private Q_SLOTS:
     void initTestCase() { QAccessible::setActive(true); }
-    void init()
-    {
-        m_faults.clear();
-        Begin();
-    }
+    void init() { Begin(); }
     void cleanup()
     {
         NightColours::Switch(false);
@@ -240,9 +234,7 @@ private Q_SLOTS:
         ForEachTab(Window().Nodes().GetNodes(), opened,
                    [&](const QString& where, QWidget& page)
                    {
-                       const std::vector<QWidget*> editors = EditorsIn(page);
-                       for (QWidget* editor : editors)
-                           Listen(where, *editor);
+                       const std::vector<QWidget*> editors = ListenToAll(where, page);
                        GoThrough(where, page, editors);
                        count += editors.size();
                    });
@@ -260,14 +252,11 @@ private Q_SLOTS:
         Window().OfferHint();
         Window().Nodes().SelectNode(tunerPath);
         QCoreApplication::processEvents();
-        const std::vector<QWidget*> editors = EditorsIn(Window());
-        for (QWidget* editor : editors)
-            Listen("window", *editor);
+        QVERIFY(ListenToAll("window", Window()).size() > 30);
         for (const QDockWidget* dock : Window().findChildren<QDockWidget*>())
             if (dock->windowTitle().isEmpty())
                 m_faults << Describe(*dock) + " has no title";
         Verdict();
-        QVERIFY(editors.size() > 30);
     }
 
     void everyDialogThatACommandOpensSaysWhatItIsAndHolds_data()
@@ -288,10 +277,7 @@ private Q_SLOTS:
                 for (QWidget* window : QApplication::topLevelWidgets())
                     if (auto* dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())
                     {
-                        const std::vector<QWidget*> editors = EditorsIn(*dialog);
-                        count += editors.size();
-                        for (QWidget* editor : editors)
-                            Listen(command, *editor);
+                        count += ListenToAll(command, *dialog).size();
                         if (dialog->windowTitle().isEmpty())
                             m_faults << "the dialog has no title";
                         dialog->reject();

@@ -121,7 +121,6 @@ private Q_SLOTS:
         row("numbers", int(ValueKind::DoubleList), "-2.5;3", "-2.5; 3");
         row("no number", int(ValueKind::Int), "many", "many");
         row("moment", int(ValueKind::DateTime), "2024-02-29T23:05:00", "29.02.2024 23:05:00");
-        row("off", int(ValueKind::Bool), "false", "off");
         row("items", int(ValueKind::Selection), "1;9", "One, 9");
     }
     void contentsAreReadable()

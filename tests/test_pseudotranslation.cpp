@@ -60,7 +60,6 @@ class TestPseudoTranslation : public DeskTest
 
     PseudoTranslator m_translator;
     std::set<QString> m_exceptions;
-    QStringList m_faults;
 
     /// Texts that are not translated, and why.
     void CollectExceptions()
@@ -139,19 +138,10 @@ class TestPseudoTranslation : public DeskTest
         }
     }
 
-    void Verdict()
-    {
-        m_faults.removeDuplicates();
-        for (const QString& fault : m_faults)
-            qWarning("%s", qPrintable(fault));
-        QVERIFY(m_faults.isEmpty());
-    }
-
 private Q_SLOTS:
     void initTestCase() { QCoreApplication::installTranslator(&m_translator); }
     void init()
     {
-        m_faults.clear();
         Begin();
         CollectExceptions();
     }

@@ -61,24 +61,16 @@ Document Read(const QByteArray& html)
 
 } // namespace
 
-class TestReport : public QObject
+class TestReport : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Surroundings> m_place;
-    std::unique_ptr<JobDocument> m_document;
-
-    QString File(const QString& name) const { return m_place->File(name); }
-    void Set(const QString& path, const QString& stored)
-    {
-        ValueBase* value = Tree::Instance()->FindValue(path);
-        QVERIFY2(value && value->SetStoredText(stored), qPrintable(path));
-    }
+    JobDocument& Job() { return Window().Document(); }
     Document Html(const ReportOptions& options = {}) { return Read(ReadAll(Write("report.html", options))); }
     QString Write(const QString& name, const ReportOptions& options = {})
     {
         FileError error;
-        if (!WriteReport(*m_document, File(name), options, {}, error))
+        if (!WriteReport(Job(), File(name), options, {}, error))
             qWarning("%s", qPrintable(error.ToText()));
         return File(name);
     }
@@ -90,18 +82,8 @@ class TestReport : public QObject
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_place.emplace();
-        m_document = std::make_unique<JobDocument>(JobModel::Load());
-        FileError error;
-        QVERIFY(m_document->NewFromSample(error));
-    }
-    void cleanup()
-    {
-        m_document.reset();
-        m_place.reset();
-    }
+    void init() { Begin(); }
+    void cleanup() { End(); }
 
     void everyValueOfTheJobIsInTheHtml()
     {
@@ -111,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(html.links.size() > 50 && (html.links - html.ids).isEmpty());
         QCOMPARE(ReadAll(File("report.html")).count("<td class=\"k\">"), qsizetype(Tree::Instance()->ValueCount()));
         QVERIFY(html.text.contains("Monitoring of HF and V/UHF channels"));
-        QVERIFY(!m_document->IsModified());
+        QVERIFY(!Job().IsModified());
     }
 
     void contentsAreShownAsPeopleReadThem_data()
@@ -168,7 +150,7 @@ private Q_SLOTS:
         const QString hostile = "</td><script>alert('x')</script>&amp;\"\u0001";
         Set("/Jobs/Demo/JOB_AUTHOR", hostile);
         FileError error;
-        QVERIFY(m_document->SaveAs(File("<i>&\".job.xml"), error));
+        QVERIFY(Job().SaveAs(File("<i>&\".job.xml"), error));
         const Document html = Html();
         QVERIFY2(html.fault.isEmpty(), qPrintable(html.fault));
         QVERIFY(!html.reachesOutside);
@@ -190,7 +172,7 @@ private Q_SLOTS:
     void titlesAreThoseOfTheDialogs()
     {
         QSet<const Chain*> seen;
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Job().GetNodes())
         {
             const Chain* chain = FindChain(node);
             seen << chain;
@@ -220,7 +202,7 @@ private Q_SLOTS:
             buffer.open(QIODevice::WriteOnly);
             QPdfWriter writer(&buffer);
             writer.setPageSize(QPageSize(size));
-            QVERIFY(PrintReport(*m_document, writer, {}, [](qint64, qint64) { return true; }));
+            QVERIFY(PrintReport(Job(), writer, {}, [](qint64, qint64) { return true; }));
             pages[size] = buffer.data().count("/Type /Page\n");
         }
         QVERIFY(pages[QPageSize::A3] > 10 && pages[QPageSize::A5] > 2 * pages[QPageSize::A3]);
@@ -234,7 +216,7 @@ private Q_SLOTS:
         FileError error;
         int calls = 0;
         const auto cancel = [&](qint64, qint64) { return ++calls < 2; };
-        QVERIFY(!WriteReport(*m_document, File(name), {}, cancel, error));
+        QVERIFY(!WriteReport(Job(), File(name), {}, cancel, error));
         QCOMPARE(calls, 2);
         QVERIFY(error.reason.isEmpty());
         QCOMPARE(ReadAll(File(name)), QByteArray("kept"));
@@ -246,7 +228,7 @@ private Q_SLOTS:
             last = done;
             return grows;
         };
-        QVERIFY(WriteReport(*m_document, File(name), {}, follow, error));
+        QVERIFY(WriteReport(Job(), File(name), {}, follow, error));
         QCOMPARE(last, qint64(Tree::Instance()->ValueCount()));
     }
 
@@ -255,7 +237,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         FileError error;
-        QVERIFY(!WriteReport(*m_document, File(name), {}, {}, error));
+        QVERIFY(!WriteReport(Job(), File(name), {}, {}, error));
         QCOMPARE(error.file, File(name));
         QVERIFY(!error.reason.isEmpty());
         QVERIFY(!QFile::exists(File(name)));
@@ -263,18 +245,15 @@ private Q_SLOTS:
 
     void theMenuOffersTheReport()
     {
-        m_document.reset();
-        Editor editor;
-        QVERIFY(editor.window.NewFromSample());
         const Next escape(
             [](QDialog& dialog)
             {
                 QCOMPARE(dialog.objectName(), "reportDialog");
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             });
-        editor.Press(Qt::Key_P);
+        m_desk->Press(Qt::Key_P);
         QVERIFY(escape.HasActed());
-        QVERIFY(editor.window.findChild<ReportActions*>()->WriteTo(File("window.pdf"), {.onlyChanges = true}));
+        QVERIFY(Window().findChild<ReportActions*>()->WriteTo(File("window.pdf"), {.onlyChanges = true}));
         QCOMPARE(Pages(File("window.pdf")), qsizetype(2));
     }
 };

@@ -1,19 +1,13 @@
-#include "common.h"
+#include "editorfixture.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
-#include "jobedit/chains.h"
-#include "jobedit/jobdocument.h"
-#include "value/tree.h"
 #include "valuewidgets/valuelink.h"
 #include "valuewidgets/vcfrequency.h"
 #include "widgets/vccheckablegroupbox.h"
 
-#include <QTest>
-#include <QtWidgets>
 #include <map>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
@@ -30,17 +24,16 @@ QString Where(const QWidget* widget)
 } // namespace
 
 /// Every dialog of the sample job in both forms, and every panel that is opened directly.
-class TestSampleJob : public QObject
+class TestSampleJob : public DeskTest
 {
     Q_OBJECT
 
-    std::unique_ptr<JobDocument> m_document;
     /// The dialog of the row's node, at the least size that it lets itself be given.
-    std::unique_ptr<QTabWidget> Open() const
+    std::unique_ptr<QTabWidget> Open()
     {
         QFETCH(QString, path);
         QFETCH(int, form);
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
             if (node.path == path)
             {
                 auto dialog = form < 2 ? MakeDialog(node, form == 0 ? Form::Job : Form::StandAlone, nullptr)
@@ -51,13 +44,6 @@ class TestSampleJob : public QObject
             }
         return nullptr;
     }
-    /// Rows that work on an empty job or task path in this form.
-    static bool IsUnbound(const ParameterDlg& panel)
-    {
-        QFETCH(int, form);
-        return form == 1 && panel.objectName() == "FFTDataDlg";
-    }
-
     void CheckOverlaps(const QWidget& dialog)
     {
         for (const QGridLayout* grid : dialog.findChildren<QGridLayout*>())
@@ -84,23 +70,13 @@ class TestSampleJob : public QObject
     }
 
 private slots:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        m_document = std::make_unique<JobDocument>(JobModel::Load());
-        FileError error;
-        QVERIFY2(m_document->NewFromSample(error), qPrintable(error.ToText()));
-    }
-    void cleanupTestCase()
-    {
-        m_document.reset();
-        Tree::Instance()->Clear();
-    }
+    void initTestCase() { Begin(); }
+    void cleanupTestCase() { End(); }
 
     void everyFieldIsBoundAndInSightAndNoneOverlaps_data()
     {
         const Table<QString, int> row("path", "form"); // 0 job, 1 stand-alone, 2 direct panels
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
         {
             if (FindChain(node))
                 for (const int form : {0, 1})
@@ -112,6 +88,7 @@ private slots:
     void everyFieldIsBoundAndInSightAndNoneOverlaps()
     {
         const auto dialog = Open();
+        QFETCH(int, form);
         QVERIFY(dialog && dialog->count() > 0);
         CheckOverlaps(*dialog);
         for (int index = 0; index < dialog->count(); ++index)
@@ -131,7 +108,8 @@ private slots:
                     continue;
                 const auto* link = dynamic_cast<const ValueLink*>(widget);
                 links += link ? 1 : 0;
-                if (link && !link->GetBoundValue() && !IsUnbound(*panel))
+                // This panel works on an empty task path in the stand-alone form.
+                if (link && !link->GetBoundValue() && !(form == 1 && panel->objectName() == "FFTDataDlg"))
                     faults << "unbound: " + Where(widget);
                 const bool isShown =
                     link || qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
@@ -148,7 +126,7 @@ private slots:
     void aReadOnlyDialogAppliesNoRuleAndStaysDisabledWhateverItsValuesSay()
     {
         std::map<ValueBase*, EnableState> states;
-        m_document->File().VisitNodes(
+        Window().Document().File().VisitNodes(
             [&](const QString& path, const NodeSpec&, const QString&)
             {
                 for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
@@ -158,7 +136,7 @@ private slots:
         static const QRegularExpression always(
             "DDC_FREQUENCYOFFSET|_SYMBOLVALANCY|_COUNT$|DetectorCheck|SimulationCheck");
         int locked = 0;
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
         {
             const Chain* chain = FindChain(node);
             if (!chain)
