@@ -278,6 +278,16 @@ protected:
     QStringList m_faults;
 };
 
+/// Its class and the names above it.
+inline QString Describe(const QWidget& widget)
+{
+    QStringList names{QString(widget.metaObject()->className()).section(':', -1)};
+    for (const QWidget* part = &widget; part; part = part->parentWidget())
+        if (!part->objectName().isEmpty() && !part->objectName().startsWith("qt_"))
+            names.insert(1, part->objectName());
+    return names.join('/');
+}
+
 enum class Opened
 {
     JobForm,

@@ -55,15 +55,6 @@ std::vector<QWidget*> EditorsIn(const QWidget& top)
     return editors;
 }
 
-QString Describe(const QWidget& widget)
-{
-    QStringList names{QString(widget.metaObject()->className()).section(':', -1)};
-    for (const QWidget* part = &widget; part; part = part->parentWidget())
-        if (!part->objectName().isEmpty() && !part->objectName().startsWith("qt_"))
-            names.insert(1, part->objectName());
-    return names.join('/');
-}
-
 /// How strongly two colours differ, from 1 to 21, as the guidelines for accessible web content count it.
 double Contrast(const QColor& first, const QColor& second)
 {

@@ -59,12 +59,6 @@ class TestCompare : public DeskTest
         QEvent activation(QEvent::WindowActivate);
         QCoreApplication::sendEvent(&Window(), &activation);
     }
-    void Load(OtherJob& job, const QByteArray& content)
-    {
-        WriteAll(File("load.job.xml"), content);
-        FileError error;
-        QVERIFY2(job.file.Load(File("load.job.xml"), &error), qPrintable(error.ToText()));
-    }
 
 private Q_SLOTS:
     void init() { Begin(); }
@@ -90,7 +84,8 @@ private Q_SLOTS:
         JournalHook hook = Tree::Instance()->SetJournal([&](const JournalEntry&) { ++heard; });
         {
             OtherJob other;
-            Load(other, right);
+            WriteAll(File(), right);
+            QVERIFY(other.file.Load(File()));
             QCOMPARE(ToText(CompareTrees(*Tree::Instance(), {}, other.tree, {})), text);
         }
         Tree::Instance()->SetJournal(std::move(hook));

@@ -195,7 +195,6 @@ private slots:
             QCoreApplication::processEvents(); // by which the cell's editor is closed
             QCOMPARE(list->rowCount(), ++rows);
         }
-        QCoreApplication::processEvents();
         CompareSteps(2);
         QCOMPARE(list->rowCount(), rows);
         // A cell that is still being typed counts before undo.
@@ -314,8 +313,7 @@ private slots:
 
     void theOldestOfManyStepsGo()
     {
-        const int count = int(EditHistory::MaximumSteps) + 5;
-        for (int step = 0; step < count; ++step)
+        for (int step = 0; step < int(EditHistory::MaximumSteps) + 5; ++step)
         {
             EditHistory::Step one(History(), "One");
             Set(frequencyPath, QString::number(7000000 + step));

@@ -124,10 +124,8 @@ private:
     // No popup, no dialog, nothing half typed.
     void Settle()
     {
-        QElapsedTimer waiting;
-        waiting.start();
-        while ((QApplication::activePopupWidget() || QApplication::activeModalWidget()) && waiting.elapsed() < 20000)
-            QTest::qWait(5);
+        const auto isFree = [] { return !QApplication::activePopupWidget() && !QApplication::activeModalWidget(); };
+        QVERIFY(QTest::qWaitFor(isFree, 20000));
         CommitPendingEdit();
         QCoreApplication::processEvents();
     }

@@ -9,20 +9,6 @@
 
 using namespace EditorTest;
 
-namespace
-{
-
-QString Where(const QWidget* widget)
-{
-    QStringList names;
-    for (; widget; widget = widget->parentWidget())
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
-            names.prepend(widget->objectName());
-    return names.join('/');
-}
-
-} // namespace
-
 /// Every dialog of the sample job in both forms, and every panel that is opened directly.
 class TestSampleJob : public DeskTest
 {
@@ -62,7 +48,7 @@ class TestSampleJob : public DeskTest
                 {
                     QString& holder = taken[QPair(row + cell / columns, column + cell % columns)];
                     const QString name = label ? label->text() : widget->objectName();
-                    QVERIFY2(holder.isEmpty(), qPrintable(Where(widget) + ": " + holder + " and " + name));
+                    QVERIFY2(holder.isEmpty(), qPrintable(Describe(*widget) + ": " + holder + " and " + name));
                     holder = name;
                 }
             }
@@ -110,13 +96,13 @@ private slots:
                 links += link ? 1 : 0;
                 // This panel works on an empty task path in the stand-alone form.
                 if (link && !link->GetBoundValue() && !(form == 1 && panel->objectName() == "FFTDataDlg"))
-                    faults << "unbound: " + Where(widget);
+                    faults << "unbound: " + Describe(*widget);
                 const bool isShown =
                     link || qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
                 const QSize need = widget->minimumSizeHint();
                 if (widget->isVisible() && isShown &&
                     (widget->width() < need.width() || widget->height() < need.height()))
-                    faults << "clipped: " + Where(widget);
+                    faults << "clipped: " + Describe(*widget);
             }
             QVERIFY(links > 0);
             QVERIFY2(faults.isEmpty(), qPrintable(dialog->tabText(index) + ": " + faults.join("; ")));
@@ -155,7 +141,7 @@ private slots:
             for (const QWidget* widget : host.findChildren<QWidget*>())
                 if (dynamic_cast<const ValueLink*>(widget) || qobject_cast<const VCCheckableGroupBox*>(widget))
                 {
-                    QVERIFY2(!widget->isEnabled(), qPrintable(Where(widget)));
+                    QVERIFY2(!widget->isEnabled(), qPrintable(Describe(*widget)));
                     ++locked;
                 }
         }
