@@ -218,9 +218,11 @@ private:
     void Values()
     {
         Settle();
-        if (Window().Nodes().GetNodes().empty())
-            return;
-        const QString path = Any(Window().Nodes().GetNodes()).path;
+        if (!Window().Nodes().GetNodes().empty())
+            Write(Any(Window().Nodes().GetNodes()).path);
+    }
+    void Write(const QString& path)
+    {
         Note(path);
         for (const auto& value : TKE::Tree::Instance()->FindNode(path)->GetValues())
             if (Below(4) == 0)
@@ -238,6 +240,8 @@ private:
         Note(QString::number(what) + ' ' + node.path);
         const QString path = node.path.chopped(1);
         QString reason;
+        if (Below(2))
+            Write(node.path);
         if (what == 0)
             Document().RemoveNode(path, &reason);
         else if (what == 1)
