@@ -29,12 +29,6 @@ public:
         const std::scoped_lock lock(s_mutex);
         return std::exchange(s_calls, {});
     }
-    static struct stat Of(int handle)
-    {
-        struct stat found = {};
-        fstat(handle, &found);
-        return found;
-    }
     static struct stat Of(const QByteArray& path)
     {
         struct stat found = {};
@@ -43,7 +37,8 @@ public:
     }
     static int Do(long call, int handle)
     {
-        const struct stat found = Of(handle);
+        struct stat found = {};
+        fstat(handle, &found);
         if (const int error = s_before ? s_before(handle) : 0)
         {
             errno = error;

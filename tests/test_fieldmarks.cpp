@@ -1,4 +1,3 @@
-#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/changemark.h"
 #include "jobedit/fieldmarks.h"
@@ -64,24 +63,21 @@ void Choose(QMenu* menu, QAction* entry)
     QCoreApplication::processEvents();
 }
 
-void RightClick(QWidget* widget, QPoint place = {})
+/// The menu that comes up then.
+QMenu* RightClick(QWidget* widget, QPoint place = {})
 {
     QWidget* window = widget->window();
     if (place.isNull())
         place = widget->rect().center();
     QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, widget->mapTo(window, place));
+    return OpenMenu();
 }
 
 } // namespace
 
-class TestFieldMarks : public QObject
+class TestFieldMarks : public DeskTest
 {
     Q_OBJECT
-
-    std::optional<Desk> m_desk;
-
-    MainWindow& Window() { return m_desk->window; }
-    QTabWidget* Dialog() { return Window().Dialog().GetDialog(); }
 
     /// The first visible, enabled field of this class that any dialog shows.
     Fields::Field FieldOfClass(const char* name)
@@ -94,12 +90,12 @@ class TestFieldMarks : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_desk.emplace();
+        Begin();
         Window().resize(1400, 950);
     }
     void cleanup()
     {
-        m_desk.reset();
+        End();
         NightColours::Switch(false);
     }
 
@@ -108,26 +104,31 @@ private Q_SLOTS:
     {
         QFETCH(bool, night);
         NightColours::Switch(night);
-        ValueBase* value = Editor::Value(frequencyPath);
+        ValueBase* value = Value(frequencyPath);
         QVERIFY(value->SetToDefault());
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         QLineEdit* field = m_desk->FrequencyField();
         QCOMPARE(MarkBeside(field), "");
-
         m_desk->TypeFrequency("7040 k\t");
         QCOMPARE(MarkBeside(field), "both");
+        // It is said in words as well.
+        QTRY_VERIFY(field->accessibleDescription().contains("Differs from the saved file"));
+        QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), field->mapToGlobal(QPoint(3, 3)));
+        QCoreApplication::sendEvent(field, &help);
+        QVERIFY2(QToolTip::text().contains("saved file: 10 MHz"), qPrintable(QToolTip::text()));
         QVERIFY(Window().Save());
         QCOMPARE(MarkBeside(field), "outlined");
         QVERIFY(value->SetToDefault());
         QCOMPARE(MarkBeside(field), "filled");
         QVERIFY(value->SetStoredText("7040000"));
         QCOMPARE(MarkBeside(field), "outlined");
+        QTRY_VERIFY(!field->accessibleDescription().contains("saved file"));
         QVERIFY(field->isVisible() && Window().childAt(field->mapTo(&Window(), QPoint(5, 5))) == field);
     }
 
     void theMarksAreSwitchedInTheViewMenuAndStaySo()
     {
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
+        Set(frequencyPath, "7100000");
         QVERIFY(MarkBeside(m_desk->FrequencyField()) != "");
         QAction* action = Window().findChild<FieldMarks*>()->GetAction();
         action->trigger();
@@ -137,27 +138,11 @@ private Q_SLOTS:
         QVERIFY(!Editor().window.findChild<FieldMarks*>()->GetAction()->isChecked());
     }
 
-    void theMarkIsSaidInWords()
-    {
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7200000"));
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
-        QLineEdit* field = m_desk->FrequencyField();
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
-        QTRY_VERIFY(field->accessibleDescription().contains("Differs from the saved file"));
-        QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), field->mapToGlobal(QPoint(3, 3)));
-        QCoreApplication::sendEvent(field, &help);
-        QVERIFY2(QToolTip::text().contains("saved file: 7.2 MHz") || QToolTip::text().contains("7200"),
-                 qPrintable(QToolTip::text()));
-        QVERIFY(Editor::Value(frequencyPath)->SetToDefault());
-        QVERIFY(Window().Save());
-        QTRY_VERIFY(field->accessibleDescription().isEmpty());
-    }
-
     void marksFollowScrollingAndWhatIsScrolledAwayHasNone()
     {
         Window().resize(700, 420);
         QCoreApplication::processEvents();
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
+        Set(frequencyPath, "7100000");
         QLineEdit* field = m_desk->FrequencyField();
         auto* area = Window().Dialog().findChild<QScrollArea*>();
         QScrollBar* bar = area->verticalScrollBar();
@@ -173,14 +158,10 @@ private Q_SLOTS:
 
     void theMarksOfAPanelWindowGoWithTheValuesThatTheyStandFor()
     {
-        const JobNode* node = nullptr;
-        for (const JobNode& one : Window().Nodes().GetNodes())
-            if (!node && !FindDirectPanels(one).empty())
-                node = &one;
-        QVERIFY(node);
-        const QString path = node->path;
-        Window().Nodes().SelectNode(path);
-        auto* panel = new PanelWindow(*node, *FindDirectPanels(*node).front(), &Window());
+        const auto hasPanel = [](const JobNode& node) { return !FindDirectPanels(node).empty(); };
+        const JobNode node = *std::ranges::find_if(Window().Nodes().GetNodes(), hasPanel);
+        Window().Nodes().SelectNode(node.path);
+        auto* panel = new PanelWindow(node, *FindDirectPanels(node).front(), &Window());
         panel->show();
         QVERIFY(QTest::qWaitForWindowExposed(panel));
         auto fields = Fields::VisibleIn(*panel);
@@ -189,7 +170,7 @@ private Q_SLOTS:
         QWidget* field = fields.front().widget;
         QVERIFY(fields.front().value->SetStoredText(OtherContent(*fields.front().value)));
         QVERIFY2(MarkBeside(field) != "", qPrintable(field->objectName()));
-        Tree::Instance()->RemoveBranch(path);
+        Tree::Instance()->RemoveBranch(node.path);
         QCOMPARE(MarkBeside(field), "");
     }
 
@@ -210,32 +191,28 @@ private Q_SLOTS:
         QFETCH(bool, keepsOwn);
         const Fields::Field field = FieldOfClass(name.constData());
         QVERIFY2(field.widget, "no dialog of the sample has one");
-        const QPointer<QWidget> widget = field.widget;
         const QString path = field.value->GetPathName();
         const QString saved = field.value->GetStoredText();
-        const QString other = OtherContent(*field.value);
-        QVERIFY(field.value->SetStoredText(other) && saved != other);
+        QVERIFY(field.value->SetStoredText(OtherContent(*field.value)));
         QCoreApplication::processEvents();
         const auto shown = FieldOfClass(name.constData()); // the panel may be another one now
-        QCOMPARE(shown.value, Editor::Value(path));
+        QCOMPARE(shown.value, Value(path));
 
-        RightClick(shown.widget, name.contains("Group") ? QPoint(4, 4) : QPoint());
-        QMenu* menu = OpenMenu();
+        QMenu* menu = RightClick(shown.widget, name.contains("Group") ? QPoint(4, 4) : QPoint());
         QVERIFY(menu);
         QAction* reset = Entry(menu, "Reset to Saved Value");
         QVERIFY(reset && reset->isEnabled());
         QCOMPARE(Entry(menu, "Reset to Saved") != menu->actions().front(), keepsOwn);
-        QVERIFY(Entry(menu, "Key: " + Editor::Value(path)->GetName()));
-        QVERIFY(!Entry(menu, "Key: ")->isEnabled());
+        const QAction* key = Entry(menu, "Key: " + Value(path)->GetName());
+        QVERIFY(key && !key->isEnabled());
         Choose(menu, reset);
-        QCOMPARE(Editor::Value(path)->GetStoredText(), saved);
+        QCOMPARE(Stored(path), saved);
 
         // And by the keyboard, now with nothing to take back.
         const auto again = FieldOfClass(name.constData());
         again.widget->setFocus();
         QTest::keyClick(again.widget, Qt::Key_F10, Qt::ShiftModifier);
         QTRY_VERIFY(OpenMenu());
-        QVERIFY(Entry(OpenMenu(), "Reset to Saved Value"));
         QVERIFY(!Entry(OpenMenu(), "Reset to Saved Value")->isEnabled());
         OpenMenu()->close();
     }
@@ -248,13 +225,13 @@ private Q_SLOTS:
         VCCheckableGroupBox box(nullptr, "box", {});
         auto* period = new VCTimePeriod(&box, "period");
         auto* other = new QLabel("other", &box);
-        QVERIFY(box.SetValue(Editor::Value("/T/On")) && period->SetPeriod_ValuePath("/T/Start", "/T/Stop"));
-        QCOMPARE(Fields::Of(period->findChild<QLabel*>("StopLabel")).value, Editor::Value("/T/Stop"));
-        QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Editor::Value("/T/Start"));
-        QCOMPARE(Fields::Of(&box).value, Editor::Value("/T/On"));
+        QVERIFY(box.SetValue(Value("/T/On")) && period->SetPeriod_ValuePath("/T/Start", "/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QLabel*>("StopLabel")).value, Value("/T/Stop"));
+        QCOMPARE(Fields::Of(period->findChild<QTimeEdit*>("StartTime")).value, Value("/T/Start"));
+        QCOMPARE(Fields::Of(&box).value, Value("/T/On"));
         QVERIFY(!Fields::Of(other).value);
         VCLineEdit locked;
-        QVERIFY(locked.Bind(Editor::Value("/T/Start")) && Fields::IsEditable(Fields::Of(&locked)));
+        QVERIFY(locked.Bind(Value("/T/Start")) && Fields::IsEditable(Fields::Of(&locked)));
         locked.Lock();
         QVERIFY(Fields::Of(&locked).value && !Fields::IsEditable(Fields::Of(&locked)));
         Tree::Instance()->RemoveBranch(u"/T");
@@ -263,48 +240,30 @@ private Q_SLOTS:
 
     void aLabelHasTheMenuOfItsField()
     {
-        QLineEdit* field = m_desk->FrequencyField();
-        QLabel* label = nullptr;
-        for (QLabel* one : Dialog()->findChildren<QLabel*>())
-            if (one->buddy() == field)
-                label = one;
-        QVERIFY(label);
-        RightClick(label);
-        QVERIFY(OpenMenu());
+        const QLineEdit* field = m_desk->FrequencyField();
+        const auto labels = Dialog()->findChildren<QLabel*>();
+        const auto label = std::ranges::find(labels, field, &QLabel::buddy);
+        QVERIFY(label != labels.end() && RightClick(*label));
         Choose(OpenMenu(), Entry(OpenMenu(), "Copy Path"));
         QCOMPARE(QGuiApplication::clipboard()->text(), frequencyPath);
     }
 
     void nothingIsWrittenToADisabledValue()
     {
-        ValueBase* value = Editor::Value(frequencyPath);
+        ValueBase* value = Value(frequencyPath);
         QLineEdit* field = m_desk->FrequencyField();
         QVERIFY(value->SetStoredText("7100000"));
-        RightClick(field);
-        QMenu* menu = OpenMenu();
+        QMenu* menu = RightClick(field);
         QVERIFY(menu);
         value->SetState(stDisabled); // while the menu is open
         Entry(menu, "Reset to Default")->trigger();
         menu->close();
         QCoreApplication::processEvents();
         QCOMPARE(value->GetStoredText(), "7100000");
-        RightClick(field);
-        QVERIFY(OpenMenu());
+        QVERIFY(RightClick(field));
         for (const char* entry : {"Reset to Saved", "Reset to Default"})
             QVERIFY(!Entry(OpenMenu(), entry)->isEnabled());
         OpenMenu()->close();
-    }
-
-    void theMenusOfTheWindowStayAsTheyAre()
-    {
-        RightClick(Window().Nodes().View()->viewport());
-        if (OpenMenu())
-            OpenMenu()->close();
-        RightClick(m_desk->FrequencyField());
-        OpenMenu()->close();
-        Window().EditMenu()->popup(QPoint());
-        QVERIFY(!Entry(Window().EditMenu(), "Copy Path"));
-        Window().EditMenu()->close();
     }
 };
 

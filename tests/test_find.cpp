@@ -1,5 +1,3 @@
-#include "application/translationcenter.h"
-#include "common.h"
 #include "editorfixture.h"
 #include "ipcparam/parameterdlg.h"
 #include "jobedit/fieldindex.h"
@@ -39,13 +37,10 @@ QSet<QString> ShownPaths(const std::vector<JOBEDIT::JobNode>& nodes)
 
 } // namespace
 
-class TestFind : public QObject
+class TestFind : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
-
-    MainWindow& Window() { return m_desk->window; }
     QLineEdit* Text() { return Window().findChild<QLineEdit*>("findText"); }
     QTreeView* Hits() { return Window().findChild<QTreeView*>("findHits"); }
     QString Cell(int row, int column) { return Hits()->model()->index(row, column).data().toString(); }
@@ -57,8 +52,8 @@ class TestFind : public QObject
     }
 
 private Q_SLOTS:
-    void init() { m_desk.emplace(); }
-    void cleanup() { m_desk.reset(); }
+    void init() { Begin(); }
+    void cleanup() { End(); }
 
     void wordsFindTheBestFieldFirst_data()
     {
@@ -87,26 +82,26 @@ private Q_SLOTS:
 
     void aLabelThatBeginsGoesBeforeAWordBeforeAKeyBeforeADescription()
     {
+        std::list<ValueDescriptor> descriptors;
         Tree tree;
-        const auto make = [&](const char* key, const char* label, const char* description)
+        const auto make = [&](const char* key, const char* label, const char* description = "")
         {
-            static std::vector<std::unique_ptr<ValueDescriptor>> descriptors;
-            descriptors.push_back(std::make_unique<ValueDescriptor>());
-            descriptors.back()->label = label;
-            descriptors.back()->description = description;
-            tree.CreateValue(QStringLiteral("/A/") + key, *descriptors.back());
+            ValueDescriptor& descriptor = descriptors.emplace_back();
+            descriptor.label = label;
+            descriptor.description = description;
+            tree.CreateValue(QStringLiteral("/A/") + key, descriptor);
         };
         make("D1", "", "about volume");
-        make("VOLUMEK", "", "");
-        make("W1", "Audio volume", "");
-        make("B1", "Volume of audio", "");
-        make("B2", "Volume", "");
-        make("OTHER", "", "");
+        make("VOLUMEK", "");
+        make("W1", "Audio volume");
+        make("B1", "Volume of audio");
+        make("B2", "Volume");
+        make("OTHER", "");
         FieldIndex index(tree);
         QCOMPARE(index.Find("volume", 200).paths, (QStringList{"/A/B1", "/A/B2", "/A/W1", "/A/VOLUMEK", "/A/D1"}));
         QCOMPARE(index.Find("volume", 2).paths, (QStringList{"/A/B1", "/A/B2"}));
         QCOMPARE(index.Find("volume", 2).count, 5);
-        make("B3", "Volume", "");
+        make("B3", "Volume");
         QCOMPARE(index.Find("volume", 200).count, 6);
     }
 
@@ -141,7 +136,7 @@ private Q_SLOTS:
         QTest::keyClick(Text(), Qt::Key_Return);
         QCOMPARE(PathOf(QApplication::focusWidget()), second);
         QVERIFY(!Text()->isVisible());
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
 
         QWidget* field = QApplication::focusWidget();
         Find("gain");
@@ -149,16 +144,6 @@ private Q_SLOTS:
         QVERIFY(!Text()->isVisible());
         QCOMPARE(QApplication::focusWidget(), field);
         QVERIFY(!Window().isWindowModified());
-    }
-
-    void aFieldStandsUnderItsLabelInTheLanguageThatRuns()
-    {
-        const ValueBase& gain = *Tree::Instance()->FindValue(tunerPath + Keys::TUNER_HF_NB_GAIN_CTRL_METHOD);
-        QCOMPARE(FieldTexts::Label(gain), QStringLiteral("Gain"));
-        QVERIFY(TranslationCenter::Instance()->Install(QLocale("de")));
-        QCOMPARE(FieldTexts::Label(gain), QString::fromUtf8("Verst\u00e4rkung"));
-        QCOMPARE(FieldTexts::Labels(gain.GetDescriptor()).constFirst(), QStringLiteral("Gain"));
-        TranslationCenter::Instance()->Install(QLocale::C);
     }
 
     void moreThanAPageOfHitsIsShownOnDemand()
@@ -193,7 +178,7 @@ private Q_SLOTS:
             const bool isReached = FieldNavigator(Window()).GoTo(path);
             QWidget* focus = QApplication::focusWidget();
             // Opening a panel may disable what does not apply in it.
-            if (Tree::Instance()->FindValue(path)->GetState() != stEnabled)
+            if (Value(path)->GetState() != stEnabled)
                 continue;
             QVERIFY2(isReached && PathOf(focus) == path, qPrintable(path + " -> " + PathOf(focus)));
             QVERIFY2(focus->isVisible() && !focus->visibleRegion().isEmpty(), qPrintable(path));
@@ -218,10 +203,10 @@ private Q_SLOTS:
                 QCOMPARE(PathOf(QApplication::focusWidget()), value->GetPathName());
                 ++reached;
             }
-        QVERIFY2(reached > 0, qPrintable(QString::number(reached)));
+        QVERIFY(reached > 0);
     }
 
-    void whatNoDialogShowsIsToldAndItsNodeSelected()
+    void whatNoDialogShowsOrDoesNotApplyIsTold()
     {
         const QString hiddenPath = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/STATE_AUTOMATICMODE";
         QVERIFY(!FieldNavigator(Window()).GoTo(hiddenPath));
@@ -229,52 +214,17 @@ private Q_SLOTS:
         Window().Nodes().SelectNode(tunerPath);
         Find(hiddenPath);
         QTest::keyClick(Text(), Qt::Key_Return);
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, ParameterDlg::GetParentPath(hiddenPath + '/'));
+        QCOMPARE(m_desk->CurrentPath(), ParameterDlg::GetParentPath(hiddenPath + '/'));
         QVERIFY(Window().statusBar()->currentMessage().contains(hiddenPath));
         QVERIFY(Window().Nodes().View()->hasFocus());
-    }
-
-    void aFieldThatDoesNotApplyIsShownAndTold()
-    {
+        // What does not apply is shown without the keyboard.
         Window().Dialog().SetForm(Form::StandAlone);
         const QString path = tunerPath + Keys::TUNER_HF_NB_NF1_BANDWIDTH;
         QVERIFY(FieldNavigator(Window()).GoTo(path));
         QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
-        auto* field = Window().Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
+        const auto* field = Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_NF1_BANDWIDTH);
         QVERIFY(field && field->isVisible() && !field->hasFocus());
         QVERIFY(Window().statusBar()->currentMessage().contains(path));
-    }
-
-    void theFilterOfTheNodesKeepsAKeyOfItsOwn()
-    {
-        QTest::keyClick(&Window(), Qt::Key_L, Qt::ControlModifier);
-        QVERIFY(Window().Nodes().Filter()->hasFocus());
-    }
-
-    void aThousandChainsAreSearchedWhileOneTypes()
-    {
-        Tree tree;
-        JobFile job(tree);
-        const NodeSpec chain{.name = {},
-                             .type = "IPC_FULL",
-                             .groups = {"G_AUTOREC", "G_CLASSIFIER", "G_DECODER", "G_DEMOD_HF", "G_DFLOCATE",
-                                        "G_GENERAL_CS", "G_TUNER_HF"}};
-        QVERIFY(job.AddNode(u"", {.name = "/Jobs", .type = "JOB"}));
-        for (int number = 0; number < 1000; ++number)
-        {
-            NodeSpec spec = chain;
-            spec.name = QString("CHAIN%1").arg(number);
-            QVERIFY(job.AddNode(u"/Jobs", spec));
-        }
-        FieldIndex index(tree);
-        QElapsedTimer time;
-        time.start();
-        index.Find("gain", 200);
-        const qint64 first = time.restart();
-        QCOMPARE(index.Find("hz frequency chain9", 200).paths.size(), 200);
-        const qint64 next = time.elapsed();
-        qInfo("%zu values: %lld ms for the first search, %lld ms for another", tree.ValueCount(), first, next);
-        QVERIFY(first < 2000 && next < 500);
     }
 };
 

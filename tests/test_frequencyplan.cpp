@@ -1,4 +1,3 @@
-#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/frequencyplan.h"
 #include "jobedit/planactions.h"
@@ -22,30 +21,18 @@ const PlanLane* LaneOf(const FrequencyPlan& plan, const QString& path)
     return found == plan.GetLanes().end() ? nullptr : &*found;
 }
 
-void Set(const QString& path, const QString& stored)
+/// Whether it stands there, with its middle or an edge.
+bool IsAt(const PlanMark& mark, qint64 hertz)
 {
-    ValueBase* value = Tree::Instance()->FindValue(path);
-    QVERIFY2(value && value->SetStoredText(stored), qPrintable(path));
-}
-
-/// Brings the mouse over `place` and turns the wheel there.
-void Turn(PlanView& view, const QPoint& place, int steps, Qt::KeyboardModifiers modifiers = {})
-{
-    QWidget* port = view.viewport();
-    QWheelEvent event(place, port->mapToGlobal(place), {}, {0, 120 * steps}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
-                      false);
-    QApplication::sendEvent(port, &event);
+    return mark.frequency == hertz || (mark.frequency < 0 && (mark.from == hertz || mark.to == hertz));
 }
 
 } // namespace
 
-class TestFrequencyPlan : public QObject
+class TestFrequencyPlan : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
-
-    MainWindow& Window() { return m_desk->window; }
     FrequencyPlan Plan() { return FrequencyPlan::Of(Window().Document().GetNodes(), *Tree::Instance()); }
     PlanPane& Pane() { return Window().findChild<PlanActions*>()->Pane(); }
     PlanView& Hf() { return *Pane().View(Band::Hf); }
@@ -58,10 +45,10 @@ class TestFrequencyPlan : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_desk.emplace();
+        Begin();
         Window().resize(1300, 1000);
     }
-    void cleanup() { m_desk.reset(); }
+    void cleanup() { End(); }
 
     void aChainsLaneSaysWhatItDoes_data()
     {
@@ -112,13 +99,8 @@ private Q_SLOTS:
                 if (value->GetKind() != ValueKind::Frequency || value->GetDescriptor().minimum < 9e3)
                     continue;
                 const qint64 hertz = static_cast<const FrequencyValue&>(*value).GetValue();
-                QVERIFY2(lane && std::ranges::any_of(lane->marks,
-                                                     [&](const PlanMark& mark) {
-                                                         return mark.frequency < 0
-                                                                    ? mark.from == hertz || mark.to == hertz
-                                                                    : mark.frequency == hertz;
-                                                     }),
-                         qPrintable(value->GetPathName()));
+                const auto isThere = [&](const PlanMark& mark) { return IsAt(mark, hertz); };
+                QVERIFY2(lane && std::ranges::any_of(lane->marks, isThere), qPrintable(value->GetPathName()));
                 ++seen;
             }
             for (const auto& child : node.GetNodes())
@@ -150,9 +132,7 @@ private Q_SLOTS:
         const PlanLane* lane = LaneOf(plan, job + value.left(value.lastIndexOf('/') + 1));
         QVERIFY(lane);
         const qint64 first = content.section(';', 0, 0).toLongLong();
-        const auto mark = std::ranges::find_if(
-            lane->marks, [&](const PlanMark& candidate)
-            { return candidate.frequency == first || (candidate.frequency < 0 && candidate.from == first); });
+        const auto mark = std::ranges::find_if(lane->marks, [&](const PlanMark& one) { return IsAt(one, first); });
         QVERIFY(mark != lane->marks.end());
         QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Hf), onHf);
         QCOMPARE(FrequencyPlan::IsOn(*lane, *mark, Band::Vuhf), onVuhf);
@@ -189,41 +169,37 @@ private Q_SLOTS:
         QVERIFY2(texts.contains(text), qPrintable(texts.join(", ")));
     }
 
-    void theWheelZoomsAroundTheCursor()
+    void theWheelZoomsAroundTheCursorAndKeysZoomAndMove()
     {
         ShowPlan();
         const QPoint place = Hf().PlaceOf(tunerPath, 10e6);
         const auto before = Hf().GetRange();
-        Turn(Hf(), {place.x(), 60}, 3);
+        TurnWheel(*Hf().viewport(), {place.x(), 60}, 3);
         const auto after = Hf().GetRange();
         QVERIFY(after.second - after.first < 0.6 * (before.second - before.first));
         QVERIFY(std::abs(Hf().PlaceOf(tunerPath, 10e6).x() - place.x()) <= 1);
         // Never out of the band, however far.
-        Turn(Hf(), {place.x(), 60}, -40);
+        TurnWheel(*Hf().viewport(), {place.x(), 60}, -40);
         QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
-        Turn(Hf(), {place.x(), 60}, 200);
+        TurnWheel(*Hf().viewport(), {place.x(), 60}, 200);
         QVERIFY(Hf().GetRange().second - Hf().GetRange().first >= 999.0);
-    }
-
-    void keysZoomAndMove()
-    {
-        ShowPlan();
-        QTest::keyClick(&Hf(), Qt::Key_Plus);
-        const auto zoomed = Hf().GetRange();
+        Hf().SetRange(0.0, 30e6);
+        const std::pair whole(0.0, 30e6);
+        const auto press = [&](Qt::Key key)
+        {
+            QTest::keyClick(&Hf(), key);
+            return Hf().GetRange();
+        };
+        const auto zoomed = press(Qt::Key_Plus);
         QCOMPARE(zoomed.second - zoomed.first, 20e6);
-        QTest::keyClick(&Hf(), Qt::Key_Right);
-        QCOMPARE(Hf().GetRange().first, zoomed.first + 2e6);
-        QTest::keyClick(&Hf(), Qt::Key_Left);
-        QCOMPARE(Hf().GetRange(), zoomed);
-        QTest::keyClick(&Hf(), Qt::Key_Minus);
-        QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
-        QTest::keyClick(&Hf(), Qt::Key_Plus);
-        QTest::keyClick(&Hf(), Qt::Key_Home);
-        QCOMPARE(Hf().GetRange(), std::pair(0.0, 30e6));
+        QCOMPARE(press(Qt::Key_Right).first, zoomed.first + 2e6);
+        QCOMPARE(press(Qt::Key_Left), zoomed);
+        QCOMPARE(press(Qt::Key_Minus), whole);
+        QVERIFY(press(Qt::Key_Plus) != whole);
+        QCOMPARE(press(Qt::Key_Home), whole);
         Hf().SelectPath(job + "TDS_MSCAN_HF/CS_MEMORY/MEMORYSCAN/");
-        QTest::keyClick(&Hf(), Qt::Key_Asterisk);
-        QVERIFY(Hf().GetRange().first > 3e6 && Hf().GetRange().first < 3.5e6);
-        QVERIFY(Hf().GetRange().second > 5.25e6 && Hf().GetRange().second < 5.6e6);
+        const auto [from, to] = press(Qt::Key_Asterisk);
+        QVERIFY(from > 3e6 && from < 3.5e6 && to > 5.25e6 && to < 5.6e6);
     }
 
     void draggingMovesWithTheMouseAndChoosesNothing()
@@ -250,14 +226,14 @@ private Q_SLOTS:
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_VOICE/VOICE/");
         Hf().SelectPath(tunerPath);
         QTest::mouseClick(Hf().viewport(), Qt::LeftButton, {}, Hf().PlaceOf(tunerPath, 20e6));
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
         // From the last chain of a section to the first of the next: the heading is passed over.
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QTest::keyClick(&Hf(), Qt::Key_Down);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
         QTest::keyClick(&Hf(), Qt::Key_Return);
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
+        QCOMPARE(m_desk->CurrentPath(), job + "TDS_HFWB/CS_CLASS/CLASSIFIER/");
         QTest::keyClick(&Hf(), Qt::Key_Up);
         QCOMPARE(Hf().GetSelectedPath(), job + "TDS_HF1/CS_VOICE/VOICE/");
         QVERIFY(Hf().accessibleDescription().contains("Receive frequency: 10 MHz"));
@@ -267,12 +243,18 @@ private Q_SLOTS:
     {
         ShowPlan();
         Window().Nodes().SelectNode(tunerPath);
-        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
+        Set(frequencyPath, "7040500");
         Set(tunerPath + "SCAN_STATUS", "true");
         QTRY_VERIFY(Hf().SelectedText().contains("Receive frequency: 7.0405 MHz"));
         QVERIFY(Hf().SelectedText().contains("Scan: 3 MHz to 3.5 MHz\n"));
         // The list applies to another type of scan.
         QVERIFY(Hf().SelectedText().contains("Scan list 1: 3.5 MHz (switched off)"));
+        // Those that were made while it was hidden, too.
+        QTest::keyClick(&Window(), Qt::Key_F8);
+        QVERIFY(!Hf().isVisible());
+        Set(frequencyPath, "7040600");
+        ShowPlan();
+        QVERIFY(Hf().SelectedText().contains("7.0406 MHz"));
         // A channel's own node belongs to the lane of its chain.
         const QString emitters = job + "TDS_EXC/CS_SIM/SIMULATION/";
         Window().Nodes().SelectNode(emitters);
@@ -306,33 +288,12 @@ private Q_SLOTS:
         QVERIFY(textAt(Hf().PlaceOf(tunerPath, 3.2e6)).contains("Scan: 3 MHz to 3.5 MHz (switched off)"));
     }
 
-    void aPlanThatWasHiddenIsUpToDateWhenShown()
-    {
-        ShowPlan();
-        QTest::keyClick(&Window(), Qt::Key_F8);
-        QVERIFY(!Hf().isVisible());
-        Set(tunerPath + "TUNER_HF_NB_FREQUENCY", "7040500");
-        Window().Nodes().SelectNode(tunerPath);
-        ShowPlan();
-        QVERIFY(Hf().SelectedText().contains("7.0405 MHz"));
-    }
-
-    void aLaneThatComesOrGoesAsksForANewPlan()
-    {
-        const QString path = job + "TDS_HF1/CS_TUNER/";
-        FrequencyPlan plan = Plan();
-        QVERIFY(plan.Update(path, *Tree::Instance())); // has none and gets none
-        QVERIFY(plan.Update(path + "Gone/", *Tree::Instance()));
-        Tree::Instance()->CreateValue<FrequencyValue>(path + "TUNER_EXT_FREQUENCY");
-        QVERIFY(!plan.Update(path, *Tree::Instance()));
-    }
-
     void thePicturesHoldAllChains()
     {
         FileError error;
-        QVERIFY(Window().Document().SaveAs(m_desk->File("a <b> & \"c\".job.xml"), error));
-        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
-        QXmlStreamReader reader(ReadAll(m_desk->File("plan.svg")));
+        QVERIFY(Window().Document().SaveAs(File("a <b> & \"c\".job.xml"), error));
+        QVERIFY2(ExportPlan(Window().Document(), File("plan.svg"), {1200, 0}, error), qPrintable(error.reason));
+        QXmlStreamReader reader(ReadAll(File("plan.svg")));
         QString texts;
         while (!reader.atEnd())
             if (reader.readNext() == QXmlStreamReader::Characters)
@@ -343,15 +304,13 @@ private Q_SLOTS:
         for (const PlanLane& lane : plan.GetLanes())
             QVERIFY2(texts.contains(lane.title), qPrintable(lane.title));
 
-        QVERIFY2(ExportPlan(Window().Document(), m_desk->File("plan.png"), {1200, 2000}, error),
-                 qPrintable(error.reason));
-        const QImage picture(m_desk->File("plan.png"));
+        QVERIFY2(ExportPlan(Window().Document(), File("plan.png"), {1200, 2000}, error), qPrintable(error.reason));
+        const QImage picture(File("plan.png"));
         QCOMPARE(picture.size(), QSize(1200, 2000));
         QSet<QRgb> colours;
-        for (int y = 0; y < picture.height(); y += 3)
-            for (int x = 0; x < picture.width(); x += 3)
-                colours.insert(picture.pixel(x, y));
-        QVERIFY(colours.size() > 20);
+        for (int y = 0; y < picture.height(); ++y)
+            colours << picture.pixel(picture.width() / 3, y);
+        QVERIFY(colours.size() > 5);
         QVERIFY(!Window().Document().IsModified());
     }
 
@@ -359,12 +318,12 @@ private Q_SLOTS:
     void aPictureThatCannotBeWrittenLeavesTheFile()
     {
         QFETCH(QString, name);
-        WriteAll(m_desk->File("plan.txt"), "kept");
+        WriteAll(File("plan.txt"), "kept");
         FileError error;
-        QVERIFY(!ExportPlan(Window().Document(), m_desk->File(name), {800, 0}, error));
-        QCOMPARE(error.file, m_desk->File(name));
+        QVERIFY(!ExportPlan(Window().Document(), File(name), {800, 0}, error));
+        QCOMPARE(error.file, File(name));
         QVERIFY(!error.reason.isEmpty());
-        QCOMPARE(ReadAll(m_desk->File("plan.txt")), QByteArray("kept"));
+        QCOMPARE(ReadAll(File("plan.txt")), QByteArray("kept"));
     }
 };
 

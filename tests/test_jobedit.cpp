@@ -1,73 +1,63 @@
 #include "editorfixture.h"
-#include "jobedit/chains.h"
+#include "jobedit/guidewindow.h"
+#include "jobedit/hintbar.h"
+#include "jobedit/languages.h"
 #include "jobedit/panelwindow.h"
 #include "jobedit/recentfiles.h"
-#include "common.h"
 
 #include <QLockFile>
-#include <set>
 
 using namespace EditorTest;
 
-class TestJobEdit : public QObject
+namespace
+{
+
+QChar MnemonicOf(QString text)
+{
+    text.remove("&&");
+    const qsizetype mark = text.indexOf('&');
+    return mark < 0 || mark + 1 == text.size() ? QChar() : text.at(mark + 1).toLower();
+}
+
+} // namespace
+
+class TestJobEdit : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
-
-    MainWindow& Window() { return m_desk->window; }
-
 private Q_SLOTS:
-    void init() { m_desk.emplace(); }
-    void cleanup() { m_desk.reset(); }
-
-    void everyEntryPointServesATaskOfTheSample()
+    void initTestCase() { InitCatalogues(); }
+    void init()
     {
-        std::set<const Chain*> served;
-        for (const JobNode& node : Window().Nodes().GetNodes())
-            if (const Chain* chain = FindChain(node))
-                served.insert(chain);
-            else
-                QVERIFY2(!node.type.startsWith("IPC_") || HasDialog(node), qPrintable(node.path + ' ' + node.type));
-        QCOMPARE(served.size(), Chains().size());
+        Languages::Apply("en");
+        Begin();
     }
-
-    void tasksOfOneTypeOpenByTheirBand()
+    void cleanup()
     {
-        QStringList calls;
-        for (const JobNode& node : Window().Nodes().GetNodes())
-            if (node.type == "IPC_HEADER_VOICE_AGMC")
-                calls << QString::number(int(FindChain(node)->band)) + node.path;
-        QCOMPARE(calls, (QStringList{QString::number(int(Band::Hf)) + "/Jobs/Demo/TDS_HFWB/HEADER_VOICE/",
-                                     QString::number(int(Band::Vuhf)) + "/Jobs/Demo/TDS_VUHFWB/HEADER_VOICE/"}));
+        End();
+        Languages::Apply("en");
     }
 
     void theFormOfADialogCanBeSwitchedAndKeepsTheTab()
     {
         Window().Nodes().SelectNode(tunerPath);
-        QTabWidget* job = Window().Dialog().GetDialog();
-        QVERIFY(job && job->count() > 0);
         QTest::keyClick(&Window(), Qt::Key_2, Qt::ControlModifier);
         QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
-        QTabWidget* standAlone = Window().Dialog().GetDialog();
-        QVERIFY(standAlone);
-        QCOMPARE(standAlone->tabText(standAlone->currentIndex()), QStringLiteral("Tuner"));
+        QCOMPARE(Dialog()->tabText(Dialog()->currentIndex()), "Tuner");
         QVERIFY(Window().Dialog().findChild<QRadioButton*>("standAloneForm")->isChecked());
     }
 
     void panelsOfANodeOpenInWindowsOfTheirOwnUntilAnotherJobComes()
     {
-        int opened = 0;
         for (const JobNode& node : Window().Nodes().GetNodes())
             for (const DirectPanel* panel : FindDirectPanels(node))
             {
                 auto* window = new PanelWindow(node, *panel, &Window());
                 window->show();
-                ++opened;
                 const auto values = Tree::Instance()->FindNode(node.path)->GetValues().size();
                 QVERIFY2(values == 0 || window->findChildren<QWidget*>().size() > 5, panel->name);
             }
-        QVERIFY(opened > 0);
+        QVERIFY(Window().findChildren<PanelWindow*>().size() > 10);
         QVERIFY(!Window().isWindowModified());
         QVERIFY(Window().NewFromSample());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -77,59 +67,50 @@ private Q_SLOTS:
     void aNodeWithoutADialogSaysSo()
     {
         QVERIFY(Window().Nodes().SelectNode("/Jobs/Demo/TDS_HF1/CS_TUNER"));
-        QVERIFY(!Window().Dialog().GetDialog());
+        QVERIFY(!Dialog());
         QVERIFY(Window().Dialog().findChild<QLabel*>("hint")->text().contains("CS_TUNER"));
         QVERIFY(!Window().Nodes().SelectNode("/Jobs/Demo/NOWHERE"));
     }
 
     void theFilterKeepsWhatMatchesWithItsSurroundings()
     {
-        QLineEdit* filter = Window().Nodes().Filter();
-        QTest::keyClicks(filter, "ipc_tuner_vuhf");
-        int shown = 0;
-        QAbstractItemModel* model = Window().Nodes().View()->model();
-        for (QModelIndexList left = {QModelIndex()}; !left.isEmpty();)
-        {
-            const QModelIndex parent = left.takeFirst();
-            for (int row = 0; row < model->rowCount(parent); ++row, ++shown)
-                left << model->index(row, 0, parent);
-        }
-        QCOMPARE(shown, 4); // job, section, channel set and the task
+        m_desk->Press(Qt::Key_L);
+        const QLineEdit* filter = Window().Nodes().Filter();
+        QVERIFY(filter->hasFocus());
+        QTest::keyClicks(QApplication::focusWidget(), "ipc_tuner_vuhf");
+        QCOMPARE(AllRows(*Window().Nodes().View()->model()).size(), 4); // job, section, channel set and the task
         QVERIFY(Window().Nodes().SelectNode(tunerPath));
         QVERIFY(filter->text().isEmpty());
     }
 
     void anEditByKeyboardIsThereAfterSavingAndReopening()
     {
+        Value(frequencyPath)->SetState(stDisabled);
+        QVERIFY(!Window().isWindowModified()); // that is no content
+        Value(frequencyPath)->SetState(stEnabled);
         m_desk->TypeFrequency("7040 k\t");
         QVERIFY(Window().isWindowModified());
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         QVERIFY(!Window().isWindowModified());
         QVERIFY(Window().windowTitle().startsWith("a.job.xml[*]"));
-
         QVERIFY(Window().NewFromSample());
-        QVERIFY(Editor::Value(frequencyPath)->GetStoredText() != "7040000");
-        QVERIFY(Window().OpenFile(m_desk->File("a.job.xml")));
-        QCOMPARE(Editor::Value(frequencyPath)->GetStoredText(), QStringLiteral("7040000"));
-        QVERIFY(m_desk->FrequencyField()->text().remove(' ').contains("7.04") ||
-                m_desk->FrequencyField()->text().contains("7040"));
+        QCOMPARE(Stored(frequencyPath), "10000000");
+        QVERIFY(Window().OpenFile(File()));
+        QCOMPARE(Stored(frequencyPath), "7040000");
+        QVERIFY(m_desk->FrequencyField()->text().remove(' ').contains("7040"));
     }
 
-    void anEditUnderWayIsSavedToo()
+    void anEditUnderWayIsSavedTooAndARefusedEntryIsNamed()
     {
         m_desk->TypeFrequency("7050 k");
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
-        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("7050000"));
+        QVERIFY(Window().SaveTo(File()));
+        QVERIFY(ReadAll(File()).contains("7050000"));
         m_desk->TypeFrequency("7060 k");
         QTest::keyClick(&Window(), Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("7060000"));
+        QVERIFY(ReadAll(File()).contains("7060000"));
         QVERIFY(m_desk->FrequencyField()->hasFocus());
-    }
-
-    void anEntryThatWasRefusedIsNamedWhenSaving()
-    {
         m_desk->TypeFrequency("much");
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().Save());
         QVERIFY(Window().Messages().GetText().contains("much"));
         QVERIFY(!Window().isWindowModified());
     }
@@ -150,30 +131,20 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(QString, place);
         if (!content.isEmpty())
-            WriteAll(m_desk->File("bad.job.xml"), content);
+            WriteAll(File("bad.job.xml"), content);
         Window().Nodes().SelectNode(tunerPath);
-        const QTabWidget* dialog = Window().Dialog().GetDialog();
+        const QTabWidget* dialog = Dialog();
         const QString title = Window().windowTitle();
-
-        Answer answer({"OK"});
-        QVERIFY(!Window().OpenFile(m_desk->File("bad.job.xml")));
+        const Answer answer({"OK"});
+        QVERIFY(!Window().OpenFile(File("bad.job.xml")));
         QVERIFY(answer.GetText().contains("bad.job.xml" + place));
-        QVERIFY(Window().Messages().GetText().contains(m_desk->File("bad.job.xml") + place));
+        QVERIFY(Window().Messages().GetText().contains(File("bad.job.xml") + place));
         if (content.contains("FREQUENCY"))
             QVERIFY(Window().Messages().GetText().contains("/T/TUNER_HF_NB_FREQUENCY"));
         QCOMPARE(Window().windowTitle(), title);
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
-        QCOMPARE(Window().Dialog().GetDialog(), dialog);
-        QVERIFY(Editor::Value(frequencyPath));
-    }
-
-    void onlyContentMarksTheJobAsModified()
-    {
-        ValueBase* value = Editor::Value(frequencyPath);
-        value->SetState(stDisabled);
-        QVERIFY(!Window().isWindowModified());
-        QVERIFY(value->SetStoredText("7100000"));
-        QVERIFY(Window().isWindowModified());
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
+        QCOMPARE(Dialog(), dialog);
+        QVERIFY(Value(frequencyPath));
     }
 
     void unsavedChangesAreAskedFor_data()
@@ -187,110 +158,68 @@ private Q_SLOTS:
     {
         QFETCH(QString, button);
         QFETCH(bool, goes);
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
-        m_desk->TypeFrequency("7070 k");
-        {
-            // Typed only, but a change all the same.
-            Answer answer({button});
-            QCOMPARE(Window().NewFromSample(), goes);
-            QVERIFY(answer.WasAsked());
-        }
+        QVERIFY(Window().SaveTo(File()));
+        m_desk->TypeFrequency("7070 k"); // typed only, but a change all the same
+        QVERIFY(Asks({button}, [&] { return Window().NewFromSample() == goes; }));
         QCOMPARE(Window().windowTitle().startsWith("a.job.xml"), !goes);
-        QCOMPARE(ReadAll(m_desk->File("a.job.xml")).contains("7070000"), button == "Save");
+        QCOMPARE(ReadAll(File()).contains("7070000"), button == "Save");
         QCOMPARE(Window().isWindowModified(), !goes);
-        if (!goes)
-        {
-            Answer answer({"Cancel"});
-            QVERIFY(!Window().close());
-            QVERIFY(Window().isVisible());
-        }
-    }
-
-    void whatSomebodyElseWroteIsOverwrittenOnlyWhenWanted()
-    {
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
-        WriteAll(m_desk->File("a.job.xml"), "<Job/>");
-        {
-            Answer answer({"Cancel"});
-            QVERIFY(!Window().Save());
-            QVERIFY(answer.WasAsked());
-        }
-        QCOMPARE(ReadAll(m_desk->File("a.job.xml")), QByteArray("<Job/>"));
-        QVERIFY(Window().isWindowModified());
-        Answer answer({"Overwrite"});
-        QVERIFY(Window().Save());
-        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("7100000"));
+        QVERIFY(goes || Asks({button}, [&] { return !Window().close() && Window().isVisible(); }));
     }
 
     void aFileOpenElsewhereIsOpenedReadOnlyOrNotAtAll()
     {
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         QVERIFY(Window().NewFromSample());
-        QLockFile other(m_desk->File("a.job.xml") + ".lock");
+        QLockFile other(File() + ".lock");
         QVERIFY(other.lock());
-        {
-            Answer answer({"Cancel"});
-            QVERIFY(!Window().OpenFile(m_desk->File("a.job.xml")));
-            QVERIFY(answer.WasAsked());
-        }
+        QVERIFY(Asks({"Cancel"}, [&] { return !Window().OpenFile(File()); }));
         QVERIFY(Window().Document().GetFileName().isEmpty());
-        {
-            Answer answer({"Open Read-Only"});
-            QVERIFY(Window().OpenFile(m_desk->File("a.job.xml")));
-        }
+        QVERIFY(Asks({"Open Read-Only"}, [&] { return Window().OpenFile(File()); }));
         QVERIFY(Window().Document().IsReadOnly());
         QVERIFY(Window().windowTitle().contains("read-only"));
-        {
-            Answer answer({"OK"});
-            QVERIFY(!Window().SaveTo(m_desk->File("a.job.xml")));
-            QVERIFY(answer.WasAsked());
-        }
-        QVERIFY(Window().SaveTo(m_desk->File("b.job.xml")));
+        QVERIFY(Asks({"OK"}, [&] { return !Window().SaveTo(File()); }));
+        QVERIFY(Window().SaveTo(File("b.job.xml")));
         QVERIFY(!Window().Document().IsReadOnly());
     }
 
     void aLockOfAnotherComputerIsTakenOverOnlyWhenWanted_data()
     {
-        QTest::addColumn<QByteArray>("lock");
-        QTest::addColumn<QString>("named");
-        QTest::addColumn<bool>("offered");
+        const Table<QByteArray, QString, bool> row("lock", "named", "offered");
         // The second line is the program, the third the computer.
-        QTest::newRow("another computer") << QByteArray("4711\njobedit\nfar-away\n") << "far-away" << true;
-        QTest::newRow("cannot be read") << QByteArray() << "another editor" << true;
-        QTest::newRow("this computer") << QByteArray::number(QCoreApplication::applicationPid()) + "\n" +
-                                              QFileInfo(QCoreApplication::applicationFilePath()).fileName().toUtf8() +
-                                              "\n" + QSysInfo::machineHostName().toUtf8() + "\n"
-                                       << QSysInfo::machineHostName() << false;
+        row("another computer", "4711\njobedit\nfar-away\n", "far-away", true);
+        row("cannot be read", {}, "another editor", true);
+        const QString program = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+        const QStringList own{
+            QString::number(QCoreApplication::applicationPid()), program, QSysInfo::machineHostName(), {}};
+        row("this computer", own.join('\n').toUtf8(), QSysInfo::machineHostName(), false);
     }
     void aLockOfAnotherComputerIsTakenOverOnlyWhenWanted()
     {
         QFETCH(QByteArray, lock);
         QFETCH(bool, offered);
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         QVERIFY(Window().NewFromSample());
-        WriteAll(m_desk->File("a.job.xml.lock"), lock);
+        QFile file(File() + ".lock");
+        WriteAll(file.fileName(), lock);
         const QDateTime since(QDate(2024, 2, 29), QTime(23, 5));
-        QFile file(m_desk->File("a.job.xml.lock"));
         QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(since, QFileDevice::FileModificationTime));
         file.close();
         QString text;
         const auto press = [&](const QString& button)
         {
-            QTimer::singleShot(50, this,
-                               [&text, button]
-                               {
-                                   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                                   QVERIFY(box);
-                                   text = box->text();
-                                   // The default does no harm.
-                                   QCOMPARE(box->defaultButton()->text().remove('&'), "Open Read-Only");
-                                   for (QAbstractButton* each : box->buttons())
-                                       if (each->text().remove('&') == button)
-                                           return each->click();
-                                   box->reject();
-                               });
-            return Window().OpenFile(m_desk->File("a.job.xml"));
+            const Next question(
+                [&](QDialog& dialog)
+                {
+                    auto& box = static_cast<QMessageBox&>(dialog);
+                    text = box.text();
+                    QCOMPARE(box.defaultButton()->text().remove('&'), "Open Read-Only"); // does no harm
+                    for (QAbstractButton* each : box.buttons())
+                        if (each->text().remove('&') == button)
+                            return each->click();
+                    box.reject();
+                });
+            return Window().OpenFile(File());
         };
         QCOMPARE(press("Take Over"), offered);
         QFETCH(QString, named);
@@ -313,48 +242,38 @@ private Q_SLOTS:
         QVERIFY(Window().Document().IsReadOnly());
         QCOMPARE(ReadAll(file.fileName()), lock);
         // Who was there first and is gone by now may have left the place to somebody else.
-        const auto before = JobLock::Of(m_desk->File("a.job.xml"));
+        const auto before = JobLock::Of(File());
         QVERIFY(before && before->IsOutOfSight());
         WriteAll(file.fileName(), "4712\njobedit\nfar-too\n");
         QString reason;
-        QVERIFY(!before->Remove(m_desk->File("a.job.xml"), reason));
+        QVERIFY(!before->Remove(File(), reason));
         QVERIFY2(reason.contains("far-too"), qPrintable(reason));
         QVERIFY(QFile::exists(file.fileName()));
         // What was edited read-only can get there, too.
-        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7100000"));
-        Answer answer({"Take Over"});
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        Set(frequencyPath, "7100000");
+        QVERIFY(Asks({"Take Over"}, [&] { return Window().SaveTo(File()); }));
         QVERIFY(!Window().Document().IsReadOnly());
-        QVERIFY(ReadAll(m_desk->File("a.job.xml")).contains("7100000"));
-    }
-
-    void aFailedSaveIsShownAndLeavesTheJobModified()
-    {
-        QVERIFY(Editor::Value(frequencyPath)->SetStoredText("7100000"));
-        Answer answer({"OK"});
-        QVERIFY(!Window().SaveTo(m_desk->File("nowhere/a.job.xml")));
-        QVERIFY(answer.WasAsked());
-        QVERIFY(Window().isWindowModified());
-        QVERIFY(Window().Messages().GetText().contains("nowhere/a.job.xml"));
-        QVERIFY(Window().Document().GetFileName().isEmpty());
+        QVERIFY(ReadAll(File()).contains("7100000"));
     }
 
     void recentFilesComeLatestFirstAndMissingOnesGoOnUse()
     {
         for (const char* name : {"a.job.xml", "b.job.xml", "a.job.xml"})
-            QVERIFY(Window().SaveTo(m_desk->File(name)));
-        QCOMPARE(RecentFiles::GetFiles(), (QStringList{m_desk->File("a.job.xml"), m_desk->File("b.job.xml")}));
-        QVERIFY(QFile::remove(m_desk->File("b.job.xml")));
-
+            QVERIFY(Window().SaveTo(File(name)));
+        QCOMPARE(RecentFiles::GetFiles(), (QStringList{File(), File("b.job.xml")}));
+        QVERIFY(QFile::remove(File("b.job.xml")));
         auto* menu = Window().findChild<RecentFiles*>();
         emit menu->aboutToShow();
-        Answer answer({"OK"});
-        menu->actions().at(1)->trigger();
-        QVERIFY(answer.WasAsked());
-        QCOMPARE(RecentFiles::GetFiles(), QStringList{m_desk->File("a.job.xml")});
-
+        QVERIFY(menu->actions().at(0)->text().endsWith("a.job.xml"));
+        QVERIFY(menu->actions().at(1)->text().endsWith("b.job.xml (not there)"));
+        {
+            const Answer answer({"OK"});
+            menu->actions().at(1)->trigger();
+            QVERIFY(answer.WasAsked());
+        }
+        QCOMPARE(RecentFiles::GetFiles(), QStringList{File()});
         for (int number = 0; number < RecentFiles::MaximumCount + 5; ++number)
-            RecentFiles::Add(m_desk->File(QString::number(number)));
+            RecentFiles::Add(File(QString::number(number)));
         QCOMPARE(RecentFiles::GetFiles().size(), qsizetype(RecentFiles::MaximumCount));
     }
 
@@ -379,9 +298,131 @@ private Q_SLOTS:
             reached << QApplication::focusWidget();
         }
         QCOMPARE(reached.at(0), Window().Dialog().findChild<QRadioButton*>("jobForm"));
-        QVERIFY(Window().Dialog().GetDialog()->isAncestorOf(reached.at(1)));
+        QVERIFY(Dialog()->isAncestorOf(reached.at(1)));
         QCOMPARE(reached.at(2), &Window().Messages());
         QCOMPARE(reached.at(3), Window().Nodes().View());
+    }
+
+    void aFileThatIsDroppedAnywhereIsOpened()
+    {
+        QVERIFY(Window().SaveTo(File()));
+        QVERIFY(Window().NewFromSample());
+        Window().Nodes().SelectNode(tunerPath);
+        auto* field = Dialog()->findChild<QLineEdit*>();
+        const QString before = field->text();
+        const QPointer<QLineEdit> watched = field;
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(File())});
+        files.setText(File());
+        QDragEnterEvent enter({2, 2}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(field, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({2, 2}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(field, &drop);
+        QCOMPARE(watched->text(), before);
+        QTRY_COMPARE(Window().Document().GetFileName(), File());
+
+        files.setUrls({QUrl::fromLocalFile("/a"), QUrl::fromLocalFile("/b")});
+        QDragEnterEvent two({2, 2}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&Window(), &two);
+        QVERIFY(!two.isAccepted());
+    }
+
+    void theWindowComesBackAsItWasAndAFileOpensWhereItWasLeft()
+    {
+        const QString path = std::ranges::find(Window().Nodes().GetNodes(), "IPC_FULL", &JobNode::type)->path;
+        QVERIFY(Window().SaveTo(File()));
+        QVERIFY(Window().Nodes().SelectNode(path));
+        Window().Dialog().SetForm(Form::StandAlone);
+        Dialog()->setCurrentIndex(4);
+        Window().resize(1000, 700);
+        Window().MessageDock()->hide();
+        QVERIFY(Window().close());
+
+        m_desk.emplace();
+        QCOMPARE(Window().size(), QSize(1000, 700));
+        QVERIFY(!Window().MessageDock()->isVisible());
+        QVERIFY(Window().NewFromSample());
+        QVERIFY(m_desk->CurrentPath() != path);
+        QVERIFY(Window().OpenFile(File()));
+        QCOMPARE(m_desk->CurrentPath(), path);
+        QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
+        QCOMPARE(Dialog()->currentIndex(), 4);
+        QVERIFY(!Window().isWindowModified());
+    }
+
+    void theHintIsOfferedUntilItIsNotWanted()
+    {
+        auto* hint = Window().findChild<HintBar*>();
+        QVERIFY(!hint->isVisible());
+        Window().OfferHint();
+        QVERIFY(hint->isVisible());
+        QTest::mouseClick(hint->findChild<QPushButton*>("neverAgain"), Qt::LeftButton);
+        QVERIFY(!hint->isVisible());
+        m_desk.emplace();
+        Window().OfferHint();
+        QVERIFY(!Window().findChild<HintBar*>()->isVisible());
+    }
+
+    void f1OpensTheGuideOnce()
+    {
+        QTest::keyClick(&Window(), Qt::Key_F1);
+        QTest::keyClick(&Window(), Qt::Key_F1);
+        const auto guides = Window().findChildren<GuideWindow*>();
+        QCOMPARE(guides.size(), 1);
+        auto* browser = guides.first()->findChild<QTextBrowser*>();
+        QVERIFY(browser->toPlainText().contains("guide for operators"));
+        QVERIFY(browser->document()->resource(QTextDocument::ImageResource, QUrl("pictures/en/plan.png")).isValid());
+        QTest::keyClick(guides.first(), Qt::Key_Escape);
+        QVERIFY(!guides.first()->isVisible());
+    }
+
+    void everyActionIsReachedByKeyboardAndNoMnemonicTwice_data() { EachText("language", {"en", "de"}); }
+    void everyActionIsReachedByKeyboardAndNoMnemonicTwice()
+    {
+        QFETCH(QString, language);
+        Languages::Apply(language);
+        m_desk.emplace();
+        QVERIFY(Window().SaveTo(File()));
+        QSet<const QAction*> inMenus;
+        QHash<QKeySequence, QString> shortcuts;
+        QList<std::pair<QString, QList<QAction*>>> menus{{"menu bar", Window().menuBar()->actions()}};
+        for (QMenu* menu : Window().findChildren<QMenu*>())
+        {
+            emit menu->aboutToShow();
+            menus << std::pair(menu->title(), menu->actions());
+        }
+        for (const auto& [title, actions] : menus)
+        {
+            QHash<QChar, QString> mnemonics;
+            for (const QAction* action : actions)
+            {
+                inMenus << action;
+                const QChar key = MnemonicOf(action->text());
+                if (key.isNull())
+                    continue;
+                const QString other = std::exchange(mnemonics[key], action->text());
+                QVERIFY2(other.isEmpty(), qPrintable(title + ": " + other + " and " + action->text()));
+            }
+            QVERIFY2(title != "menu bar" || mnemonics.size() == actions.size(), "A menu without a mnemonic.");
+        }
+        for (const QAction* action : Window().findChildren<QAction*>())
+        {
+            if (action->isSeparator() || action->text().isEmpty())
+                continue;
+            // Of a context menu, which opens by keyboard too; docks have theirs in that of the window.
+            const auto* owner = qobject_cast<const QWidget*>(action->parent());
+            const bool inContext = owner && (owner->contextMenuPolicy() == Qt::ActionsContextMenu ||
+                                             qobject_cast<const QDockWidget*>(owner));
+            QVERIFY2(inMenus.contains(action) || inContext || !action->shortcut().isEmpty(),
+                     qPrintable(action->text()));
+            if (action->shortcut().isEmpty() || action->shortcutContext() != Qt::WindowShortcut)
+                continue;
+            const QString other = std::exchange(shortcuts[action->shortcut()], action->text());
+            QVERIFY2(other.isEmpty(), qPrintable(other + " and " + action->text()));
+        }
+        for (const auto key : {QKeySequence::New, QKeySequence::Open, QKeySequence::Save, QKeySequence::Find})
+            QVERIFY(shortcuts.contains(QKeySequence(key)));
     }
 };
 

@@ -18,6 +18,8 @@ using namespace TKE;
 namespace
 {
 
+const QString frequency = QStringLiteral("TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY");
+
 struct Outcome
 {
     int status;
@@ -52,11 +54,12 @@ class TestJobEditCommands : public QObject
 
     QString File(const QString& name) const { return m_directory->filePath(name); }
 
-    void WriteSample(const QString& name)
+    QString WriteSample(const QString& name = "a.xml")
     {
         JobDocument document(JobModel::Load());
         FileError error;
-        QVERIFY2(document.NewFromSample(error) && document.SaveAs(File(name), error), qPrintable(error.reason));
+        const bool good = document.NewFromSample(error) && document.SaveAs(File(name), error);
+        return good ? File(name) : error.reason;
     }
 
 private Q_SLOTS:
@@ -84,7 +87,6 @@ private Q_SLOTS:
         row("two jobs at once", {"a", "b"}, 2, "2");
         row("render a bad file", {"render", "bad.job.xml", "--out", "d"}, 1, "bad.job.xml:3:");
         row("help of a command", {"set", "--help"}, 0, "--dry-run");
-        row("help names the arguments", {"get", "--help"}, 0, "get FILE PATH...");
         row("unknown command", {"frobnicate", "good.job.xml"}, 2, "frobnicate");
         row("too few arguments", {"get", "good.job.xml"}, 2, "FILE PATH...");
         row("too many arguments", {"diff", "a", "b", "c"}, 2, "FILE1 FILE2");
@@ -94,7 +96,6 @@ private Q_SLOTS:
         row("half an option", {"diff", "a", "b", "--with", "c"}, 2, "--node");
         row("get of a bad file", {"get", "bad.job.xml", "x"}, 1, "bad.job.xml:3:");
         row("set in a bad file", {"set", "bad.job.xml", "x=1"}, 1, "bad.job.xml:3:");
-        row("list of a bad file", {"list", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("diff with a bad file", {"diff", "good.job.xml", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("new from a bad file", {"new", "new.job.xml", "--from", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("get of no value", {"get", "good.job.xml", "TDS_HF1/X"}, 1, "TDS_HF1/X");
@@ -160,19 +161,15 @@ private Q_SLOTS:
 
     void renderShowsOneEntryOfAFile()
     {
-        WriteSample("a.job.xml");
-        const Outcome outcome =
-            RunProgram({"render", File("a.job.xml"), "--out", File("d"), "--entry", "TDSHeaderDDCDlg"});
+        const Outcome outcome = RunProgram({"render", WriteSample(), "--out", File("d"), "--entry", "TDSHeaderDDCDlg"});
         QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
         const QStringList names = QDir(File("d")).entryList(QDir::Files);
-        QVERIFY(!names.filter(QRegularExpression("^TDSHeaderDDCDlg_IPC_HEADER_VOICE_AGMC_job_1_[A-Za-z]+\\.png$"))
-                     .isEmpty());
+        QCOMPARE(names.filter(QRegularExpression("^TDSHeaderDDCDlg_.*_job_\\d+_.*\\.png$")), names);
         QVERIFY(!names.filter("Jobs_Demo_TDS_VUHFWB_HEADER_VOICE").isEmpty());
         for (const QString& name : names)
         {
-            QVERIFY2(name.startsWith("TDSHeaderDDCDlg_"), qPrintable(name));
-            const QImage picture(File("d/") + name);
-            QVERIFY(picture.width() >= 775 && picture.height() >= 480);
+            const QSize size = QImage(File("d/") + name).size();
+            QCOMPARE(size.expandedTo({775, 480}), size);
         }
     }
 
@@ -214,60 +211,52 @@ private Q_SLOTS:
     void setWritesAllOrNothing()
     {
         QFETCH(QString, refused);
-        WriteSample("a.xml");
-        const QByteArray before = ReadAll(File("a.xml"));
-        const Outcome outcome = RunProgram(
-            {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", refused, "ALSO/NOWHERE=2"});
+        const QString file = WriteSample();
+        const QByteArray before = ReadAll(file);
+        const Outcome outcome = RunProgram({"set", file, frequency + "=7M", refused, "ALSO/NOWHERE=2"});
         QCOMPARE(outcome.status, 1);
         QCOMPARE(outcome.out, QString());
         // Each refusal is told, and no more.
         QVERIFY2(outcome.errors.contains(refused.section('=', 0, 0) + ": "), qPrintable(outcome.errors));
         QVERIFY(outcome.errors.contains("ALSO/NOWHERE: ") && !outcome.errors.contains("FREQUENCY"));
-        QCOMPARE(ReadAll(File("a.xml")), before);
+        QCOMPARE(ReadAll(file), before);
         QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList{"a.xml"});
     }
 
     void setLeavesAFileAloneWhenTold()
     {
-        WriteSample("a.xml");
-        const QByteArray before = ReadAll(File("a.xml"));
-        const QString assignment = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M";
-        const Outcome dry = RunProgram({"set", File("a.xml"), assignment, "--dry-run"});
-        QCOMPARE(dry.out, QString("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY\t10000000\t7000000\n"));
-        QCOMPARE(RunProgram({"set", File("a.xml"), assignment, "--out", File("b.xml")}).status, 0);
-        QCOMPARE(ReadAll(File("a.xml")), before);
-        const Outcome difference = RunProgram({"diff", File("a.xml"), File("b.xml")});
+        const QString file = WriteSample();
+        const QByteArray before = ReadAll(file);
+        const QStringList arguments{"set", file, frequency + "=7M"};
+        const Outcome dry = RunProgram(arguments + QStringList{"--dry-run"});
+        QCOMPARE(dry.out, "/Jobs/Demo/" + frequency + "\t10000000\t7000000\n");
+        QCOMPARE(RunProgram(arguments + QStringList{"--out", File("b.xml")}).status, 0);
+        QCOMPARE(ReadAll(file), before);
+        const Outcome difference = RunProgram({"diff", file, File("b.xml")});
         QCOMPARE(difference.status, 1);
         QCOMPARE(difference.out, dry.out);
         QCOMPARE(difference.errors, QString());
+        const Outcome nowhere = RunProgram(arguments + QStringList{"--out", "/proc/a.xml"});
+        QCOMPARE(nowhere.status, 1);
+        QVERIFY2(nowhere.errors.startsWith("/proc/a.xml: "), qPrintable(nowhere.errors));
+        QCOMPARE(nowhere.out, QString());
     }
 
     void anotherEditorsFileIsNotWritten()
     {
-        WriteSample("a.xml");
-        const QByteArray before = ReadAll(File("a.xml"));
-        QLockFile lock(File("a.xml") + ".lock");
+        const QString file = WriteSample();
+        const QByteArray before = ReadAll(file);
+        QLockFile lock(file + ".lock");
         QVERIFY(lock.tryLock(0));
-        const QStringList arguments{"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M"};
+        const QStringList arguments{"set", file, frequency + "=7M"};
         const Outcome refused = RunProgram(arguments);
         QCOMPARE(refused.status, 1);
-        QVERIFY2(refused.errors.contains(QString::number(QCoreApplication::applicationPid())),
-                 qPrintable(refused.errors));
-        QCOMPARE(RunProgram({"new", File("a.xml"), "--force"}).status, 0); // told to
-        QCOMPARE(ReadAll(File("a.xml")), before);
+        QVERIFY(refused.errors.contains(QString::number(QCoreApplication::applicationPid())));
+        QCOMPARE(RunProgram({"new", file, "--force"}).status, 0); // told to
+        QCOMPARE(ReadAll(file), before);
         QCOMPARE(RunProgram(arguments + QStringList{"--force"}).status, 0);
-        QVERIFY(ReadAll(File("a.xml")) != before);
-        QVERIFY(QFile::exists(File("a.xml.lock"))); // still the other's
-    }
-
-    void whatCannotBeWrittenIsSaid()
-    {
-        WriteSample("a.xml");
-        const QStringList assignment{"TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M"};
-        const Outcome outcome = RunProgram(QStringList{"set", File("a.xml"), "--out", "/proc/a.xml"} + assignment);
-        QCOMPARE(outcome.status, 1);
-        QVERIFY2(outcome.errors.startsWith("/proc/a.xml: "), qPrintable(outcome.errors));
-        QCOMPARE(outcome.out, QString());
+        QVERIFY(ReadAll(file) != before);
+        QVERIFY(QFile::exists(file + ".lock")); // still the other's
     }
 
     void resultsAreOneJsonDocument_data()
@@ -275,7 +264,6 @@ private Q_SLOTS:
         const Table<QStringList, int, QString, int, QStringList> row("arguments", "status", "list", "count", "keys");
         const QStringList value{"changed", "default", "enabled", "kind", "label", "maximum",
                                 "minimum", "path",    "stored",  "unit", "value"};
-        const QString frequency = "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY";
         row("get", {"get", "a.xml", frequency}, 0, "values", 1, value);
         row("get nothing", {"get", "a.xml", "X"}, 1, "values", 0, {});
         row("list", {"list", "a.xml", "*HF1/CS_TUNER/*/TUNER_HF_NB_FREQUENC?"}, 0, "values", 1, value);
@@ -288,12 +276,9 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QString, list);
-        WriteSample("a.xml");
+        WriteSample();
         WriteAll(File("bad.xml"), "<Job version=\"1\">\n  <Node name=\"A\">\n</Job>\n");
-        QCOMPARE(RunProgram(
-                     {"set", File("a.xml"), "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_FREQUENCY=7M", "--out", File("b.xml")})
-                     .status,
-                 0);
+        QCOMPARE(RunProgram({"set", File("a.xml"), frequency + "=7M", "--out", File("b.xml")}).status, 0);
         for (QString& argument : arguments)
             if (argument.endsWith(".xml"))
                 argument = File(argument);
@@ -309,13 +294,12 @@ private Q_SLOTS:
 
     void diffComparesTwoNodes()
     {
-        WriteSample("a.xml");
+        const QStringList diff{"diff", WriteSample(), File("b.xml")};
         QCOMPARE(RunProgram({"new", File("b.xml"), "--from", File("a.xml"), "--chains", "60"}).status, 0);
-        const Outcome whole = RunProgram({"diff", File("a.xml"), File("b.xml")});
-        QVERIFY2(whole.out.contains("/Jobs/Demo/TDS_HF1_2\t(no node)\t(node)\n"), qPrintable(whole.out));
-        const QStringList nodes{"diff", File("a.xml"), File("b.xml"), "--node", "TDS_HF1", "--with"};
-        QCOMPARE(RunProgram(nodes + QStringList{"TDS_HF1_2"}).status, 0);
-        QCOMPARE(RunProgram(nodes + QStringList{"TDS_HFWB"}).status, 1);
+        const QString whole = RunProgram(diff).out;
+        QVERIFY2(whole.contains("/Jobs/Demo/TDS_HF1_2\t(no node)\t(node)\n"), qPrintable(whole));
+        for (const auto& [node, status] : {std::pair("TDS_HF1_2", 0), std::pair("TDS_HFWB", 1)})
+            QCOMPARE(RunProgram(diff + QStringList{"--node", "TDS_HF1", "--with", node}).status, status);
         // What a node is of counts, too.
         WriteAll(File("c.xml"), ReadAll(File("a.xml")).replace("\"IPC_TUNER_HF\"", "\"IPC_OTHER\""));
         const Outcome types = RunProgram({"diff", File("a.xml"), File("c.xml")});
@@ -330,11 +314,7 @@ private Q_SLOTS:
             Tree tree;
             JobFile job(tree);
             QString reason;
-            LargeJobPlan plan;
-            plan.chains = 77;
-            plan.channels = 20;
-            plan.seed = seed;
-            plan.allValues = true;
+            const LargeJobPlan plan{.chains = 77, .channels = 20, .seed = seed, .allValues = true};
             LargeJob large(job, tree);
             const bool grown = job.LoadSample() && large.Grow(plan, reason) && large.CountChains() == 77;
             return grown ? job.ToUtf8() : QByteArray();

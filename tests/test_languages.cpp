@@ -11,12 +11,6 @@
 
 #include <QLockFile>
 
-// The catalogues stand in a static library.
-static void InitResources()
-{
-    Q_INIT_RESOURCE(ipcparam_translations);
-}
-
 using namespace JOBEDIT;
 using namespace TKE;
 using EditorTest::frequencyPath;
@@ -30,11 +24,19 @@ class TestLanguages : public QObject
     std::unique_ptr<Editor> m_editor;
 
     MainWindow& Window() { return m_editor->Window(); }
-    QString File(const QString& name) const { return m_place->File(name); }
+    QString File(const QString& name = "a.job.xml") const { return m_place->File(name); }
 
+    QTabWidget* Dialog() { return Window().Dialog().GetDialog(); }
+    static ValueBase* Frequency() { return Tree::Instance()->FindValue(frequencyPath); }
     QLineEdit* FrequencyField()
     {
-        return Window().Dialog().GetDialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_FREQUENCY)->findChild<QLineEdit*>();
+        return Dialog()->findChild<QWidget*>(Keys::TUNER_HF_NB_FREQUENCY)->findChild<QLineEdit*>();
+    }
+    void Type(const QString& text)
+    {
+        FrequencyField()->setFocus();
+        FrequencyField()->selectAll();
+        QTest::keyClicks(FrequencyField(), text);
     }
     /// As the user does: through the menus of the window that is up.
     void Choose(const QString& language)
@@ -46,16 +48,10 @@ class TestLanguages : public QObject
         QTRY_VERIFY(!before);
         QVERIFY(QTest::qWaitForWindowActive(&Window()));
     }
-    QStringList MenuTitles()
-    {
-        QStringList titles;
-        for (const QAction* menu : Window().menuBar()->actions())
-            titles << menu->text().remove('&');
-        return titles;
-    }
+    QString FirstMenu() { return Window().menuBar()->actions().first()->text().remove('&'); }
 
 private Q_SLOTS:
-    void initTestCase() { InitResources(); }
+    void initTestCase() { InitCatalogues(); }
     void init()
     {
         m_place.emplace();
@@ -76,34 +72,32 @@ private Q_SLOTS:
 
     void allTextsFollowTheLanguageAndItIsKept()
     {
-        QCOMPARE(MenuTitles().first(), QStringLiteral("File"));
+        QCOMPARE(FirstMenu(), "File");
         Choose("Deutsch");
-        QCOMPARE(MenuTitles().first(), QStringLiteral("Datei"));
-        QCOMPARE(Languages::GetChoice(), QStringLiteral("de"));
-        QCOMPARE(QLocale().decimalPoint(), QStringLiteral(","));
+        QCOMPARE(FirstMenu(), "Datei");
+        QCOMPARE(Languages::GetChoice(), "de");
+        QCOMPARE(QLocale().decimalPoint(), ",");
         // Texts of the library, of the model's units, and of Qt.
-        QTabWidget* tabs = Window().Dialog().GetDialog();
-        QStringList german;
-        for (const QLabel* label : tabs->findChildren<QLabel*>())
-            german << label->text();
-        QVERIFY2(german.join('|').contains("Frequenz"), qPrintable(german.join('|')));
+        const auto labels = Dialog()->findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [](auto* label) { return label->text().contains("Frequenz"); }));
         QCOMPARE(QDialogButtonBox(QDialogButtonBox::Cancel).buttons().first()->text().remove('&'),
                  QStringLiteral("Abbrechen"));
-        QVERIFY(Tree::Instance()->FindValue(frequencyPath)->SetStoredText("7040500"));
+        QVERIFY(Frequency()->SetStoredText("7040500"));
         QVERIFY2(FrequencyField()->text().contains("7040,5"), qPrintable(FrequencyField()->text()));
-        QCOMPARE(ValueTexts::Label(*Tree::Instance()->FindValue(frequencyPath)), QStringLiteral("Frequenz"));
+        QCOMPARE(ValueTexts::Label(*Frequency()), "Frequenz");
         // And why the platform refuses a content.
         const auto refusal = [](QLatin1StringView key, const QString& text)
         {
             QString reason;
-            return Tree::Instance()->FindValue(tunerPath + key)->SetFromText(text, nullptr, &reason) ? QString() : reason;
+            return Tree::Instance()->FindValue(tunerPath + key)->SetFromText(text, nullptr, &reason) ? QString()
+                                                                                                     : reason;
         };
         QVERIFY(refusal(Keys::TUNER_HF_NB_FREQUENCY, "1").contains("ist kleiner als"));
         QVERIFY(refusal(Keys::TUNER_HF_NB_FREQUENCY, "99999999999").contains(QStringLiteral("ist größer als")));
         QVERIFY(refusal(Keys::TUNER_HF_NB_IFSHIFT, "wenig").contains("keine ganze Zahl"));
 
         Choose("English");
-        QCOMPARE(MenuTitles().first(), QStringLiteral("File"));
+        QCOMPARE(FirstMenu(), "File");
         QVERIFY2(FrequencyField()->text().contains("7040.5"), qPrintable(FrequencyField()->text()));
         QCOMPARE(QDialogButtonBox(QDialogButtonBox::Cancel).buttons().first()->text().remove('&'),
                  QStringLiteral("Cancel"));
@@ -113,22 +107,18 @@ private Q_SLOTS:
 
     void theJobStaysWithItsChangesItsLockAndItsFile()
     {
-        QVERIFY(Window().SaveTo(File("a.job.xml")));
-        FrequencyField()->setFocus();
-        FrequencyField()->selectAll();
-        QTest::keyClicks(FrequencyField(), "7040 k"); // and not left
+        QVERIFY(Window().SaveTo(File()));
+        Type("7040 k"); // and not left
         const JobDocument* document = &Window().Document();
         Choose("Deutsch");
         QCOMPARE(&Window().Document(), document);
-        QCOMPARE(Tree::Instance()->FindValue(frequencyPath)->GetStoredText(), QStringLiteral("7040000"));
+        QCOMPARE(Frequency()->GetStoredText(), "7040000");
         QVERIFY(Window().isWindowModified());
         QVERIFY(Window().windowTitle().startsWith("a.job.xml[*]"));
         QVERIFY(!QLockFile(File("a.job.xml.lock")).tryLock(0));
         QVERIFY(FrequencyField()->text().remove(' ').startsWith("7040"));
         // The new window is as good as the old one.
-        FrequencyField()->setFocus();
-        FrequencyField()->selectAll();
-        QTest::keyClicks(FrequencyField(), "7,05 M\t");
+        Type("7,05 M\t");
         QVERIFY(Window().Save());
         QVERIFY(!Window().isWindowModified());
         QVERIFY(Window().NewFromSample());
@@ -156,8 +146,8 @@ private Q_SLOTS:
         const QString path = nodeOf("IPC_FULL").path;
         Window().Dialog().SetForm(Form::StandAlone);
         QVERIFY(Window().Nodes().SelectNode(path));
-        Window().Dialog().GetDialog()->setCurrentIndex(3);
-        QCOMPARE(Window().Dialog().GetDialog()->currentIndex(), 3);
+        Dialog()->setCurrentIndex(3);
+        QCOMPARE(Dialog()->currentIndex(), 3);
         Window().resize(1111, 666);
         Window().Nodes().Filter()->setText("FULL");
         Window().Messages().Add(Severity::Error, "kept");
@@ -168,9 +158,9 @@ private Q_SLOTS:
         Choose("Deutsch");
         QCOMPARE(Window().size(), QSize(1111, 666));
         QCOMPARE(Window().Nodes().GetCurrentNode()->path, path);
-        QCOMPARE(Window().Nodes().Filter()->text(), QStringLiteral("FULL"));
+        QCOMPARE(Window().Nodes().Filter()->text(), "FULL");
         QCOMPARE(Window().Dialog().GetForm(), Form::StandAlone);
-        QCOMPARE(Window().Dialog().GetDialog()->currentIndex(), 3);
+        QCOMPARE(Dialog()->currentIndex(), 3);
         QVERIFY(Window().Messages().GetText().endsWith("kept"));
         QCOMPARE(QApplication::focusWidget(), &Window().Messages());
         const auto panels = Window().findChildren<PanelWindow*>();
@@ -218,17 +208,12 @@ private Q_SLOTS:
         const auto textsOfAll = [this]
         {
             QStringList texts;
-            const auto nodes = Window().Nodes().GetNodes();
             for (const Form form : {Form::Job, Form::StandAlone})
-                for (const JobNode& node : nodes)
+                for (const JobNode& node : Window().Nodes().GetNodes())
                     if (const auto dialog = MakeDialog(node, form, nullptr))
-                    {
-                        for (int tab = 0; tab < dialog->count(); ++tab)
-                            texts << dialog->tabText(tab);
                         for (const QWidget* widget : dialog->findChildren<QWidget*>())
                             texts << node.path + ' ' + widget->property("text").toString() +
                                          widget->property("title").toString() + widget->toolTip();
-                    }
             return texts;
         };
         const QStringList english = textsOfAll();

@@ -1,22 +1,16 @@
+#include "editorfixture.h"
 #include "jobedit/checkdock.h"
 #include "jobedit/compareactions.h"
-#include "jobedit/dialogpane.h"
 #include "jobedit/differencemodel.h"
 #include "jobedit/findbar.h"
 #include "jobedit/longwork.h"
-#include "jobedit/mainwindow.h"
-#include "jobedit/messagelist.h"
-#include "jobedit/nodepane.h"
 #include "jobedit/report.h"
 #include "jobedit/valuesdock.h"
 #include "value/idledisposal.h"
 
-#include <QtTest>
-#include <QtWidgets>
 #include <ctime>
 
-using namespace JOBEDIT;
-using namespace TKE;
+using namespace EditorTest;
 
 namespace
 {
@@ -72,30 +66,12 @@ private:
     qint64 m_longest = 0;
 };
 
-QByteArray ReadAll(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-/// Gives other contents to frequencies and switches, some in each node that has any.
-void Vary(const Node& node, int& count)
+void ForEachValue(const Node& node, const std::function<void(ValueBase&)>& act)
 {
     for (const auto& value : node.GetValues())
-        if (value->GetKind() == ValueKind::Frequency && ++count % 2)
-            value->SetStoredText("7100000");
-        else if (value->GetKind() == ValueKind::Bool && ++count % 10 == 0)
-            value->SetBool(!value->GetBool());
+        act(*value);
     for (const auto& below : node.GetNodes())
-        Vary(*below, count);
-}
-
-void NameAll(const Node& node)
-{
-    for (const auto& value : node.GetValues())
-        value->SetExplicit(true);
-    for (const auto& below : node.GetNodes())
-        NameAll(*below);
+        ForEachValue(*below, act);
 }
 
 } // namespace
@@ -104,18 +80,16 @@ class TestLongWork : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_directory;
+    Surroundings m_place;
     std::unique_ptr<MainWindow> m_window;
 
-    QString File(const QString& name) const { return m_directory.filePath(name); }
+    QString File(const QString& name) const { return m_place.File(name); }
 
     /// The sample again and again: once naming its values as it does, once naming all.
     void WriteLargeJobs()
     {
         JobModel::Load(); // brings the resources
-        QFile sample(":/models/sample.job.xml");
-        QVERIFY(sample.open(QIODevice::ReadOnly));
-        const QByteArray text = sample.readAll();
+        const QByteArray text = ReadAll(":/models/sample.job.xml");
         const qsizetype begin = text.indexOf("<Node ");
         const QByteArray end = "\n  </Node>";
         const QByteArray job = text.mid(begin, text.indexOf(end) + end.size() - begin);
@@ -131,13 +105,24 @@ class TestLongWork : public QObject
         JobFile file(tree);
         QVERIFY(file.Load(sparse.fileName()));
         QVERIFY(tree.ValueCount() > size_t(copies) * 3334);
-        for (const Node* top : tree.GetTopNodes())
-            NameAll(*top);
+        const auto forEach = [&](const std::function<void(ValueBase&)>& act)
+        {
+            for (const Node* top : tree.GetTopNodes())
+                ForEachValue(*top, act);
+        };
+        forEach([](ValueBase& value) { value.SetExplicit(true); });
         QVERIFY(file.SaveAs(File("full.job.xml")));
         QVERIFY(QFileInfo(File("full.job.xml")).size() > qint64(copies) * 200'000);
+        // Other contents of frequencies and switches, some in each node that has any.
         int count = 0;
-        for (const Node* top : tree.GetTopNodes())
-            Vary(*top, count);
+        forEach(
+            [&](ValueBase& value)
+            {
+                if (value.GetKind() == ValueKind::Frequency && ++count % 2)
+                    value.SetStoredText("7100000");
+                else if (value.GetKind() == ValueKind::Bool && ++count % 10 == 0)
+                    value.SetBool(!value.GetBool());
+            });
         QVERIFY(file.SaveAs(File("other.job.xml")));
     }
 
@@ -157,15 +142,7 @@ class TestLongWork : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("ipcparam");
-        QCoreApplication::setApplicationName("jobedit");
-        QLocale::setDefault(QLocale::C);
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("settings"));
-        WriteLargeJobs();
-    }
-
+    void initTestCase() { WriteLargeJobs(); }
     void init()
     {
         m_window = std::make_unique<MainWindow>(JobModel::Load());
@@ -182,9 +159,7 @@ private Q_SLOTS:
 
     void theWindowAnswersWithin100MsWhileALargeJobComesAndGoes_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::newRow("all values named") << "full.job.xml";
-        QTest::newRow("few values named") << "sparse.job.xml";
+        EachText("file", {"full.job.xml", "sparse.job.xml"}); // all or few values named
     }
     void theWindowAnswersWithin100MsWhileALargeJobComesAndGoes()
     {
@@ -287,12 +262,7 @@ private Q_SLOTS:
             QVERIFY(m_window->isWindowModified() && m_window->Document().History().CanUndo());
     }
 
-    void anActOfManyChangesIsCancelledAndNothingIsLost_data()
-    {
-        QTest::addColumn<QString>("act");
-        for (const char* act : {"take over", "undo", "redo"})
-            QTest::newRow(act) << act;
-    }
+    void anActOfManyChangesIsCancelledAndNothingIsLost_data() { EachText("act", {"take over", "undo", "redo"}); }
     void anActOfManyChangesIsCancelledAndNothingIsLost()
     {
         QFETCH(QString, act);
@@ -342,11 +312,11 @@ private Q_SLOTS:
 
     void aLoadOrASaveIsCancelledAndNothingIsLost_data()
     {
-        QTest::addColumn<bool>("saving");
-        QTest::addColumn<QString>("way");
-        for (const bool saving : {false, true})
-            for (const char* way : {"Escape", "closing the window"})
-                QTest::addRow("%s, by %s", saving ? "saving" : "opening", way) << saving << QString(way);
+        const Table<bool, QString> row("saving", "way");
+        row("opening, by Escape", false, "Escape");
+        row("opening, by closing", false, "closing");
+        row("saving, by Escape", true, "Escape");
+        row("saving, by closing", true, "closing");
     }
     void aLoadOrASaveIsCancelledAndNothingIsLost()
     {
@@ -379,7 +349,6 @@ private Q_SLOTS:
         QVERIFY(!done);
 
         QVERIFY(m_window->isVisible());
-        QVERIFY(!m_window->findChild<QFrame*>("longWork"));
         QVERIFY(m_window->statusBar()->currentMessage().contains("cancelled"));
         QCOMPARE(ReadAll(target), before);
         QCOMPARE(Tree::Instance()->ValueCount(), values);
@@ -392,9 +361,9 @@ private Q_SLOTS:
 
     void workThatTakesLongIsShownWithOrWithoutAWindow_data()
     {
-        QTest::addColumn<bool>("shown");
-        QTest::newRow("in the window") << true;
-        QTest::newRow("before there is one") << false;
+        const Table<bool> row("shown");
+        row("in the window", true);
+        row("before there is one", false);
     }
     void workThatTakesLongIsShownWithOrWithoutAWindow()
     {
@@ -456,12 +425,10 @@ private Q_SLOTS:
 
     void inputWhileWorkIsUnderWayChangesNothing()
     {
-        QVERIFY(m_window->Nodes().SelectNode("/Jobs/Demo/TDS_HF1/CS_TUNER/TUNER/"));
-        auto* field =
-            m_window->Dialog().GetDialog()->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
+        QVERIFY(m_window->Nodes().SelectNode(tunerPath));
+        auto* field = m_window->findChild<QWidget*>("TUNER_HF_NB_FREQUENCY")->findChild<QLineEdit*>();
         field->setFocus();
         const QString text = field->text();
-        int rounds = 0;
         {
             LongWork work("Counting", m_window.get());
             QTimer::singleShot(0, this,
@@ -473,10 +440,10 @@ private Q_SLOTS:
                                                      m_window->Nodes().View()->mapTo(m_window.get(), QPoint(20, 60)));
                                });
             const LongWork inner("Part of it", m_window.get());
-            for (QElapsedTimer time; !time.isValid() || !time.hasExpired(LongWork::ShownAfterMs + 100); ++rounds)
+            QElapsedTimer time;
+            time.start();
+            while (!time.hasExpired(LongWork::ShownAfterMs + 100))
             {
-                if (!time.isValid())
-                    time.start();
                 QVERIFY(work.Progress(time.elapsed(), LongWork::ShownAfterMs + 100));
                 QTest::qSleep(1);
             }

@@ -2,17 +2,12 @@
 // longer by hand:
 //   MONKEY_SEED=7 MONKEY_STEPS=20000 build/asan/tests/test_monkey
 
-#include "jobedit/dialogpane.h"
-#include "jobedit/edithistory.h"
+#include "editorfixture.h"
+#include "ipcparam/excitergeneraldlg.h"
 #include "jobedit/editor.h"
 #include "jobedit/nodecopy.h"
-#include "jobedit/nodepane.h"
-#include "ipcparam/excitergeneraldlg.h"
-#include "keys/keys.h"
 #include "monkeylog.h"
 
-#include <QTest>
-#include <QtWidgets>
 #include <random>
 
 using namespace JOBEDIT;
@@ -77,41 +72,43 @@ public:
             size_t weight;
             void (Monkey::*run)();
         };
-        static constexpr std::array acts{
-            Act{"edit", 40, &Monkey::Edit},      Act{"structure", 5, &Monkey::Structure},
-            Act{"key", 40, &Monkey::Key},        Act{"click", 25, &Monkey::Click},    Act{"wheel", 10, &Monkey::Wheel},
-            Act{"node", 10, &Monkey::Node},      Act{"tab", 8, &Monkey::Tab},         Act{"undo", 8, &Monkey::Undo},
-            Act{"redo", 5, &Monkey::Redo},       Act{"dock", 3, &Monkey::Dock},       Act{"form", 3, &Monkey::SwitchForm},
-            Act{"action", 8, &Monkey::Action},   Act{"save", 2, &Monkey::Save},       Act{"reload", 1, &Monkey::Reload},
-            Act{"language", 1, &Monkey::Language}};
-        size_t all = 0;
-        for (const Act& act : acts)
-            all += act.weight;
-        size_t at = Below(all);
-        const Act* act = acts.data();
-        for (; at >= act->weight; ++act)
-            at -= act->weight;
+        static constexpr std::array acts{Act{"edit", 40, &Monkey::Edit},     Act{"structure", 10, &Monkey::Structure},
+                                         Act{"values", 20, &Monkey::Values}, Act{"key", 40, &Monkey::Key},
+                                         Act{"click", 25, &Monkey::Click},   Act{"wheel", 10, &Monkey::Wheel},
+                                         Act{"node", 10, &Monkey::Node},     Act{"tab", 8, &Monkey::Tab},
+                                         Act{"undo", 8, &Monkey::UndoSome},  Act{"redo", 5, &Monkey::Redo},
+                                         Act{"dock", 3, &Monkey::Dock},      Act{"form", 3, &Monkey::SwitchForm},
+                                         Act{"action", 8, &Monkey::Action},  Act{"save", 2, &Monkey::Save},
+                                         Act{"reload", 1, &Monkey::Reload},  Act{"language", 1, &Monkey::Language}};
+        std::vector<size_t> weights;
+        std::ranges::transform(acts, std::back_inserter(weights), &Act::weight);
+        const Act& act = acts[std::discrete_distribution<size_t>(weights.begin(), weights.end())(m_random)];
         m_number = number;
-        MonkeyLog::Add(number, act->name);
-        (this->*act->run)();
+        MonkeyLog::Add(number, act.name);
+        (this->*act.run)();
         QCoreApplication::processEvents();
         if (!Window().isVisible())
             Window().show();
     }
 
-    /// What was done is taken back, made again and taken back, each exactly.
+    /// What was done is taken back, made again and taken back, step by step to the byte.
     void CheckHistory()
     {
         MonkeyLog::Add(m_number, "everything undone and redone");
         Settle();
         EditHistory& history = Document().History();
         m_hasEdited |= Bytes() != m_loaded;
-        UndoAll();
+        QByteArrayList states;
+        for (; history.CanUndo(); history.Undo())
+            states << Bytes();
         QCOMPARE(Bytes(), m_loaded);
         while (history.CanRedo())
+        {
             history.Redo();
-        // What had been undone before is done now, too: the way back is what counts.
-        UndoAll();
+            if (!states.isEmpty()) // what had been undone before is done now, too
+                QCOMPARE(Bytes(), states.takeLast());
+        }
+        Undo(2000);
         QCOMPARE(Bytes(), m_loaded);
     }
     bool HasEdited() const { return m_hasEdited; }
@@ -127,17 +124,10 @@ private:
     // No popup, no dialog, nothing half typed.
     void Settle()
     {
-        QElapsedTimer waiting;
-        waiting.start();
-        while ((QApplication::activePopupWidget() || QApplication::activeModalWidget()) && waiting.elapsed() < 20000)
-            QTest::qWait(5);
+        const auto isFree = [] { return !QApplication::activePopupWidget() && !QApplication::activeModalWidget(); };
+        QVERIFY(QTest::qWaitFor(isFree, 20000));
         CommitPendingEdit();
         QCoreApplication::processEvents();
-    }
-    void UndoAll()
-    {
-        for (int undone = 0; Document().History().CanUndo() && undone < 2000; ++undone)
-            Document().History().Undo();
     }
     // Looking never writes, but for the one thing that is known to.
     template <class Look> void View(Look look)
@@ -145,20 +135,13 @@ private:
         Settle();
         const QByteArray before = Bytes();
         QStringList written;
-        {
-            QObject listener;
-            QObject::connect(&Document(), &JobDocument::ContentChanged, &listener,
-                             [&](const TKE::ValueBase& value) { written << value.GetPathName(); });
-            look();
-            QCoreApplication::processEvents();
-        }
-        const QByteArray after = Bytes();
-        if (after == before || AreSwitchesOfExciter(written))
-            return;
-        const auto differ = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-        const qsizetype at = std::max<qsizetype>(differ.first - before.begin() - 150, 0);
-        qFatal("Looking has written. Before:\n%s\nafter:\n%s", before.mid(at, 300).constData(),
-               after.mid(at, 300).constData());
+        QObject listener;
+        QObject::connect(&Document(), &JobDocument::ContentChanged, &listener,
+                         [&](const TKE::ValueBase& value) { written << value.GetPathName(); });
+        look();
+        QCoreApplication::processEvents();
+        if (Bytes() != before && !AreSwitchesOfExciter(written))
+            qFatal("Looking has written: %s", qPrintable(written.join(", ")));
     }
     /// The general panel of an exciter, when it comes up, sets these above its node as the mode asks, whatever the user
     /// had made of them.
@@ -170,7 +153,8 @@ private:
             return false;
         using namespace TKE::Keys;
         QStringList switches;
-        for (const auto& key : {ExciterAutostart, ExciterCheck, SingleChannelDetectorCheck, RasterDetectorCheck, SimulationCheck})
+        for (const auto& key :
+             {ExciterAutostart, ExciterCheck, SingleChannelDetectorCheck, RasterDetectorCheck, SimulationCheck})
             switches << ParentPath(node->path) + key;
         return std::ranges::all_of(paths, [&](const QString& path) { return switches.contains(path); });
     }
@@ -189,35 +173,25 @@ private:
         return {int(Below(size_t(widget.width()))), int(Below(size_t(widget.height())))};
     }
 
-    struct Shortcut
-    {
-        Qt::Key key;
-        Qt::KeyboardModifiers modifiers;
-    };
     void Key()
     {
-        static const QList<Shortcut> keys = []
-        {
-            QList<Shortcut> list;
-            for (const auto key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right,
-                                   Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End, Qt::Key_Return,
-                                   Qt::Key_Escape, Qt::Key_Space, Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Insert,
-                                   Qt::Key_Minus, Qt::Key_Comma, Qt::Key_Period, Qt::Key_K, Qt::Key_M, Qt::Key_E,
-                                   Qt::Key_Z, Qt::Key_F2, Qt::Key_F3, Qt::Key_F6, Qt::Key_F7, Qt::Key_Menu})
-                list << Shortcut{key, Qt::NoModifier};
-            for (int digit = 0; digit < 10; ++digit)
-                list << Shortcut{Qt::Key(Qt::Key_0 + digit), Qt::NoModifier};
-            for (const auto key : {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y, Qt::Key_F, Qt::Key_S,
-                                   Qt::Key_D, Qt::Key_L, Qt::Key_Tab, Qt::Key_PageDown, Qt::Key_1, Qt::Key_2})
-                list << Shortcut{key, Qt::ControlModifier};
-            return list;
-        }();
-        const auto [key, modifiers] = Any(keys);
+        constexpr std::array plain{Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
+                                   Qt::Key_Right,  Qt::Key_PageUp,    Qt::Key_Home,  Qt::Key_End,    Qt::Key_Return,
+                                   Qt::Key_Escape, Qt::Key_PageDown,  Qt::Key_Space, Qt::Key_Delete, Qt::Key_Insert,
+                                   Qt::Key_Minus,  Qt::Key_Backspace, Qt::Key_Comma, Qt::Key_Period, Qt::Key_K,
+                                   Qt::Key_M,      Qt::Key_E,         Qt::Key_Z,     Qt::Key_F2,     Qt::Key_F3,
+                                   Qt::Key_F6,     Qt::Key_F7,        Qt::Key_Menu,  Qt::Key_0,      Qt::Key_1,
+                                   Qt::Key_4,      Qt::Key_7,         Qt::Key_9};
+        constexpr std::array withCtrl{Qt::Key_A,   Qt::Key_C,        Qt::Key_V, Qt::Key_X, Qt::Key_Z,
+                                      Qt::Key_Y,   Qt::Key_F,        Qt::Key_S, Qt::Key_D, Qt::Key_L,
+                                      Qt::Key_Tab, Qt::Key_PageDown, Qt::Key_1, Qt::Key_2};
+        const bool ctrl = Below(4) == 0;
+        const Qt::Key key = ctrl ? Any(withCtrl) : Any(plain);
         QWidget* focus = QApplication::activePopupWidget();
         focus = focus ? focus : QApplication::focusWidget();
         focus = focus ? focus : &Window();
-        Note(QKeySequence(int(modifiers) | key).toString() + " to " + focus->metaObject()->className() + ' ' + focus->objectName());
-        QTest::keyClick(focus, key, modifiers);
+        Note((ctrl ? "Ctrl " : "") + QKeySequence(key).toString() + " to " + focus->objectName());
+        QTest::keyClick(focus, key, ctrl ? Qt::ControlModifier : Qt::NoModifier);
     }
     // A field of the dialog, as somebody who means it.
     void Edit()
@@ -234,11 +208,26 @@ private:
         field->setFocus();
         if (Below(3) == 0)
             QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        constexpr std::array keys{Qt::Key_Up,   Qt::Key_Down, Qt::Key_Space,  Qt::Key_1, Qt::Key_7,
-                                  Qt::Key_0,    Qt::Key_K,    Qt::Key_Period, Qt::Key_Minus,
-                                  Qt::Key_Home, Qt::Key_Tab,  Qt::Key_Return, Qt::Key_PageUp};
+        constexpr std::array keys{Qt::Key_Up,  Qt::Key_Down,   Qt::Key_Space,  Qt::Key_1,     Qt::Key_7,
+                                  Qt::Key_0,   Qt::Key_K,      Qt::Key_Period, Qt::Key_Minus, Qt::Key_Home,
+                                  Qt::Key_Tab, Qt::Key_Return, Qt::Key_PageUp};
         for (size_t count = 1 + Below(4); field && count-- > 0;)
             QTest::keyClick(field, Any(keys));
+    }
+    // Some values of a node at once, seen or not, as a paste or a take-over does.
+    void Values()
+    {
+        Settle();
+        if (!Window().Nodes().GetNodes().empty())
+            Write(Any(Window().Nodes().GetNodes()).path);
+    }
+    void Write(const QString& path)
+    {
+        Note(path);
+        for (const auto& value : TKE::Tree::Instance()->FindNode(path)->GetValues())
+            if (Below(4) == 0)
+                value->SetStoredText(value->GetKind() == TKE::ValueKind::Bool ? (Below(2) ? "true" : "false")
+                                                                              : QString::number(Below(3)));
     }
     void Structure()
     {
@@ -251,6 +240,8 @@ private:
         Note(QString::number(what) + ' ' + node.path);
         const QString path = node.path.chopped(1);
         QString reason;
+        if (Below(2))
+            Write(node.path);
         if (what == 0)
             Document().RemoveNode(path, &reason);
         else if (what == 1)
@@ -274,10 +265,7 @@ private:
         QWidget* widget = AnyWidget();
         if (Below(2))
             widget->setFocus(); // it is deaf to the wheel otherwise
-        const QPoint point = AnyPointIn(*widget);
-        QWheelEvent event(point, widget->mapToGlobal(point), {}, {0, Below(2) ? 120 : -120}, {}, {}, Qt::NoScrollPhase,
-                          false);
-        QCoreApplication::sendEvent(widget, &event);
+        EditorTest::TurnWheel(*widget, AnyPointIn(*widget), Below(2) ? 1 : -1);
     }
     void Node()
     {
@@ -316,11 +304,12 @@ private:
     {
         View([this] { m_editor.SetLanguage(Any(QStringList{"de", "en"})); });
     }
-    void Undo()
+    void Undo(size_t most)
     {
-        for (size_t count = Below(4); count-- > 0 && Document().History().CanUndo();)
+        for (; most > 0 && Document().History().CanUndo(); --most)
             Document().History().Undo();
     }
+    void UndoSome() { Undo(Below(4)); }
     void Redo()
     {
         for (size_t count = Below(4); count-- > 0 && Document().History().CanRedo();)
@@ -344,12 +333,9 @@ private:
     }
     void Save()
     {
-        if (Document().GetFileName().isEmpty() ? Window().SaveTo(m_fileName) : Window().Save())
-        {
-            QFile file(Document().GetFileName());
-            if (!file.open(QIODevice::ReadOnly) || file.readAll() != Bytes())
-                qFatal("The file is not what was saved.");
-        }
+        if ((Document().GetFileName().isEmpty() ? Window().SaveTo(m_fileName) : Window().Save()) &&
+            ReadAll(Document().GetFileName()) != Bytes())
+            qFatal("The file is not what was saved.");
     }
     void Reload()
     {
@@ -383,18 +369,17 @@ private slots:
     void nothingThatIsDoneAtRandomBreaksTheEditorOrItsHistory()
     {
         QFETCH(unsigned, seed);
-        const int steps = qEnvironmentVariableIsSet("MONKEY_STEPS") ? qEnvironmentVariableIntValue("MONKEY_STEPS")
-                                                                    : stepsInTest;
-        QTemporaryDir directory;
-        QVERIFY(QDir::setCurrent(directory.path()));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, directory.path());
+        const int steps =
+            qEnvironmentVariableIsSet("MONKEY_STEPS") ? qEnvironmentVariableIntValue("MONKEY_STEPS") : stepsInTest;
+        const EditorTest::Surroundings place("test_monkey");
+        QVERIFY(QDir::setCurrent(QFileInfo(place.File("x")).path()));
         MonkeyLog::Begin("MONKEY_SEED", seed);
         {
             Editor editor(TKE::JobModel::Load());
             editor.Window().show();
             QVERIFY(editor.Window().NewFromSample());
             Answerer answerer(seed);
-            Monkey monkey(seed, editor, directory.filePath("monkey.job.xml"));
+            Monkey monkey(seed, editor, place.File("monkey.job.xml"));
             for (int step = 1; step <= steps && !QTest::currentTestFailed(); ++step)
             {
                 monkey.Step(step);
@@ -406,10 +391,8 @@ private slots:
         MonkeyLog::End();
         if (QTest::currentTestFailed())
             MonkeyLog::Print();
-        TKE::Tree::Instance()->Clear();
         QDir::setCurrent("/");
     }
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
 };
 
 QTEST_MAIN(TestMonkey)

@@ -13,31 +13,36 @@ namespace
 {
 
 const QString vuhfPath = QStringLiteral("/Jobs/Demo/TDS_VUHF1/CS_TUNER/TUNER/");
+const QString key = Keys::TUNER_HF_NB_FREQUENCY;
+
+/// Types this name instead of what the dialog offers.
+void TypeName(QDialog& dialog, const char* text)
+{
+    auto* name = dialog.findChild<QLineEdit*>("name");
+    name->selectAll();
+    QTest::keyClick(name, Qt::Key_Delete);
+    QTest::keyClicks(name, text);
+}
 
 } // namespace
 
-class TestReuse : public QObject
+class TestReuse : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
-
-    MainWindow& Window() { return m_desk->window; }
-    static ValueBase* Value(const QString& path) { return Editor::Value(path); }
-    static QString Text(const QString& path) { return Editor::Stored(path); }
     QTreeView* NodeView() { return Window().Nodes().View(); }
     bool Has(const QString& path) { return Window().Document().File().FindNodeSpec(path); }
+    /// Ctrl and this key in the list of the nodes.
+    void Press(Qt::Key key) { QTest::keyClick(NodeView(), key, Qt::ControlModifier); }
     /// Selects these nodes, the first as the current one.
     void Select(const QStringList& paths)
     {
         Window().activateWindow(); // a dialog that closes gives it back only on some platforms
         QTRY_COMPARE(QApplication::activeWindow(), &Window());
-        for (const QString& path : paths)
-            QVERIFY(Window().Nodes().SelectNode(path));
         QItemSelection selection;
         for (const QString& path : paths)
         {
-            Window().Nodes().SelectNode(path);
+            QVERIFY(Window().Nodes().SelectNode(path));
             selection.select(NodeView()->currentIndex(), NodeView()->currentIndex());
         }
         Window().Nodes().SelectNode(paths.first());
@@ -50,33 +55,32 @@ class TestReuse : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_desk.emplace();
+        Begin();
         QDir(QFileInfo(Presets().FileOf("x")).path()).removeRecursively();
         QGuiApplication::clipboard()->clear();
     }
-    void cleanup() { m_desk.reset(); }
+    void cleanup() { End(); }
 
     void aCopiedChainIsPastedIntoAllSelectedOnesWhereItFits()
     {
-        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
         const QString classifier = "/Jobs/Demo/TDS_HF1/CS_CLASS/CLASSIFIER/";
-        Value(tunerPath + key)->SetStoredText("7040000");
+        Set(tunerPath + key, "7040000");
         Select({tunerPath});
-        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
+        Press(Qt::Key_C);
         const QString text = QGuiApplication::clipboard()->text();
         QVERIFY(text.contains(key + "\t7.04 MHz\n"));
 
         Select({voicePath, classifier, vuhfPath});
-        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(Text(voicePath + key), QString("7040000"));
-        QCOMPARE(Text(classifier + key), QString("7040000"));
+        Press(Qt::Key_V);
+        QCOMPARE(Stored(voicePath + key), "7040000");
+        QCOMPARE(Stored(classifier + key), "7040000");
         QVERIFY(Window().Messages().GetText().contains(vuhfPath + key + " was not written"));
         QVERIFY(!Window().Messages().GetText().contains(voicePath));
         QVERIFY(Window().isWindowModified());
-        Window().Document().History().Undo();
-        QCOMPARE(Text(voicePath + key), QString("10000000"));
-        QCOMPARE(Text(classifier + key), QString("10000000"));
-        QCOMPARE(Text(tunerPath + key), QString("7040000"));
+        History().Undo();
+        QCOMPARE(Stored(voicePath + key), "10000000");
+        QCOMPARE(Stored(classifier + key), "10000000");
+        QCOMPARE(Stored(tunerPath + key), "7040000");
     }
 
     void everyValueOfATabIsCopied()
@@ -86,7 +90,7 @@ private Q_SLOTS:
         for (const JobNode& node : std::vector(Window().Nodes().GetNodes()))
         {
             Window().Nodes().SelectNode(node.path);
-            QTabWidget* dialog = Window().Dialog().GetDialog();
+            QTabWidget* dialog = Dialog();
             for (int tab = 0; dialog && tab < dialog->count(); ++tab)
             {
                 dialog->setCurrentIndex(tab);
@@ -94,7 +98,7 @@ private Q_SLOTS:
                 for (const ValueChange& change : set.ChangesFor(node.path))
                 {
                     QVERIFY2(Value(change.path), qPrintable(change.path));
-                    QCOMPARE(change.stored, Text(change.path));
+                    QCOMPARE(change.stored, Stored(change.path));
                 }
                 for (const auto& parameter : set.parameters)
                     kinds << (parameter.path.startsWith("../") ? "above" : "own");
@@ -106,41 +110,36 @@ private Q_SLOTS:
 
     void aTabIsCopiedFromTheDialogAndPastedElsewhere()
     {
-        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
-        Value(tunerPath + key)->SetStoredText("7040000");
         Select({tunerPath});
-        QTabWidget* dialog = Window().Dialog().GetDialog();
-        for (int tab = 0; tab < dialog->count(); ++tab)
-            if (dialog->currentWidget()->findChild<QWidget*>(key) == nullptr)
-                dialog->setCurrentIndex(tab);
+        m_desk->TypeFrequency("7040 k\t"); // brings its tab to the front
         QTest::keyClick(&Window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
         const QString text = QGuiApplication::clipboard()->text();
         QVERIFY(text.contains(key));
         QVERIFY(text.count('\n') < int(Tree::Instance()->FindNode(tunerPath)->GetValues().size()));
         Select({voicePath});
         QTest::keyClick(&Window(), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(Text(voicePath + key), QString("7040000"));
+        QCOMPARE(Stored(voicePath + key), "7040000");
     }
 
     void theFormsOfADecoderTakeEachOthersParameters()
     {
         const QString plain = "/Jobs/Demo/TDS_HF1/CS_DATA/WAVECOM/";
         const QString data = "/Jobs/Demo/TDS_VUHF1/CS_DATA/WAVECOM/";
-        const QString key = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
-        auto* value = dynamic_cast<ValueSelection*>(Value(plain + key));
-        QVERIFY(value);
-        QVERIFY(value->SelectKey(value->GetItems().back().GetKey()));
-        Select({plain});
-        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
-        Select({data});
-        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(Text(data + "Data/" + key), value->GetStoredText());
+        const QString type = "WAVECOM_DEMODULATOR_HF/WAVECOM_DEMODULATOR_HF_FSK_MODTYPE";
+        auto* value = dynamic_cast<ValueSelection*>(Value(plain + type));
+        QVERIFY(value && value->SelectKey(value->GetItems().back().GetKey()));
+        const QString last = value->GetStoredText();
+        for (const auto& [from, to] : {std::pair(plain, data), {data, plain}})
+        {
+            Select({from});
+            Press(Qt::Key_C);
+            Select({to});
+            value->SelectKey(value->GetItems().front().GetKey());
+            Press(Qt::Key_V);
+            QCOMPARE(Stored(data + "Data/" + type), last);
+        }
+        QCOMPARE(value->GetStoredText(), last);
         QVERIFY(!Window().Messages().GetText().contains("was not written"));
-        value->SelectKey(value->GetItems().front().GetKey());
-        QTest::keyClick(NodeView(), Qt::Key_C, Qt::ControlModifier);
-        Select({plain});
-        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(value->GetStoredText(), Text(data + "Data/" + key));
     }
 
     void whatTheClipboardHoldsBesidesIsNotPasted_data()
@@ -162,24 +161,9 @@ private Q_SLOTS:
         data->setData(type, content);
         QGuiApplication::clipboard()->setMimeData(data);
         Select({voicePath});
-        QTest::keyClick(NodeView(), Qt::Key_V, Qt::ControlModifier);
+        Press(Qt::Key_V);
         QVERIFY(!Window().statusBar()->currentMessage().isEmpty());
         QVERIFY(!Window().isWindowModified());
-    }
-
-    void anItemThatTheTargetLacksIsRefused()
-    {
-        const ValueSelection* selection = nullptr;
-        for (const auto& value : Tree::Instance()->FindNode(tunerPath)->GetValues())
-            if (value->GetKind() == ValueKind::Selection)
-                selection = static_cast<const ValueSelection*>(value.get());
-        QVERIFY(selection);
-        ParameterSet set;
-        set.parameters.push_back({selection->GetName(), "98765", {}, {}});
-        const QString before = selection->GetStoredText();
-        const WriteResult result = WriteValues(Window().Document(), {}, set.ChangesFor(tunerPath));
-        QCOMPARE(result.refused.size(), size_t(1));
-        QCOMPARE(selection->GetStoredText(), before);
     }
 
     void aValueThatAnotherOneSetsHoldsWhatWasWritten()
@@ -201,9 +185,10 @@ private Q_SLOTS:
     void presetsAreKeptUnderAnyName()
     {
         QFETCH(QString, name);
-        const QStringList before =
-            QDir(QFileInfo(m_desk->File("x")).path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-        Presets presets(m_desk->File("presets"));
+        const auto entries = [&]
+        { return QDir(QFileInfo(File()).path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot); };
+        const QStringList before = entries();
+        Presets presets(File("presets"));
         QVERIFY(presets.NameFault(name).isEmpty());
         QString reason;
         const ParameterSet set{"here", "T", {{"A", "1\n2", "label", "text"}}};
@@ -218,55 +203,38 @@ private Q_SLOTS:
         QVERIFY(!presets.Rename(name, "other", reason));
         QVERIFY(presets.Remove(name, reason));
         QVERIFY(!presets.Load(name, reason));
-        QStringList others =
-            QDir(QFileInfo(m_desk->File("x")).path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-        others.removeOne("presets");
-        QCOMPARE(others, before);
+        QCOMPARE(entries().size(), before.size() + 1);
     }
 
     void aPresetIsSavedReplacedOnlyWhenWantedAndApplied()
     {
-        const QString key = Keys::TUNER_HF_NB_FREQUENCY;
         const auto save = [&]
         {
-            Next name(
+            const Next name(
                 [](QDialog& dialog)
                 {
-                    dialog.findChild<QLineEdit*>("name")->selectAll();
-                    QTest::keyClicks(dialog.findChild<QLineEdit*>("name"), "mine");
+                    TypeName(dialog, "mine");
                     QTest::keyClick(&dialog, Qt::Key_Return);
                 });
-            for (QAction* action : Window().EditMenu()->findChild<QMenu*>()->actions())
-                if (action->text().contains("Chain"))
-                    return action->trigger();
+            m_desk->Action("Save Chain as Preset...")->trigger();
         };
         Select({tunerPath});
-        Value(tunerPath + key)->SetStoredText("7040000");
+        Set(tunerPath + key, "7040000");
         save();
         QCOMPARE(Presets().GetNames(), QStringList{"mine"});
 
         WriteAll(Presets().FileOf("mine"), "{damaged");
         {
-            std::unique_ptr<Next> question;
-            QTimer::singleShot(50, this,
-                               [&]
-                               {
-                                   question = std::make_unique<Next>(
-                                       [](QDialog& dialog)
-                                       {
-                                           QVERIFY(static_cast<QMessageBox&>(dialog).text().contains("damaged"));
-                                           dialog.reject();
-                                       });
-                               });
+            const Answer question({"No"});
             save();
-            QVERIFY(question && question->HasActed());
+            QVERIFY(question.GetText().contains("damaged"));
         }
         QString reason;
         QVERIFY(!Presets().Load("mine", reason));
         {
-            Next box([](QDialog& dialog) { dialog.reject(); });
+            const Answer answer({"OK"});
             Window().findChild<ReuseActions*>()->ApplyPreset("mine");
-            QVERIFY(box.HasActed());
+            QVERIFY(answer.WasAsked());
         }
         QVERIFY(Window().Messages().GetText().contains(Presets().FileOf("mine")));
         QVERIFY(Presets().Remove("mine", reason));
@@ -279,33 +247,31 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::activeWindow(), dialog);
         QVERIFY(dialog->findChild<QLabel*>("details")->text().contains(tunerPath));
         QTest::mouseClick(dialog->findChild<QPushButton*>("apply"), Qt::LeftButton);
-        QCOMPARE(Text(voicePath + key), QString("7040000"));
+        QCOMPARE(Stored(voicePath + key), "7040000");
     }
 
     void aChainOfEveryKindCanBeAddedAndSaved()
     {
         Window().Nodes().SelectNode("/Jobs/Demo"); // no dialog that follows
-        const auto kinds = NodeKinds(Window().Document().GetModel());
+        JobDocument& document = Window().Document();
         QSet<const Chain*> chains;
-        for (const NodeKind& kind : kinds)
-        {
+        for (const NodeKind& kind : NodeKinds(document.GetModel()))
             for (const QString& near : {QString(), tunerPath, vuhfPath})
             {
-                const auto places = PlacesFor(kind, Window().Document(), near);
+                const auto places = PlacesFor(kind, document, near);
                 QVERIFY2(!places.empty(), qPrintable(kind.spec.type));
                 QString reason;
                 const QString name = UniqueNodeName(places[0].ParentPath(), kind.spec.name);
-                const QString path = AddNodeOfKind(Window().Document(), kind, places[0], name, reason);
+                const QString path = AddNodeOfKind(document, kind, places[0], name, reason);
                 QVERIFY2(!path.isEmpty(), qPrintable(kind.spec.type + reason));
                 const JobNode node{path, name, kind.spec.type, kind.spec.band, kind.spec.dataForm};
                 chains << FindChain(node);
                 QCOMPARE(MakeDialog(node, Form::Job, nullptr) != nullptr, kind.isChain);
             }
-        }
         chains.remove(nullptr);
         QCOMPARE(size_t(chains.size()), Chains().size());
-        QVERIFY(Window().SaveTo(m_desk->File("all.job.xml")));
-        QVERIFY(JobFile::Check(m_desk->File("all.job.xml")).isEmpty());
+        QVERIFY(Window().SaveTo(File()));
+        QVERIFY(JobFile::Check(File()).isEmpty());
     }
 
     void aChainIsAddedByKeyboard()
@@ -314,7 +280,6 @@ private Q_SLOTS:
         Next next(
             [](QDialog& dialog)
             {
-                auto* name = dialog.findChild<QLineEdit*>("name");
                 auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
                 QCOMPARE(dialog.findChild<QTreeWidget*>("kinds")->currentItem()->text(0), QString("IPC_TUNER_HF"));
                 QTest::keyClicks(dialog.findChild<QLineEdit*>("kindFilter"), "ipc_voice_hf");
@@ -322,27 +287,24 @@ private Q_SLOTS:
                          QString("Adds /Jobs/Demo/TDS_HF1/CS_VOICE2/VOICE"));
                 for (const char* bad : {"", "a/b", ".."})
                 {
-                    name->selectAll();
-                    QTest::keyClick(name, Qt::Key_Delete);
-                    QTest::keyClicks(name, bad);
+                    TypeName(dialog, bad);
                     QVERIFY2(!ok->isEnabled(), bad);
                     dialog.accept(); // by whichever way
                     QVERIFY2(dialog.isVisible(), bad);
                 }
-                name->selectAll();
-                QTest::keyClicks(name, "NIGHT");
-                QTest::keyClick(name, Qt::Key_Return);
+                TypeName(dialog, "NIGHT");
+                QTest::keyClick(&dialog, Qt::Key_Return);
             });
         QTest::keyClick(NodeView(), Qt::Key_Insert);
         QVERIFY(next.HasActed());
         const QString added = "/Jobs/Demo/TDS_HF1/CS_VOICE2/NIGHT/";
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, added);
-        QVERIFY(Window().Dialog().GetDialog());
+        QCOMPARE(m_desk->CurrentPath(), added);
+        QVERIFY(Dialog());
         // The channel set has the antenna of its kind.
         const auto& antenna = Tree::Instance()->FindNode(u"/Jobs/Demo/TDS_HF1/CS_VOICE")->GetValues();
         QVERIFY(Value("/Jobs/Demo/TDS_HF1/CS_VOICE2/" + antenna.front()->GetName()));
         QVERIFY(Window().isWindowModified());
-        Window().Document().History().Undo();
+        History().Undo();
         QVERIFY(!Has("/Jobs/Demo/TDS_HF1/CS_VOICE2/"));
         QVERIFY(!Window().isWindowModified());
     }
@@ -351,33 +313,29 @@ private Q_SLOTS:
     void nodesAreRenamedAndDuplicatedWithAllBelowThem()
     {
         QFETCH(bool, duplicate);
-        const QString key = QString("TUNER/") + Keys::TUNER_HF_NB_FREQUENCY;
         const QString before = "/Jobs/Demo/TDS_HF1/CS_TUNER/";
         const QString after = "/Jobs/Demo/TDS_HF1/CS_NIGHT/";
-        Value(before + key)->SetStoredText("7040000");
+        Set(before + "TUNER/" + key, "7040000");
         Select({before});
         Next next(
             [](QDialog& dialog)
             {
-                auto* name = dialog.findChild<QLineEdit*>("name");
-                auto* reason = dialog.findChild<QLabel*>("reason");
-                name->selectAll();
-                QTest::keyClicks(name, "CS_VOICE"); // taken
+                const auto* reason = dialog.findChild<QLabel*>("reason");
+                TypeName(dialog, "CS_VOICE"); // taken
                 QVERIFY(!reason->text().isEmpty());
-                QTest::keyClick(name, Qt::Key_Return);
+                QTest::keyClick(&dialog, Qt::Key_Return);
                 QVERIFY(dialog.isVisible());
-                name->selectAll();
-                QTest::keyClicks(name, "CS_NIGHT");
+                TypeName(dialog, "CS_NIGHT");
                 QVERIFY(reason->text().isEmpty());
-                QTest::keyClick(name, Qt::Key_Return);
+                QTest::keyClick(&dialog, Qt::Key_Return);
             });
         if (duplicate)
             Window().findChild<NodeActions*>()->Duplicate();
         else
             QTest::keyClick(NodeView(), Qt::Key_F2);
         QVERIFY(next.HasActed());
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, after);
-        QCOMPARE(Text(after + key), QString("7040000"));
+        QCOMPARE(m_desk->CurrentPath(), after);
+        QCOMPARE(Stored(after + "TUNER/" + key), "7040000");
         QCOMPARE(Has(before), duplicate);
         QCOMPARE(Tree::Instance()->FindNode(after)->GetNodes().size(), size_t(1));
     }
@@ -390,22 +348,17 @@ private Q_SLOTS:
         QVERIFY(!Window().Nodes().SelectNode(tunerPath));
 
         const QStringList both{"/Jobs/Demo/TDS_HF1/CS_VOICE/", voicePath, vuhfPath};
-        for (const auto answer : {QMessageBox::No, QMessageBox::Yes})
+        for (const char* button : {"No", "Yes"})
         {
             Select(both);
-            Next next(
-                [&](QDialog& dialog)
-                {
-                    QVERIFY(static_cast<QMessageBox&>(dialog).text().contains('3'));
-                    static_cast<QMessageBox&>(dialog).button(answer)->click();
-                });
+            const Answer answer({button});
             QTest::keyClick(NodeView(), Qt::Key_Delete);
-            QVERIFY(next.HasActed());
+            QVERIFY(answer.GetText().contains('3'));
             for (const QString& path : both)
-                QCOMPARE(Has(path), answer == QMessageBox::No);
+                QCOMPARE(Has(path), *button == 'N');
         }
         QVERIFY(!Window().Nodes().SelectNode(vuhfPath));
-        Window().Document().History().Undo();
+        History().Undo();
         for (const QString& path : both)
             QVERIFY2(Has(path) && Window().Nodes().SelectNode(path), qPrintable(path));
         Select({"/Jobs/Demo/"});

@@ -1,46 +1,25 @@
-#include "common.h"
+#include "editorfixture.h"
 #include "ipcparam/ipcparam.h"
 #include "ipcparam/parameterdlg.h"
-#include "jobedit/chains.h"
-#include "jobedit/jobdocument.h"
-#include "value/tree.h"
 #include "valuewidgets/valuelink.h"
 #include "valuewidgets/vcfrequency.h"
 #include "widgets/vccheckablegroupbox.h"
 
-#include <QTest>
-#include <QtWidgets>
 #include <map>
 
-using namespace JOBEDIT;
-using namespace TKE;
-
-namespace
-{
-
-QString Where(const QWidget* widget)
-{
-    QStringList names;
-    for (; widget; widget = widget->parentWidget())
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
-            names.prepend(widget->objectName());
-    return names.join('/');
-}
-
-} // namespace
+using namespace EditorTest;
 
 /// Every dialog of the sample job in both forms, and every panel that is opened directly.
-class TestSampleJob : public QObject
+class TestSampleJob : public DeskTest
 {
     Q_OBJECT
 
-    std::unique_ptr<JobDocument> m_document;
     /// The dialog of the row's node, at the least size that it lets itself be given.
-    std::unique_ptr<QTabWidget> Open() const
+    std::unique_ptr<QTabWidget> Open()
     {
         QFETCH(QString, path);
         QFETCH(int, form);
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
             if (node.path == path)
             {
                 auto dialog = form < 2 ? MakeDialog(node, form == 0 ? Form::Job : Form::StandAlone, nullptr)
@@ -51,17 +30,39 @@ class TestSampleJob : public QObject
             }
         return nullptr;
     }
-    /// Rows that work on an empty job or task path in this form.
-    static bool IsUnbound(const ParameterDlg& panel)
+    void CheckOverlaps(const QWidget& dialog)
     {
-        QFETCH(int, form);
-        return form == 1 && panel.objectName() == "FFTDataDlg";
+        for (const QGridLayout* grid : dialog.findChildren<QGridLayout*>())
+        {
+            // Of the cells of widgets; lines cross, and so does what has no look of its own.
+            QHash<QPair<int, int>, QString> taken;
+            for (int i = 0; i < grid->count(); ++i)
+            {
+                const QWidget* widget = grid->itemAt(i)->widget();
+                const auto* label = qobject_cast<const QLabel*>(widget);
+                if (!widget || (label && (label->frameShape() != QFrame::NoFrame || label->text().isEmpty())))
+                    continue;
+                int row = 0, column = 0, rows = 0, columns = 0;
+                grid->getItemPosition(i, &row, &column, &rows, &columns);
+                for (int cell = 0; cell < rows * columns; ++cell)
+                {
+                    QString& holder = taken[QPair(row + cell / columns, column + cell % columns)];
+                    const QString name = label ? label->text() : widget->objectName();
+                    QVERIFY2(holder.isEmpty(), qPrintable(Describe(*widget) + ": " + holder + " and " + name));
+                    holder = name;
+                }
+            }
+        }
     }
 
-    void AddRows()
+private slots:
+    void initTestCase() { Begin(); }
+    void cleanupTestCase() { End(); }
+
+    void everyFieldIsBoundAndInSightAndNoneOverlaps_data()
     {
         const Table<QString, int> row("path", "form"); // 0 job, 1 stand-alone, 2 direct panels
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
         {
             if (FindChain(node))
                 for (const int form : {0, 1})
@@ -70,25 +71,12 @@ class TestSampleJob : public QObject
                 row(node.path + " direct", node.path, 2);
         }
     }
-private slots:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        m_document = std::make_unique<JobDocument>(JobModel::Load());
-        FileError error;
-        QVERIFY2(m_document->NewFromSample(error), qPrintable(error.ToText()));
-    }
-    void cleanupTestCase()
-    {
-        m_document.reset();
-        Tree::Instance()->Clear();
-    }
-
-    void everyFieldIsBoundAndInSight_data() { AddRows(); }
-    void everyFieldIsBoundAndInSight()
+    void everyFieldIsBoundAndInSightAndNoneOverlaps()
     {
         const auto dialog = Open();
+        QFETCH(int, form);
         QVERIFY(dialog && dialog->count() > 0);
+        CheckOverlaps(*dialog);
         for (int index = 0; index < dialog->count(); ++index)
         {
             dialog->setCurrentIndex(index);
@@ -106,14 +94,15 @@ private slots:
                     continue;
                 const auto* link = dynamic_cast<const ValueLink*>(widget);
                 links += link ? 1 : 0;
-                if (link && !link->GetBoundValue() && !IsUnbound(*panel))
-                    faults << "unbound: " + Where(widget);
+                // This panel works on an empty task path in the stand-alone form.
+                if (link && !link->GetBoundValue() && !(form == 1 && panel->objectName() == "FFTDataDlg"))
+                    faults << "unbound: " + Describe(*widget);
                 const bool isShown =
                     link || qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
                 const QSize need = widget->minimumSizeHint();
                 if (widget->isVisible() && isShown &&
                     (widget->width() < need.width() || widget->height() < need.height()))
-                    faults << "clipped: " + Where(widget);
+                    faults << "clipped: " + Describe(*widget);
             }
             QVERIFY(links > 0);
             QVERIFY2(faults.isEmpty(), qPrintable(dialog->tabText(index) + ": " + faults.join("; ")));
@@ -123,7 +112,7 @@ private slots:
     void aReadOnlyDialogAppliesNoRuleAndStaysDisabledWhateverItsValuesSay()
     {
         std::map<ValueBase*, EnableState> states;
-        m_document->File().VisitNodes(
+        Window().Document().File().VisitNodes(
             [&](const QString& path, const NodeSpec&, const QString&)
             {
                 for (const auto& value : Tree::Instance()->FindNode(path)->GetValues())
@@ -133,7 +122,7 @@ private slots:
         static const QRegularExpression always(
             "DDC_FREQUENCYOFFSET|_SYMBOLVALANCY|_COUNT$|DetectorCheck|SimulationCheck");
         int locked = 0;
-        for (const JobNode& node : m_document->GetNodes())
+        for (const JobNode& node : Window().Document().GetNodes())
         {
             const Chain* chain = FindChain(node);
             if (!chain)
@@ -152,40 +141,13 @@ private slots:
             for (const QWidget* widget : host.findChildren<QWidget*>())
                 if (dynamic_cast<const ValueLink*>(widget) || qobject_cast<const VCCheckableGroupBox*>(widget))
                 {
-                    QVERIFY2(!widget->isEnabled(), qPrintable(Where(widget)));
+                    QVERIFY2(!widget->isEnabled(), qPrintable(Describe(*widget)));
                     ++locked;
                 }
         }
         QVERIFY(locked > 500);
         for (const auto& [value, state] : states)
             value->SetState(state);
-    }
-
-    void noTwoWidgetsOfAGridOverlap_data() { AddRows(); }
-    void noTwoWidgetsOfAGridOverlap()
-    {
-        const auto dialog = Open();
-        for (const QGridLayout* grid : dialog->findChildren<QGridLayout*>())
-        {
-            // Of the cells of widgets; lines cross, and so does what has no look of its own.
-            QHash<QPair<int, int>, QString> taken;
-            for (int i = 0; i < grid->count(); ++i)
-            {
-                const QWidget* widget = grid->itemAt(i)->widget();
-                const auto* label = qobject_cast<const QLabel*>(widget);
-                if (!widget || (label && (label->frameShape() != QFrame::NoFrame || label->text().isEmpty())))
-                    continue;
-                int row = 0, column = 0, rows = 0, columns = 0;
-                grid->getItemPosition(i, &row, &column, &rows, &columns);
-                for (int cell = 0; cell < rows * columns; ++cell)
-                {
-                    QString& holder = taken[QPair(row + cell / columns, column + cell % columns)];
-                    const QString name = label ? label->text() : widget->objectName();
-                    QVERIFY2(holder.isEmpty(), qPrintable(Where(widget) + ": " + holder + " and " + name));
-                    holder = name;
-                }
-            }
-        }
     }
 };
 

@@ -1,4 +1,3 @@
-#include "common.h"
 #include "editorfixture.h"
 #include "jobedit/valuesdock.h"
 #include "jobedit/valuesmodel.h"
@@ -8,37 +7,28 @@
 
 using namespace EditorTest;
 
-class TestValuesDock : public QObject
+class TestValuesDock : public DeskTest
 {
     Q_OBJECT
 
-    std::optional<Desk> m_desk;
     ValuesDock* m_dock = nullptr;
-
-    MainWindow& Window() { return m_desk->window; }
-    static ValueBase* Find(const QString& path) { return Editor::Value(path); }
 
     ValuesModel& Model() { return m_dock->Model(); }
     QTreeView* View() { return m_dock->View(); }
 
-    void Switch(const char* name, bool on) { m_dock->findChild<QCheckBox*>(name)->setChecked(on); }
     void Settle() { QTRY_VERIFY_WITH_TIMEOUT(m_dock->IsUpToDate(), 5000); }
+    void Switch(const char* name, bool on)
+    {
+        m_dock->findChild<QCheckBox*>(name)->setChecked(on);
+        Settle();
+    }
     /// The paths of all values listed, from top to bottom.
     QStringList Listed()
     {
         QStringList paths;
-        const auto collect = [&](const auto& self, const QModelIndex& parent) -> void
-        {
-            for (int row = 0; row < Model().rowCount(parent); ++row)
-            {
-                const QModelIndex index = Model().index(row, 0, parent);
-                if (Model().IsBranch(index))
-                    self(self, index);
-                else
-                    paths << Model().PathAt(index);
-            }
-        };
-        collect(collect, {});
+        for (const QModelIndex& index : AllRows(Model()))
+            if (!Model().IsBranch(index))
+                paths << Model().PathAt(index);
         return paths;
     }
     QModelIndex ContentOf(const QString& path) { return Model().IndexOf(path).siblingAtColumn(ValueListing::Content); }
@@ -51,11 +41,18 @@ class TestValuesDock : public QObject
         QWidget* editor = QApplication::focusWidget();
         return editor != View() && View()->isAncestorOf(editor) ? editor : nullptr;
     }
-    QString FirstOfKind(ValueKind kind, bool multiple = false)
+    /// Into an editor, instead of what it holds.
+    static void Type(QWidget* editor, const QString& text)
+    {
+        static_cast<QLineEdit*>(editor)->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, Qt::Key_Return);
+    }
+    QString FirstOfKind(ValueKind kind)
     {
         for (const QString& path : Listed())
-            if (Find(path)->GetKind() == kind && Find(path)->GetState() == stEnabled &&
-                Find(path)->GetDescriptor().multiple == multiple)
+            if (Value(path)->GetKind() == kind && Value(path)->GetState() == stEnabled &&
+                !Value(path)->GetDescriptor().multiple)
                 return path;
         return {};
     }
@@ -63,29 +60,28 @@ class TestValuesDock : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_desk.emplace();
+        Begin();
         Window().resize(1500, 1000);
-        QVERIFY(Window().SaveTo(m_desk->File("a.job.xml")));
+        QVERIFY(Window().SaveTo(File()));
         m_dock = Window().findChild<ValuesDock*>();
         m_desk->Press(Qt::Key_F9, {});
         QVERIFY(m_dock->isVisible() && m_dock->Filter()->hasFocus());
         Settle();
     }
-    void cleanup() { m_desk.reset(); }
-
-    void allValuesAreListedAsATreeAndFlat_data() { WithAndWithout("asTree"); }
+    void cleanup() { End(); }
     void allValuesAreListedAsATreeAndFlat()
     {
-        QFETCH(bool, asTree);
-        Switch("asTree", asTree);
-        Settle();
         const QAbstractItemModelTester tester(&Model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        const QStringList listed = Listed();
-        QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
-        QCOMPARE(QSet<QString>(listed.begin(), listed.end()).size(), listed.size());
-        QCOMPARE(Model().rowCount() == listed.size(), !asTree);
-        for (const QString& path : {listed.front(), listed.back(), frequencyPath})
-            QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
+        for (const bool asTree : {false, true})
+        {
+            Switch("asTree", asTree);
+            const QStringList listed = Listed();
+            QCOMPARE(size_t(listed.size()), Tree::Instance()->ValueCount());
+            QCOMPARE(QSet<QString>(listed.begin(), listed.end()).size(), listed.size());
+            QCOMPARE(Model().rowCount() == listed.size(), !asTree);
+            for (const QString& path : {listed.front(), listed.back(), frequencyPath})
+                QCOMPARE(Model().PathAt(Model().IndexOf(path)), path);
+        }
         QVERIFY(!Window().isWindowModified());
     }
 
@@ -96,7 +92,7 @@ private Q_SLOTS:
     void theFilterLooksIntoEveryText()
     {
         QFETCH(QString, text);
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        Set(frequencyPath, "7123456");
         if (text == "<content>")
             text = "7.123456";
         if (text == "<label>")
@@ -109,14 +105,13 @@ private Q_SLOTS:
         QVERIFY2(View()->indexBelow(View()->indexAt({5, 5})).isValid(), "found values are shown at once");
     }
 
-    void onlyChangedValuesAreListedWhenAskedFor()
+    void onlyChangedValuesOrThoseOfTheSelectedNodeAreListedWhenAskedFor()
     {
-        QVERIFY(Find(frequencyPath)->SetToDefault());
+        QVERIFY(Value(frequencyPath)->SetToDefault());
         QVERIFY(Window().Save());
         Switch("onlyFromSaved", true);
-        Settle();
         QVERIFY(Listed().isEmpty());
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        Set(frequencyPath, "7123456");
         QTRY_COMPARE(Listed(), QStringList{frequencyPath});
         const QModelIndex content = ContentOf(frequencyPath);
         QVERIFY(content.data().toString() != content.siblingAtColumn(ValueListing::Saved).data().toString());
@@ -124,18 +119,13 @@ private Q_SLOTS:
         QTRY_VERIFY(Listed().isEmpty());
         Switch("onlyFromSaved", false);
         Switch("onlyFromDefault", true);
-        Settle();
         const QStringList listed = Listed();
         QVERIFY(listed.contains(frequencyPath));
         for (const QString& path : listed)
-            QVERIFY(Find(path)->GetStoredText() != Find(path)->GetDescriptor().defaultText);
-    }
-
-    void onlyTheSelectedNodeIsListedWhenAskedFor()
-    {
+            QVERIFY(Stored(path) != Value(path)->GetDescriptor().defaultText);
+        Switch("onlyFromDefault", false);
         Window().Nodes().SelectNode(tunerPath);
         Switch("onlyThisNode", true);
-        Settle();
         QVERIFY(Listed().contains(frequencyPath));
         for (const QString& path : Listed())
             QVERIFY(path.startsWith(tunerPath));
@@ -143,61 +133,50 @@ private Q_SLOTS:
         Settle();
         QVERIFY(!Listed().isEmpty() && !Listed().contains(frequencyPath));
     }
-
-    void aFlatListIsSortedByAColumn_data()
-    {
-        QTest::addColumn<int>("column");
-        QTest::newRow("label") << int(ValueListing::Label);
-        QTest::newRow("default") << int(ValueListing::Default);
-        QTest::newRow("key") << int(ValueListing::Key);
-    }
     void aFlatListIsSortedByAColumn()
     {
-        QFETCH(int, column);
         Switch("asTree", false);
-        Settle();
         QHeaderView* header = View()->header();
-        const QPoint place(header->sectionViewportPosition(column) + 20, 5);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-        if (header->sortIndicatorOrder() != Qt::AscendingOrder)
+        for (const int column : {ValueListing::Label, ValueListing::Default, ValueListing::Key})
+        {
+            const QPoint place(header->sectionViewportPosition(column) + 20, 5);
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-        Settle();
-        const auto text = [&](int row) { return Model().index(row, column).data().toString(); };
-        const auto isNumber = [&](int row)
-        {
-            const ValueKind kind = Model().ValueAt(Model().index(row, 0))->GetKind();
-            return kind == ValueKind::Int || kind == ValueKind::Double || kind == ValueKind::Frequency;
-        };
-        for (int row = 1; row < Model().rowCount(); ++row)
-            if (column != ValueListing::Default || (!isNumber(row - 1) && !isNumber(row)))
-                QVERIFY(text(row - 1).compare(text(row), Qt::CaseInsensitive) <= 0);
-        // Numbers go by their size: 9 before 10.
-        double last = -HUGE_VAL;
-        for (int row = 0; column == ValueListing::Default && row < Model().rowCount() && isNumber(row); ++row)
-        {
-            const double number = Model().ValueAt(Model().index(row, 0))->GetDescriptor().defaultText.toDouble();
-            QVERIFY(last <= number);
-            last = number;
+            if (header->sortIndicatorOrder() != Qt::AscendingOrder)
+                QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+            Settle();
+            // Numbers come first and go by their size: 9 before 10.
+            std::pair before(false, -HUGE_VAL);
+            QString textBefore;
+            for (const QModelIndex& index : AllRows(Model()))
+            {
+                const ValueBase& value = *Model().ValueAt(index);
+                const std::array numbers{ValueKind::Int, ValueKind::Double, ValueKind::Frequency};
+                const bool isText = column != ValueListing::Default || !std::ranges::count(numbers, value.GetKind());
+                const std::pair here(isText, isText ? 0.0 : value.GetDescriptor().defaultText.toDouble());
+                QVERIFY(std::exchange(before, here) <= here);
+                const QString text = isText ? index.siblingAtColumn(column).data().toString() : QString();
+                QVERIFY(std::exchange(textBefore, text).compare(text, Qt::CaseInsensitive) <= 0);
+            }
         }
     }
 
     void aNumberIsEditedInPlaceAndARefusedOneStaysInTheEditor()
     {
-        const QString before = Find(frequencyPath)->GetStoredText();
+        const QString before = Stored(frequencyPath);
         QWidget* editor = Edit(frequencyPath);
         QVERIFY(editor);
-        QTest::keyClicks(editor, "much");
-        QTest::keyClick(editor, Qt::Key_Return);
+        Type(editor, "much");
         QCOMPARE(QApplication::focusWidget(), editor);
         QVERIFY(editor->toolTip().contains("much"));
-        QCOMPARE(Find(frequencyPath)->GetStoredText(), before);
-        static_cast<QLineEdit*>(editor)->selectAll();
-        QTest::keyClicks(editor, "7040 k");
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCOMPARE(Find(frequencyPath)->GetStoredText(), "7040000");
+        QCOMPARE(Stored(frequencyPath), before);
+        Type(editor, "7040 k");
+        QCOMPARE(Stored(frequencyPath), "7040000");
         QTRY_VERIFY(View()->hasFocus());
         QCOMPARE(ContentOf(frequencyPath).data().toString(), "7.04 MHz");
         QVERIFY(Window().isWindowModified());
+        Value(frequencyPath)->SetState(stDisabled);
+        QVERIFY(!Edit(frequencyPath));
+        QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
     }
 
     void everyKindIsEditedByItsEditor()
@@ -206,10 +185,9 @@ private Q_SLOTS:
         const QString selection = FirstOfKind(ValueKind::Selection);
         const QString list = FirstOfKind(ValueKind::DoubleList);
         QVERIFY(!boolean.isEmpty() && !selection.isEmpty() && !list.isEmpty());
-
-        const bool on = Find(boolean)->GetBool();
+        const bool on = Value(boolean)->GetBool();
         QVERIFY(!Edit(boolean)); // switched at once
-        QCOMPARE(Find(boolean)->GetBool(), !on);
+        QCOMPARE(Value(boolean)->GetBool(), !on);
 
         auto* combo = qobject_cast<QComboBox*>(Edit(selection));
         QVERIFY(combo && combo->count() > 1);
@@ -217,18 +195,16 @@ private Q_SLOTS:
         QTest::keyClick(combo, row == 0 ? Qt::Key_Down : Qt::Key_Up);
         QTest::keyClick(combo, Qt::Key_Return);
         QTRY_VERIFY(View()->hasFocus());
-        QVERIFY(Window().Document().DiffersFromSaved(*Find(selection)));
+        QVERIFY(Window().Document().DiffersFromSaved(*Value(selection)));
 
         QWidget* editor = Edit(list);
         QVERIFY(editor);
-        static_cast<QLineEdit*>(editor)->selectAll();
-        QTest::keyClicks(editor, "nothing");
-        QTest::keyClick(editor, Qt::Key_Return);
+        Type(editor, "nothing");
         QTRY_VERIFY(Window().Messages().GetText().contains(list));
-        QVERIFY(!Window().Document().DiffersFromSaved(*Find(list)));
+        QVERIFY(!Window().Document().DiffersFromSaved(*Value(list)));
     }
 
-    void whatIsTypedIntoTheListFilters()
+    void whatIsTypedIntoTheListFiltersAndReturnGoesToTheField()
     {
         View()->setCurrentIndex(Model().IndexOf(frequencyPath));
         View()->setFocus();
@@ -237,24 +213,12 @@ private Q_SLOTS:
         QCOMPARE(m_dock->Filter()->text(), "tuner_hf");
         Settle();
         QCOMPARE(Model().PathAt(View()->currentIndex()), frequencyPath);
-    }
-
-    void aDisabledValueIsNotEdited()
-    {
-        Find(frequencyPath)->SetState(stDisabled);
-        QVERIFY(!Edit(frequencyPath));
-        QVERIFY(!Model().setData(ContentOf(frequencyPath), "7000000"));
-    }
-
-    void returnOnARowGoesToTheNodeOfTheField()
-    {
         Window().Nodes().SelectNode("/Jobs/Demo/TDS_HFWB/HEADER_VOICE/");
-        QSignalSpy wanted(m_dock, &ValuesDock::Activated);
-        View()->setCurrentIndex(Model().IndexOf(frequencyPath));
+        const QSignalSpy wanted(m_dock, &ValuesDock::Activated);
         QTest::keyClick(View(), Qt::Key_Return);
         QCOMPARE(wanted.size(), 1);
         QCOMPARE(wanted.front().front().toString(), frequencyPath);
-        QCOMPARE(Window().Nodes().GetCurrentNode()->path, tunerPath);
+        QCOMPARE(m_desk->CurrentPath(), tunerPath);
     }
 
     void anotherJobMayComeWhileTheListIsShownFilteredAndEdited_data()
@@ -280,25 +244,23 @@ private Q_SLOTS:
                           looked += int(Listed().size());
                           m_dock->grab();
                       }};
-        Find(frequencyPath)->Attach(&looker);
+        Value(frequencyPath)->Attach(&looker);
         if (scanning)
-            Switch("onlyFromDefault", true);
-        WriteAll(m_desk->File("b.job.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">"
-                                            "<Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\"/></Job>");
-        QVERIFY(Window().OpenFile(m_desk->File("b.job.xml")));
+            m_dock->findChild<QCheckBox*>("onlyFromDefault")->setChecked(true);
+        WriteAll(File("b.job.xml"), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Job version=\"1\">"
+                                    "<Node name=\"/T\" type=\"IPC_TUNER_HF\" groups=\"G_TUNER_HF\"/></Job>");
+        QVERIFY(Window().OpenFile(File("b.job.xml")));
         Switch("onlyFromDefault", false);
-        Settle();
         const QStringList listed = Listed();
         QVERIFY(!listed.isEmpty());
         for (const QString& path : listed)
-            QVERIFY(path.startsWith("/T/") && Find(path));
+            QVERIFY(path.startsWith("/T/") && Value(path));
         QVERIFY(looked > 0);
     }
 
     void valuesThatGoLeaveEmptyRowsUntilTheListIsMadeAnew()
     {
         Switch("asTree", false);
-        Settle();
         const QModelIndex index = ContentOf(frequencyPath);
         Tree::Instance()->RemoveBranch(tunerPath);
         QCOMPARE(index.data(), QVariant());
@@ -311,8 +273,8 @@ private Q_SLOTS:
 
     void theContextMenuTakesAValueBack()
     {
-        const QString saved = Find(frequencyPath)->GetStoredText();
-        QVERIFY(Find(frequencyPath)->SetStoredText("7123456"));
+        const QString saved = Stored(frequencyPath);
+        Set(frequencyPath, "7123456");
         View()->setCurrentIndex(Model().IndexOf(frequencyPath));
         View()->setFocus();
         QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
@@ -322,7 +284,7 @@ private Q_SLOTS:
             if (action->text().contains("Saved Value"))
                 action->trigger();
         menu->close();
-        QTRY_COMPARE(Find(frequencyPath)->GetStoredText(), saved);
+        QTRY_COMPARE(Stored(frequencyPath), saved);
     }
 };
 
