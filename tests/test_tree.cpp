@@ -250,54 +250,17 @@ private slots:
         QVERIFY(m_tree.FindValue(u"/a/K"));
     }
 
-    void WhoHearsOfAnEndMayRemoveMore_data()
+    void WhoHearsOfAnEndMayRemoveMoreSwapTheTreeOrDeleteIt_data()
     {
-        const Table<QString, QString> row("first", "further");
-        row("a branch, then one beside it", "/a/b", "/x");
-        row("a branch, then the one above it", "/a/b", "/a");
-        row("a branch, then all", "/a/b", "");
-        row("a value, then its node", "/a/b/K", "/a/b");
-        row("a value, then all", "/a/b/K", "");
-    }
-    void WhoHearsOfAnEndMayRemoveMore()
-    {
-        QFETCH(QString, first);
-        QFETCH(QString, further);
-        QStringList told;
-        Hearer remover([&] { further.isEmpty() ? m_tree.Clear() : m_tree.RemoveBranch(further); });
-        Hearer witness(
-            [&]
-            {
-                const auto* value = static_cast<ValueBase*>(witness.source);
-                told += value->GetNode()->GetParent()->GetPathName() + u'|' + value->GetPathName();
-            });
-        for (const char* path : {"/a/b/K", "/a/b/L", "/a/b/c/M", "/a/N", "/x/y/O"})
-        {
-            ValueBase* value = m_tree.CreateValue(QString::fromUtf8(path), text);
-            value->Attach(&remover);
-            value->Attach(&witness);
-        }
-        m_tree.FindNode(first) ? m_tree.RemoveBranch(first) : m_tree.RemoveValue(first);
-        QVERIFY(told.contains(QStringLiteral("/a|/a/b/K")));
-        QCOMPARE(told.size() + int(m_tree.ValueCount()), 5);
-        QCOMPARE(told.removeDuplicates(), 0);
-        QVERIFY(!m_tree.FindValue(first) && !m_tree.FindNode(further));
-    }
-
-    void WhoHearsOfAnEndMaySwapTheTreeOrDeleteIt_data()
-    {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<bool>("swap");
+        const Table<QString, QString> row("way", "further");
         for (const char* way : {"branch", "value", "clear", "clear later"})
-        {
-            QTest::addRow("%s, swap", way) << way << true;
-            QTest::addRow("%s, delete", way) << way << false;
-        }
+            for (const char* further : {"/x", "/a", "/a/b", "all", "swap", "delete"})
+                row(QString(way) + ", then " + further, way, further);
     }
-    void WhoHearsOfAnEndMaySwapTheTreeOrDeleteIt()
+    void WhoHearsOfAnEndMayRemoveMoreSwapTheTreeOrDeleteIt()
     {
         QFETCH(QString, way);
-        QFETCH(bool, swap);
+        QFETCH(QString, further);
         auto tree = std::make_unique<Tree>();
         QStringList told;
         Hearer hearer(
@@ -305,14 +268,19 @@ private slots:
             {
                 const auto* value = static_cast<ValueBase*>(hearer.source);
                 told += value->GetNode()->GetBasePath() + value->GetText();
-                if (!swap)
+                if (further == u"delete")
                     return tree.reset();
+                if (further.startsWith(u'/'))
+                    return tree->RemoveBranch(further);
+                if (further == u"all")
+                    return tree->Clear();
                 Tree other; // dies with all that was in the tree
                 tree->Swap(other);
             });
-        for (const char* path : {"/a/b/K", "/a/b/c/L", "/a/M"})
+        QStringList paths{"/a/M", "/a/b/K", "/a/b/c/L", "/x/y/O"};
+        for (const QString& path : std::as_const(paths))
         {
-            ValueBase* value = tree->CreateValue(QString::fromUtf8(path), text);
+            ValueBase* value = tree->CreateValue(path, text);
             value->SetFromText(value->GetName());
             value->Attach(&hearer);
         }
@@ -322,17 +290,17 @@ private slots:
             tree->RemoveValue(u"/a/b/K");
         else
             way == u"clear" ? tree->Clear() : tree->ClearLater();
+        if (further.startsWith(u'/') && !way.startsWith(u"clear"))
+            paths = paths.filter(QRegularExpression((way == u"value" ? "^(/a/b/K|" : "^(/a/b/|") + further + "/)"));
         told.sort();
-        QCOMPARE(told, QStringList({"/a/M", "/a/b/K", "/a/b/c/L"}));
-        QVERIFY(swap ? tree->ValueCount() == 0 : !tree);
+        QCOMPARE(told, paths);
+        QVERIFY(further == u"delete" ? !tree : tree->ValueCount() == size_t(4 - paths.size()));
         QTRY_VERIFY(!IdleDisposal::IsUnderWay());
     }
 
     void ANodeThatIsRemovedAndATreeThatDiesTakeNoMoreValues_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char* way : {"branch", "clear", "clear later", "tree"})
-            QTest::newRow(way) << way;
+        EachText("way", {"branch", "clear", "clear later", "tree"});
     }
     void ANodeThatIsRemovedAndATreeThatDiesTakeNoMoreValues()
     {
@@ -387,17 +355,6 @@ private slots:
         m_tree.Clear();
         QVERIFY(m_tree.FindValue(u"/a/NEW") && !m_tree.FindValue(u"/a/OLD"));
         QCOMPARE(m_tree.FindNode(u"/a")->GetValues().size(), size_t(1));
-    }
-
-    void ATreeThatDiesReportsTheEndOfItsValues()
-    {
-        Hearer hearer;
-        {
-            Tree tree;
-            tree.CreateValue(u"/a/K", text)->Attach(&hearer);
-            tree.CreateValue(u"K", text)->Attach(&hearer);
-        }
-        QCOMPARE(hearer.codes.size(), size_t(2));
     }
 
     void RandomGrowthAndRemovalKeepEveryPathRight_data()
