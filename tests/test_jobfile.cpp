@@ -168,22 +168,18 @@ private slots:
         QCOMPARE(At("TUNER_HF_NB_MGCVALUE")->GetText(), QString("70"));
     }
 
-    void newValuesComeInTheOrderOfTheModel()
-    {
-        QVERIFY(Load(Job({})));
-        QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("70"));
-        QVERIFY(At("TUNER_HF_NB_FREQUENCY")->SetFromText("7000000"));
-        const QByteArray text = m_job->ToUtf8();
-        QVERIFY(text.contains("FREQUENCY") && text.indexOf("FREQUENCY") < text.indexOf("MGCVALUE"));
-    }
-
-    void aValueAtItsDefaultStaysInTheFileOnlyWhereTheFileNamedIt()
+    void valuesAreWrittenInTheOrderOfTheModelAndAtTheirDefaultsOnlyWhereTheFileNamedThem()
     {
         QVERIFY(Load(Job(Mgc("61"))));
         QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetToDefault());
         QVERIFY(m_job->ToUtf8().contains(">60<"));
         At("TUNER_HF_NB_MGCVALUE")->SetExplicit(false);
         QCOMPARE(m_job->ToUtf8(), Job({}));
+        QVERIFY(Load(Job({})));
+        QVERIFY(At("TUNER_HF_NB_MGCVALUE")->SetFromText("70"));
+        QVERIFY(At("TUNER_HF_NB_FREQUENCY")->SetFromText("7000000"));
+        const QByteArray text = m_job->ToUtf8();
+        QVERIFY(text.contains("FREQUENCY") && text.indexOf("FREQUENCY") < text.indexOf("MGCVALUE"));
     }
 
     void textOfAnyKindSurvives_data()
@@ -237,14 +233,7 @@ private slots:
         row("two bytes a character", QByteArray("\xFF\xFE<\0J\0o\0b\0/\0>\0", 14), 1, 1, nullptr, "UTF-16");
         row("document type", "<!DOCTYPE Job [<!ENTITY a \"b\">]>\n<Job version=\"1\">&a;</Job>", 1, 0, nullptr,
             "document type");
-        row("entities that grow",
-            "<!DOCTYPE Job [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
-            "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\">]>\n<Job version=\"1\">&c;</Job>",
-            1, 0, nullptr, "document type");
-        row("entity from outside", "<!DOCTYPE Job SYSTEM \"file:///dev/zero\">\n<Job version=\"1\"/>", 1, 0, nullptr,
-            "document type");
         row("entity that nobody describes", Job(Mgc("&a;")), 3, 0, nullptr, "well-formed");
-        row("infinite", Job("\n" + Mgc("inf")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "inf");
         row("beyond any number", Job("\n" + Mgc("1e999")), 4, 1, "/TUNER_HF_NB_MGCVALUE", "1e999");
         row("node upwards in a path", "<Job version=\"1\"><Node name=\"/Jobs/../A\" type=\"\"/></Job>", 1, 18, nullptr,
             "..");
@@ -254,7 +243,6 @@ private slots:
         row("zero bytes", QByteArray(100000, '\0'), 1, 1, nullptr, "well-formed");
         row("depth of nodes", Job(QByteArray("<Node name=\"B\" type=\"\">").repeated(100000)), 3, 0, nullptr, "deep");
         row("depth of the unknown", Job(QByteArray("<x>").repeated(100000)), 3, 0, nullptr, "deep");
-        row("depth of a million", Job(QByteArray("<x>").repeated(1000000)), 3, 0, nullptr, "deep");
         row("length of an attribute", Job("<x a=\"" + QByteArray(9000000, 'a') + "\"/>"), 3, 0, nullptr, "longer");
         row("length of a text", Job(Mgc(QByteArray(17000000, 'a'))), 0, 0, "", "longer");
     }
@@ -380,11 +368,12 @@ private slots:
         QVERIFY(Load(Job({})));
         const ValueBase* old = At("TUNER_HF_NB_MGCVALUE");
         bool released = false;
-        Hearer listener{[&]
-                        {
-                            released = released || old->GetState() == stReleased;
-                            QCOMPARE(At("TUNER_HF_NB_MGCVALUE")->GetText(), QString("61"));
-                        }};
+        Hearer listener(
+            [&]
+            {
+                released = released || old->GetState() == stReleased;
+                QCOMPARE(At("TUNER_HF_NB_MGCVALUE")->GetText(), QString("61"));
+            });
         At("TUNER_HF_NB_MGCVALUE")->Attach(&listener);
         QVERIFY(Load(Job(Mgc("61"))));
         QVERIFY(released);
@@ -529,18 +518,11 @@ private slots:
         QVERIFY(QFileInfo(Path("link.job.xml")).isSymLink());
         QCOMPARE(ReadBack("target.job.xml"), Job(Mgc("62")));
         QCOMPARE(ReadBack("link.job.xml~"), Job(Mgc("61")));
-        // One that leads nowhere yet, too.
-        QVERIFY(QFile::remove(Path("target.job.xml")));
-        QVERIFY2(m_job->Save(&m_error), qPrintable(m_error.ToText()));
-        QVERIFY(QFileInfo(Path("link.job.xml")).isSymLink());
-        QCOMPARE(ReadBack("target.job.xml"), Job(Mgc("62")));
     }
 
     void aLinkInThePlaceOfTheBackupIsReplacedAndNotFollowed_data()
     {
-        QTest::addColumn<QString>("link");
-        for (const char* link : {"a.job.xml~", "a.job.xml~new"})
-            QTest::newRow(link) << link;
+        EachText("link", {"a.job.xml~", "a.job.xml~new"});
     }
     void aLinkInThePlaceOfTheBackupIsReplacedAndNotFollowed()
     {
@@ -554,19 +536,6 @@ private slots:
         QVERIFY(!QFileInfo(Path("a.job.xml~")).isSymLink());
         QCOMPARE(ReadBack("a.job.xml~"), Job(Mgc("61")));
         QVERIFY(!QFileInfo(Path("a.job.xml~new")).isSymLink());
-    }
-
-    void aLinkThatGoesRoundIsNoFileAndGivesWayToOne()
-    {
-        QVERIFY(Load(Job(Mgc("61"))));
-        QVERIFY(QFile::link(Path("round2.job.xml"), Path("round1.job.xml")));
-        QVERIFY(QFile::link(Path("round1.job.xml"), Path("round2.job.xml")));
-        QVERIFY(!m_job->Load(Path("round1.job.xml"), &m_error));
-        QVERIFY(!m_error.reason.isEmpty());
-        QCOMPARE(m_job->GetFileName(), Path("a.job.xml"));
-        QVERIFY2(m_job->SaveAs(Path("round1.job.xml"), &m_error), qPrintable(m_error.ToText()));
-        QCOMPARE(ReadBack("round1.job.xml"), Job(Mgc("61")));
-        QCOMPARE(ReadBack("round2.job.xml"), Job(Mgc("61")));
     }
 
     void aChangeOnDiskIsSeen()

@@ -30,18 +30,6 @@ const QByteArray otherJob = declaration + QByteArray("<Job version=\"1\">\n"
                                                      "  <Node name=\"AB\" type=\"CS\" groups=\"G_TUNER_VUHF\"/>\n"
                                                      "</Job>\n");
 
-/// Does something on the first change that it hears of.
-struct Once : IObserver
-{
-    explicit Once(std::function<void()> f) : act(std::move(f)) {}
-    void Update(Observable*, TChangeCode) override
-    {
-        if (const auto now = std::exchange(act, {}))
-            now();
-    }
-    std::function<void()> act;
-};
-
 } // namespace
 
 class TestJobStructure : public QObject
@@ -52,9 +40,10 @@ class TestJobStructure : public QObject
     std::unique_ptr<JobFile> m_job;
     QString m_reason;
 
-    // What somebody does to the job who hears of an operation.
-    void Act(const QString& act)
+    // What somebody does to the job who hears of an operation, once.
+    void Act(Hearer& once, const QString& act)
     {
+        once.act = {};
         if (act == "remove above")
             m_job->RemoveNode(u"AB");
         else if (act == "remove another")
@@ -63,12 +52,13 @@ class TestJobStructure : public QObject
             m_job->RenameNode(u"AB", "BA");
         else if (act == "copy above")
             m_job->DuplicateNode(u"AB", "BA");
-        else if (act == "load")
-            Load(otherJob);
         else if (act == "die")
             m_job.reset();
-        if (act == "load") // a modal dialog, say
-            QTest::qWait(1);
+        else
+        {
+            Load(otherJob);
+            QTest::qWait(1); // a modal dialog, say
+        }
     }
     // That the tree holds what the job says, and the file the same again.
     void IsWhole()
@@ -223,13 +213,9 @@ private slots:
 
     void whoHearsOfAnEndMayChangeTheJob_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("act");
-        QTest::addColumn<QStringList>("left");
-        const QStringList above{"AB/", "/Jobs/C/"};
-        const QStringList renamed{"AB/", "AB/NEW/", "/Jobs/C/"};
-        const auto row = [](const char* way, const char* act, const QStringList& left)
-        { QTest::addRow("%s, then %s", way, act) << way << act << left; };
+        const Table<QString, QString, QStringList> table("way", "act", "left");
+        const auto row = [&](const QString& way, const QString& act, const QStringList& left)
+        { table(way + ", then " + act, way, act, left); };
         row("remove", "remove above", {"/Jobs/C/"});
         row("remove", "remove another", {"AB/"});
         row("remove", "rename above", {"BA/", "/Jobs/C/"});
@@ -248,7 +234,7 @@ private slots:
         QFETCH(QString, act);
         QFETCH(QStringList, left);
         Load(job);
-        Once once([&] { Act(act); });
+        Hearer once([&] { Act(once, act); });
         ValueBase* value = Tree::Instance()->FindNode(u"AB/IN")->GetValues().front().get();
         const QString name = value->GetName();
         value->Attach(&once);
@@ -268,11 +254,10 @@ private slots:
 
     void whoHearsOfANewStateMayChangeTheJob_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("act");
+        const Table<QString, QString> row("way", "act");
         for (const char* way : {"add", "put back"})
             for (const char* act : {"remove above", "remove another", "load", "die"})
-                QTest::addRow("%s, then %s", way, act) << way << act;
+                row(QString(way) + ", then " + act, way, act);
     }
     void whoHearsOfANewStateMayChangeTheJob()
     {
@@ -287,7 +272,7 @@ private slots:
         }
         // The host has made a value already that the rules of the new node disable.
         ValueBase* own = Tree::Instance()->CreateValue<IntValue>(u"AB/X/TUNER_HF_NB_MGCVALUE");
-        Once once([&] { Act(act); });
+        Hearer once([&] { Act(once, act); });
         own->Attach(&once);
         const bool stays = act == "remove another" || act == "die";
         if (way == "add")
