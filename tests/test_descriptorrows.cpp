@@ -33,8 +33,6 @@ QByteArray Frequency(const QByteArray& subControl = {})
            (subControl.isEmpty() ? QByteArray() : " subControl=\"" + subControl + '"');
 }
 
-const QByteArray list = "kind=\"list\" default=\"3000000;5000000\" control=\"6\" rows=\"3\"";
-
 class RowPanel : public ParameterDlg
 {
 public:
@@ -127,46 +125,33 @@ private slots:
         QCOMPARE(panel.value.Get(), PanelTest::ValueOf("Key"));
     }
 
-    void frequenciesAsTextFollowTheUnitOfTheSettings()
+    void frequenciesInTextsAndListsFollowTheUnitOfTheSettings()
     {
-        const auto text = [](bool kiloHertz)
+        for (const bool kiloHertz : {true, false})
         {
-            const auto& parameter = Describe(Frequency("2"));
-            Create(basePath + "Key", parameter);
+            const double factor = kiloHertz ? 1000 : 1;
+            const auto& text = Describe(Frequency("2"));
+            Create(basePath + "Key", text);
             RowPanel panel;
-            panel.Build(parameter, {true, true, false, kiloHertz});
-            QString shown = qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->text();
+            panel.Build(text, {true, true, false, kiloHertz});
+            QCOMPARE(QLocale().toDouble(qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->text()), 5 * factor);
             Tree::Instance()->Clear();
-            return QLocale().toDouble(shown);
-        };
-        QCOMPARE(text(true), 5000.0);
-        QCOMPARE(text(false), 5.0);
-    }
 
-    void aListOfFrequenciesHasNoLabelButAHeader_data()
-    {
-        const Table<bool, QString, double> row("kiloHertz", "header", "first");
-        row("kHz", true, "Label [kHz]", 3000.0);
-        row("MHz", false, "Label [MHz]", 3.0);
-    }
-    void aListOfFrequenciesHasNoLabelButAHeader()
-    {
-        QFETCH(bool, kiloHertz);
-        QFETCH(double, first);
-        const auto& parameter = Describe(list);
-        Create(basePath + "Key", parameter);
-        RowPanel panel;
-        panel.Build(parameter, {true, true, false, kiloHertz});
-        const PanelTest::Grid grid(panel);
-        auto* table = qobject_cast<VCListBoxNumeric*>(grid.At(1, 2));
-        QVERIFY(table);
-        QCOMPARE(grid.PlaceOf(table), (Place{1, 2, 5, 2}));
-        QCOMPARE(table->columnCount(), 1);
-        QTEST(table->horizontalHeaderItem(0)->text(), "header");
-        QCOMPARE(table->columnWidth(0), 200);
-        QTEST(table->accessibleName(), "header");
-        QCOMPARE(QLocale().toDouble(table->item(0, 0)->text()), first);
-        QCOMPARE(grid.PathAt(1, 2), basePath + "Key");
+            const auto& list = Describe("kind=\"list\" default=\"3000000;5000000\" control=\"6\" rows=\"3\"");
+            Create(basePath + "Key", list);
+            RowPanel listPanel;
+            listPanel.Build(list, {true, true, false, kiloHertz});
+            const PanelTest::Grid grid(listPanel);
+            auto* table = qobject_cast<VCListBoxNumeric*>(grid.At(1, 2)); // in place of the label
+            QVERIFY(table);
+            QCOMPARE(grid.PlaceOf(table), (Place{1, 2, 5, 2}));
+            QCOMPARE(table->horizontalHeaderItem(0)->text(), kiloHertz ? "Label [kHz]" : "Label [MHz]");
+            QCOMPARE(table->accessibleName(), table->horizontalHeaderItem(0)->text());
+            QCOMPARE(table->columnWidth(0), 200);
+            QCOMPARE(QLocale().toDouble(table->item(0, 0)->text()), 3 * factor);
+            QCOMPARE(grid.PathAt(1, 2), basePath + "Key");
+            Tree::Instance()->Clear();
+        }
     }
 
     void theDisplayUnitAdjustsUnlessItIsKept()
@@ -208,19 +193,11 @@ private slots:
         const auto& parameter = Describe("kind=\"int\" default=\"1\" control=\"2\"");
         ValueBase* value = Create(where, parameter);
         RowPanel panel;
+        panel.value = Tree::Instance()->CreateValue<BoolValue>(QStringLiteral("/X/Other")); // let go of
         panel.Build(parameter, {search, true, rebase, false});
         QCOMPARE(panel.value.Get(), isHeld ? value : nullptr);
         QCOMPARE(PanelTest::Grid(panel).PathAt(1, 3), isBound ? where : QString());
         QCOMPARE(panel.GetBasePath(), basePath);
-    }
-
-    void anotherValueIsLetGoOf()
-    {
-        const auto& parameter = Describe("kind=\"int\" default=\"1\" control=\"2\"");
-        RowPanel panel;
-        panel.value = Tree::Instance()->CreateValue<BoolValue>(QStringLiteral("/X/Other"));
-        panel.Build(parameter);
-        QVERIFY(!panel.value);
     }
 
     void onlyTheToolTipOfAFrequencyIsTranslated()

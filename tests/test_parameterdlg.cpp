@@ -19,14 +19,6 @@ namespace
 
 const QString basePath = QStringLiteral("/J/T/P/");
 
-ValueDescriptor Described(ValueKind kind, std::vector<SelectionItem> items = {})
-{
-    ValueDescriptor descriptor;
-    descriptor.kind = kind;
-    descriptor.items = std::move(items);
-    return descriptor;
-}
-
 // A panel that opens the protected operations to the tests and counts what it hears.
 class OpenPanel : public ParameterDlg
 {
@@ -112,8 +104,8 @@ private Q_SLOTS:
     void writingRespectsTheEnableState()
     {
         ValueBase* flag = Tree::Instance()->CreateValue<BoolValue>(basePath + "FLAG");
-        const ValueDescriptor choice = Described(ValueKind::Selection, {{0, "Off"}, {7, "On"}});
-        ValueBase* selection = Tree::Instance()->CreateValue(basePath + "CHOICE", choice);
+        auto* selection = Tree::Instance()->CreateValue<ValueSelection>(basePath + "CHOICE");
+        selection->SetItems({{0, "Off"}, {7, "On"}});
         OpenPanel panel;
         panel.Enable("FLAG", false, true);
         QCOMPARE(flag->GetState(), stDisabled);
@@ -129,14 +121,10 @@ private Q_SLOTS:
         panel.SetSelection("CHOICE", "Off", false);
         QCOMPARE(selection->GetText(), QString("On"));
         QCOMPARE(panel.GetSelectedValue("FLAG"), QString());
-    }
 
-    void valuesThatAreMissingAreNoTrouble()
-    {
-        OpenPanel panel;
+        // Values that are missing are no trouble.
         QCOMPARE(panel.GetSelectedValue("NONE"), QString());
-        QVERIFY(!panel.IsChecked("NONE", false));
-        QVERIFY(!panel.AddObserver("NONE"));
+        QVERIFY(!panel.IsChecked("NONE", false) && !panel.AddObserver("NONE"));
         panel.Enable("NONE", true, false);
         panel.SetChecked("NONE", true, false);
         panel.DeleteObserver(nullptr);
@@ -172,7 +160,7 @@ private Q_SLOTS:
         value->SetValue(3);
     }
 
-    void aTitleNeedsAGroupBox()
+    void aTitleNeedsAGroupBoxAndTheStretchLiesOneBeyondTheFirstFreeRowAndColumn()
     {
         for (const bool plain : {false, true})
         {
@@ -180,18 +168,14 @@ private Q_SLOTS:
             panel.SetTitle("Title");
             QCOMPARE(panel.GetTitle(), QString(plain ? "" : "Title"));
             QCOMPARE(panel.layout() == panel.Grid(), plain);
+            panel.AddLabel(panel.Grid(), 2, 3, 1, 1, "x");
+            panel.SetDefaultStretchFactor();
+            for (const int further : {0, 1})
+            {
+                QCOMPARE(panel.Grid()->rowStretch(3 + further), further);
+                QCOMPARE(panel.Grid()->columnStretch(4 + further), further);
+            }
         }
-    }
-
-    void theStretchLiesOneBeyondTheFirstFreeRowAndColumn()
-    {
-        OpenPanel panel;
-        panel.AddLabel(panel.Grid(), 2, 3, 1, 1, "x");
-        panel.SetDefaultStretchFactor();
-        QCOMPARE(panel.Grid()->rowStretch(3), 0);
-        QCOMPARE(panel.Grid()->rowStretch(4), 1);
-        QCOMPARE(panel.Grid()->columnStretch(4), 0);
-        QCOMPARE(panel.Grid()->columnStretch(5), 1);
     }
 
     void fromBaseSkipsTheMapping()
@@ -207,16 +191,10 @@ private Q_SLOTS:
         QVERIFY(raw->GetValue() && !above->GetValue());
         panel.AddCheckBoxFromVTParent(panel.Grid(), 2, 0, 1, 1, "KEY", "above")->click();
         QVERIFY(above->GetValue());
-    }
-
-    void aWidgetWithoutGridIsBoundAndPlacedNowhere()
-    {
-        Tree::Instance()->CreateValue<BoolValue>(basePath + "FLAG")->SetValue(true);
-        OpenPanel panel;
-        const std::unique_ptr<VCCheckBox> box(panel.AddCheckBoxFromVT(nullptr, 0, 0, 1, 1, "FLAG", "flag", false));
-        QVERIFY(box->isChecked());
-        QVERIFY(!box->parent());
-        QCOMPARE(box->objectName(), QString("FLAG"));
+        // Without a grid, it stands nowhere.
+        const std::unique_ptr<VCCheckBox> box(panel.AddCheckBoxFromVT(nullptr, 0, 0, 1, 1, "KEY", "mapped", false));
+        QVERIFY(box->isChecked() && !box->parent());
+        QCOMPARE(box->objectName(), QString("KEY"));
     }
 
     void theFrequencyUnitSuitsTheValue()
@@ -267,7 +245,7 @@ private Q_SLOTS:
         QCOMPARE(hint(300), hint(100) + 200);
     }
 
-    void theJobModelDirectoryComesFromJobManagementFirst()
+    void theJobModelDirectoryComesFromJobManagementFirstAndThrowsWhereItCannotBeHad()
     {
         QTemporaryDir directory;
         CfgCenter& center = *CfgCenter::Instance();
@@ -284,17 +262,10 @@ private Q_SLOTS:
         write(center.GetFileName("JobManagement", cfgSystem), "j");
         QCOMPARE(IPCParamConfiguration("editor").GetJobModelXMLDirectory(), QString("j"));
         QCOMPARE(IPCParamConfiguration("").GetJobModelXMLDirectory(), QString());
-    }
-
-    void aConfigurationThatCannotBeHadThrows()
-    {
-        QTemporaryDir directory;
-        CfgCenter& center = *CfgCenter::Instance();
-        center.SetDirectory(directory.path());
-        QDir().mkpath(center.GetFileName("editor", cfgUser)); // a directory where a file should be
+        QDir().mkpath(center.GetFileName("broken", cfgUser)); // a directory where a file should be
         try
         {
-            IPCParamConfiguration configuration("editor");
+            IPCParamConfiguration configuration("broken");
             QFAIL("nothing thrown");
         }
         catch (const ARException& exception)
