@@ -20,89 +20,78 @@ using namespace WidgetFixture;
 namespace
 {
 
+QString CheckedButton(const VCButtonGroup& group)
+{
+    for (QRadioButton* button : group.GetButtons())
+        if (button->isChecked())
+            return button->text();
+    return {};
+}
+
+template <class W> QString LookOf(const W& widget)
+{
+    if constexpr (std::is_same_v<W, VCButtonGroup>)
+        return CheckedButton(widget);
+    else if constexpr (std::is_same_v<W, VCComboBoxClassic>)
+        return widget.currentText();
+    else if constexpr (std::is_same_v<W, VCFrequency>)
+        return widget.GetNumberField()->text();
+    else if constexpr (std::is_same_v<W, VCCheckBox> || std::is_same_v<W, VCCheckableGroupBox>)
+        return widget.isChecked() ? "on" : "";
+    else
+        return widget.text().trimmed();
+}
+
 // Each kind of widget with a value of its own, a content to begin with and another one.
 struct Subject
 {
     ValueKind kind;
-    QString first;
-    QString second;
-    std::function<QWidget*(QWidget*)> make;
-    std::function<bool(QWidget*, ValueBase*)> bind;
-    std::function<void(QWidget*)> lock;
-    std::function<QString(QWidget*)> look;
+    QString first, second;
+    QWidget* (*make)();
+    bool (*bind)(QWidget*, ValueBase*);
+    void (*lock)(QWidget*);
+    QString (*look)(QWidget*);
 };
 
-template <class W> Subject Of(ValueKind kind, const QString& first, const QString& second, QString (*look)(W*))
+template <class W> Subject Of(ValueKind kind, const QString& first, const QString& second)
 {
-    return {kind,
-            first,
-            second,
-            [](QWidget* parent) { return new W(parent); },
-            [](QWidget* widget, ValueBase* value) { return static_cast<W*>(widget)->Bind(value); },
-            [](QWidget* widget) { static_cast<W*>(widget)->Lock(); },
-            [look](QWidget* widget) { return look(static_cast<W*>(widget)); }};
-}
-
-Subject GroupBox(ValueKind kind, const QString& first, const QString& second)
-{
-    return {kind,
-            first,
-            second,
-            [](QWidget* parent) { return new VCCheckableGroupBox(parent, "Box", {}); },
-            [](QWidget* box, ValueBase* value) { return static_cast<VCCheckableGroupBox*>(box)->SetValue(value); },
-            [](QWidget* widget) { static_cast<VCCheckableGroupBox*>(widget)->Lock(); },
-            [](QWidget* widget) { return QString(static_cast<QGroupBox*>(widget)->isChecked() ? "on" : ""); }};
-}
-
-QString CheckedButton(VCButtonGroup* group)
-{
-    for (QRadioButton* button : group->GetButtons())
+    Subject subject{kind, first, second, {}, {}, {}, {}};
+    if constexpr (std::is_same_v<W, VCCheckableGroupBox>)
     {
-        if (button->isChecked())
-            return button->text();
+        subject.make = []() -> QWidget* { return new W(nullptr, "Box", {}); };
+        subject.bind = [](QWidget* widget, ValueBase* value) { return static_cast<W*>(widget)->SetValue(value); };
     }
-    return {};
+    else
+    {
+        subject.make = []() -> QWidget* { return new W; };
+        subject.bind = [](QWidget* widget, ValueBase* value) { return static_cast<W*>(widget)->Bind(value); };
+    }
+    subject.lock = [](QWidget* widget) { static_cast<W*>(widget)->Lock(); };
+    subject.look = [](QWidget* widget) { return LookOf(*static_cast<W*>(widget)); };
+    return subject;
 }
 
-const std::vector<std::pair<const char*, Subject>>& Subjects()
+const QMap<QString, Subject>& Subjects()
 {
-    const auto checked = [](VCCheckBox* w) { return QString(w->isChecked() ? "on" : ""); };
-    const auto spun = [](VCNumericFloatSpin* w) { return w->text(); };
-    static const std::vector<std::pair<const char*, Subject>> subjects{
-        {"check box", Of<VCCheckBox>(ValueKind::Bool, "true", "false", checked)},
-        {"check box of a selection", Of<VCCheckBox>(ValueKind::Selection, "5", "0", checked)},
-        {"group box", GroupBox(ValueKind::Bool, "true", "false")},
-        {"group box of a selection", GroupBox(ValueKind::Selection, "5", "0")},
-        {"combo box",
-         Of<VCComboBoxClassic>(ValueKind::Selection, "1", "5", [](VCComboBoxClassic* w) { return w->currentText(); })},
-        {"button group", Of<VCButtonGroup>(ValueKind::Selection, "1", "5", CheckedButton)},
-        {"label", Of<VCLabel>(ValueKind::Selection, "1", "5", [](VCLabel* w) { return w->text(); })},
-        {"line edit", Of<VCLineEdit>(ValueKind::Text, "abc", "xyz", [](VCLineEdit* w) { return w->text(); })},
-        {"spin box of an integer", Of<VCNumericFloatSpin>(ValueKind::Int, "7", "9", spun)},
-        {"spin box of a number", Of<VCNumericFloatSpin>(ValueKind::Double, "7.5", "9", spun)},
-        {"date and time", Of<VCDateTimeEdit>(ValueKind::DateTime, "2020-01-15T10:20:30", "2021-02-03T04:05:06",
-                                             [](VCDateTimeEdit* w) { return w->text().trimmed(); })},
-        {"frequency", Of<VCFrequency>(ValueKind::Frequency, "433920000", "100",
-                                      [](VCFrequency* w) { return w->GetNumberField()->text(); })},
-    };
+    static const QMap<QString, Subject> subjects{
+        {"check box", Of<VCCheckBox>(ValueKind::Bool, "true", "false")},
+        {"check box of a selection", Of<VCCheckBox>(ValueKind::Selection, "5", "0")},
+        {"group box", Of<VCCheckableGroupBox>(ValueKind::Bool, "true", "false")},
+        {"group box of a selection", Of<VCCheckableGroupBox>(ValueKind::Selection, "5", "0")},
+        {"combo box", Of<VCComboBoxClassic>(ValueKind::Selection, "1", "5")},
+        {"button group", Of<VCButtonGroup>(ValueKind::Selection, "1", "5")},
+        {"label", Of<VCLabel>(ValueKind::Selection, "1", "5")},
+        {"line edit", Of<VCLineEdit>(ValueKind::Text, "abc", "xyz")},
+        {"spin box of an integer", Of<VCNumericFloatSpin>(ValueKind::Int, "7", "9")},
+        {"spin box of a number", Of<VCNumericFloatSpin>(ValueKind::Double, "7.5", "9")},
+        {"date and time", Of<VCDateTimeEdit>(ValueKind::DateTime, "2020-01-15T10:20:30", "2021-02-03T04:05:06")},
+        {"frequency", Of<VCFrequency>(ValueKind::Frequency, "433920000", "100")}};
     return subjects;
-}
-
-size_t IndexOf(const char* name)
-{
-    const auto found = std::find_if(Subjects().begin(), Subjects().end(),
-                                    [&](const auto& subject) { return qstrcmp(subject.first, name) == 0; });
-    return size_t(found - Subjects().begin());
 }
 
 void AddSubjectRows(const char* pattern = "")
 {
-    QTest::addColumn<size_t>("index");
-    for (size_t i = 0; i < Subjects().size(); ++i)
-    {
-        if (QString(Subjects()[i].first).contains(QRegularExpression(pattern)))
-            QTest::newRow(Subjects()[i].first) << i;
-    }
+    EachText("name", Subjects().keys().filter(QRegularExpression(pattern)));
 }
 
 // The subject of the row, bound to its value.
@@ -110,10 +99,10 @@ struct Bound
 {
     Bound()
     {
-        QFETCH(size_t, index);
-        subject = Subjects()[index].second;
+        QFETCH(QString, name);
+        subject = Subjects()[name];
         value = Make(path, subject.kind, subject.first);
-        widget = window.Add(subject.make(nullptr));
+        widget = window.Add(subject.make());
         subject.bind(widget, value);
     }
     bool Bind(ValueBase* to) const { return subject.bind(widget, to); }
@@ -219,7 +208,7 @@ private slots:
     void viewingNeverWrites()
     {
         // Contents that no widget shows as they are.
-        const std::vector<std::pair<const char*, QString>> contents{
+        const QMap<QString, QString> contents{
             {"check box of a selection", "77"},
             {"combo box", "77"},
             {"button group", "77"},
@@ -230,13 +219,12 @@ private slots:
             {"frequency", "-1"},
         };
         Window window;
-        std::vector<ValueBase*> values;
-        for (const auto& [name, content] : contents)
+        for (const QString& name : contents.keys())
         {
-            const Subject& subject = Subjects()[IndexOf(name)].second;
-            values.push_back(Make(path + name, subject.kind, {}));
-            values.back()->SetStoredText(content);
-            QVERIFY(subject.bind(window.Add(subject.make(nullptr)), values.back()));
+            const Subject subject = Subjects()[name];
+            ValueBase* value = Make(path + name, subject.kind, {});
+            value->SetStoredText(contents[name]);
+            QVERIFY(subject.bind(window.Add(subject.make()), value));
         }
         MakeNumber(ValueKind::Double, "1000", 0, 10)->SetStoredText("1000");
         auto* spin = window.Add(new VCNumericFloatSpin);
@@ -253,15 +241,15 @@ private slots:
             visited.insert(QApplication::focusWidget());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         }
-        QVERIFY(visited.size() >= contents.size());
+        QVERIFY(visited.size() >= size_t(contents.size()));
         QLocale::setDefault(english);
         for (QWidget* child : window.findChildren<QWidget*>())
             child->setLocale(english);
         GuiCentral::Instance().SetFrequencyUnit(SuffixedDouble::Giga);
         window.hide();
         QCOMPARE(writes, 0);
-        for (size_t i = 0; i < contents.size(); ++i)
-            QCOMPARE(values[i]->GetStoredText(), contents[i].second);
+        for (const QString& name : contents.keys())
+            QCOMPARE(Tree::Instance()->FindValue(path + name)->GetStoredText(), contents[name]);
     }
 
     void whatAnUncheckedGroupBoxHoldsStaysDisabled()
@@ -289,9 +277,7 @@ private slots:
 
     void aWidgetMayBeDeletedByItsOwnWrite_data()
     {
-        const Table<size_t, Act> table("index", "act");
-        const auto row = [&](const char* name, const char* subject, const Act& act)
-        { table(name, IndexOf(subject), act); };
+        const Table<QString, Act> row("name", "act");
         const auto key = [](Qt::Key pressed) { return [=](Window&, QWidget* w) { QTest::keyClick(w, pressed); }; };
         const Act wheel = [](Window&, QWidget* w) { Wheel(w); };
         const auto clickMark = [](QWidget* button) {
@@ -471,11 +457,11 @@ private slots:
         group.Bind(value);
         QCOMPARE(group.GetButtons().size(), size_t(3));
         value->SetStoredText("99");
-        QCOMPARE(CheckedButton(&group), QString());
+        QCOMPARE(CheckedButton(group), QString());
         value->SelectKey(1);
-        QCOMPARE(CheckedButton(&group), QString("On"));
+        QCOMPARE(CheckedButton(group), QString("On"));
         value->SetItems({{1, "Only"}});
-        QCOMPARE(CheckedButton(&group), QString("Only"));
+        QCOMPARE(CheckedButton(group), QString("Only"));
     }
 };
 
