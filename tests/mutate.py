@@ -42,7 +42,7 @@ TESTS = {
     "ipcparam/source": ["host", "samplejob"],
     "ipcparam/source/analysis": ["panelrows", "panels", "demodulator", "rules"],
     "ipcparam/source/exciter": ["panelrows", "exciter", "rules", "samplejob"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "panelrows", "panels", "rules"],
+    "ipcparam/source/framework": ["parameterdlg", "panelrows", "panels", "rules"],
     "ipcparam/source/recording": ["panelrows", "panels", "rules"],
     "ipcparam/source/scan": ["panelrows", "panels", "host", "rules"],
     "ipcparam/source/tuner": ["panelrows", "panels", "host", "rules"],
