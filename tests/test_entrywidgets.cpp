@@ -192,7 +192,7 @@ private slots:
     void aLineEditWritesOnReturnAndOnLeaving()
     {
         ValueBase* value = Make(path, ValueKind::Text, "old");
-        Counter counter;
+        Hearer counter;
         value->Attach(&counter);
         Window window;
         auto* edit = window.Edit<VCLineEdit>(value);
@@ -203,7 +203,7 @@ private slots:
         QTest::keyClick(edit, Qt::Key_Backspace);
         window.other->setFocus();
         QCOMPARE(value->GetText(), QString("olde"));
-        QCOMPARE(counter.count, 2);
+        QCOMPARE(counter.codes.size(), size_t(2));
         edit->setFocus();
         QTest::keyClicks(edit, "xyz");
         value->SetStoredText("other"); // the tree goes before what is being typed

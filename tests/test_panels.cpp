@@ -176,7 +176,7 @@ private slots:
     void withoutADemodulationTheAlphabetStaysUnboundAndThePanelMayGoWhenItChanges()
     {
         auto panel = std::make_unique<DecoderDlg>(basePath, nullptr, false, false, false);
-        WidgetFixture::Counter destroyer([&] { panel.reset(); });
+        Hearer destroyer([&] { panel.reset(); });
         Demodulation()->Attach(&destroyer);
         Demodulation()->SetFromText("MORSE");
         QVERIFY(!panel);
@@ -317,7 +317,7 @@ private slots:
     {
         Fill("G_AUTOREC");
         auto panel = std::make_unique<AutoRecordingDlg>(basePath, nullptr, false, false);
-        WidgetFixture::Counter killer([&] { panel.reset(); });
+        Hearer killer([&] { panel.reset(); });
         ValueOf(AUTORECORDING_BITSTREAM)->Attach(&killer);
         QTest::mouseClick(panel->findChild<QPushButton*>(AUTORECORDING_RECORD_ALL), Qt::LeftButton);
         QVERIFY(!panel);
@@ -333,10 +333,8 @@ private slots:
             ValueOf(QLatin1String(key))->SetBool(false);
         QSet<QString> disabled;
         for (const auto& parameter : ParametersOf("G_PROFILE"))
-        {
             if (ValueOf(parameter->GetUniqueParameterName())->GetState() == stDisabled)
                 disabled.insert(parameter->GetUniqueParameterName());
-        }
         const QSet<QString> expected{FIRSTEDITDATETIME,  LASTEDITDATETIME, CREATINGOPERATOR,
                                      MODIFIYINGOPERATOR, NUMBEROFCHANNELS, MODULATIONTYPE};
         QCOMPARE(disabled, expected);

@@ -184,13 +184,13 @@ private slots:
         const auto stepIn = [](auto* period)
         {
             const QPointer<QWidget> alive(period);
-            Counter rebuild([&] { delete alive; });
+            Hearer rebuild([&] { delete alive; });
             period->start->Attach(&rebuild);
             Open(*period);
             period->startEdit->setFocus();
             QTest::keyClick(period->startEdit, Qt::Key_Up);
             QVERIFY(!alive);
-            QCOMPARE(rebuild.count, 1);
+            QCOMPARE(rebuild.codes.size(), size_t(1));
             Tree::Instance()->Clear();
         };
         stepIn(new Times("10:20", "11:30"));
@@ -201,11 +201,11 @@ private slots:
     {
         auto* start = MakeText(startPath, {});
         MakeText(stopPath, {});
-        Counter remove([] { Tree::Instance()->RemoveValue(stopPath); });
+        Hearer remove([] { Tree::Instance()->RemoveValue(stopPath); });
         start->Attach(&remove);
         VCTimePeriod period(nullptr, "Time");
         period.SetPeriod_ValuePath(startPath, stopPath);
-        QCOMPARE(remove.count, 1);
+        QCOMPARE(remove.codes.size(), size_t(1));
         QVERIFY(!start->GetValue().isEmpty());
     }
 };

@@ -336,12 +336,12 @@ private slots:
     {
         QFETCH(Act, act);
         Bound bound;
-        Counter rebuild([&] { delete bound.window.panel; });
+        Hearer rebuild([&] { delete bound.window.panel; });
         bound.value->Attach(&rebuild);
         bound.window.Open();
         bound.widget->setFocus();
         act(bound.window, bound.widget);
-        QTRY_COMPARE(rebuild.count, 1);
+        QTRY_COMPARE(rebuild.codes.size(), size_t(1));
         QVERIFY(!bound.window.panel);
         QVERIFY(bound.value->GetStoredText() != bound.subject.first);
     }

@@ -97,7 +97,7 @@ private Q_SLOTS:
         panel.show();
         QVERIFY(QTest::qWaitForWindowActive(&panel));
         const QPointer<VCComboBoxClassic> old = ComboAt(panel, 4);
-        WidgetFixture::Counter rule([&] { Mode()->SelectKey(2); }); // who hears of the mode type changes the mode
+        Hearer rule([&] { Mode()->SelectKey(2); }); // who hears of the mode type changes the mode
         old->GetBoundValue()->Attach(&rule);
         old->setFocus();
         old->showPopup();
@@ -154,7 +154,7 @@ private Q_SLOTS:
         {
             Mode()->SelectKey(1);
             std::unique_ptr<WavecomDlg> panel;
-            WidgetFixture::Counter killer([&] { panel.reset(); });
+            Hearer killer([&] { panel.reset(); });
             if (isBeforeThePanelHears)
                 Mode()->Attach(&killer);
             panel = std::make_unique<WavecomDlg>(basePath, nullptr, m_dataNode, false);
