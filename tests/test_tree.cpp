@@ -152,31 +152,20 @@ private slots:
 #endif
     }
 
-    void ValuesKeepTheirMemoryToThemselvesWithoutAskingTheHeapForEach()
+    void MakingAValueDoesNotAskTheHeapForEach()
     {
-        constexpr int count = 1000;
-        const auto path = [](int i) { return QStringLiteral("/Jobs/V%1").arg(i); };
-        const auto make = [&](int i) { m_tree.CreateValue<IntValue>(path(i))->SetValue(i); };
-        for (int i = 0; i < count; ++i)
-            make(i);
-        for (int i = 0; i < count; i += 2) // what is made next takes the place of these
-            m_tree.RemoveValue(path(i));
-        for (int i = count; i < count + count / 2; ++i)
-            make(i);
-        for (int i = 1; i < count; i += 2)
-            QCOMPARE(m_tree.FindValue(path(i))->GetText().toInt(), i);
-        for (int i = count; i < count + count / 2; ++i)
-            QCOMPARE(m_tree.FindValue(path(i))->GetText().toInt(), i);
 #ifdef COUNTS_ALLOCATIONS
+        constexpr int count = 1000;
         std::vector<const QString*> names; // known already
         for (int i = 0; i < count; ++i)
             names.push_back(&Tree::Intern(QStringLiteral("V%1").arg(i)));
-        m_tree.Clear();
         Node* node = m_tree.CreateNode(u"/Jobs");
         const size_t before = allocations;
         for (const QString* name : names)
             m_tree.CreateValue(*node, *name, ValueDescriptor::Plain(ValueKind::Int), "7");
         QVERIFY2(allocations - before < count / 10, qPrintable(QString::number(allocations - before)));
+#else
+        QSKIP("the heap is not ours to watch");
 #endif
     }
 
@@ -238,16 +227,6 @@ private slots:
         QVERIFY(single || !m_tree.FindNode(u"/a/b/c"));
         // The place is free again.
         QVERIFY(m_tree.CreateValue(u"/a/b/c/M", text));
-    }
-
-    void RemovingWhatIsNotThereDoesNothing()
-    {
-        m_tree.CreateValue(u"/a/K", text);
-        for (const char16_t* path : {u"", u"/b", u"/a/K/", u"a"})
-            m_tree.RemoveBranch(path);
-        for (const char16_t* path : {u"", u"/a", u"/a/", u"/a/L"})
-            m_tree.RemoveValue(path);
-        QVERIFY(m_tree.FindValue(u"/a/K"));
     }
 
     void WhoHearsOfAnEndMayRemoveMoreSwapTheTreeOrDeleteIt_data()
@@ -377,6 +356,11 @@ private slots:
         };
         std::map<QString, ValueBase*> model;
         m_tree.Reserve(seed % 2 ? 0 : 100);
+        for (const char16_t* missing : {u"", u"//", u"0", u"/0/"})
+        {
+            m_tree.RemoveBranch(missing);
+            m_tree.RemoveValue(missing);
+        }
         for (int step = 0; step < 20000; ++step)
         {
             const QString path = anyPath();
@@ -385,6 +369,7 @@ private slots:
             {
                 ValueBase* value = m_tree.CreateValue(path, text);
                 QCOMPARE(value != nullptr, model.try_emplace(path, value).second);
+                QVERIFY(!value || value->SetFromText(path)); // what is made next takes the memory of what was removed
             }
             else if (choice < 98)
             {
@@ -403,7 +388,7 @@ private slots:
         QCOMPARE(m_tree.ValueCount(), model.size());
         QVERIFY(model.size() > 50);
         for (const auto& [path, value] : model)
-            QVERIFY(m_tree.FindValue(path) == value && value->GetPathName() == path);
+            QVERIFY(m_tree.FindValue(path) == value && value->GetPathName() == path && value->GetText() == path);
     }
 };
 
