@@ -154,7 +154,6 @@ private:
                                             Choice{"new host", 6, &World::NewHost},
                                             Choice{"open", 6, &World::Open},
                                             Choice{"delete host", 6, &World::DeleteHost},
-                                            Choice{"type", 6, &World::Type},
                                             Choice{"tab", 3, &World::ShowTab},
                                             Choice{"new meddler", 6, &World::NewMeddler},
                                             Choice{"attach", 25, &World::Attach},
@@ -319,27 +318,6 @@ private:
             host->show();
     }
     void DeleteHost() { DeleteAny(m_hosts); }
-    // Into a field of what is shown.
-    void Type()
-    {
-        if (m_depth > 0) // keys do not come within a notification
-            return;
-        QList<QWidget*> widgets; // in the same order for the same seed
-        for (const auto& host : m_hosts)
-            widgets << host->findChildren<QWidget*>();
-        QList<QWidget*> fields;
-        for (QWidget* widget : std::as_const(widgets))
-            if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
-                fields << widget;
-        if (fields.isEmpty())
-            return;
-        QPointer<QWidget> field = Any(fields);
-        Note(field->metaObject()->className());
-        field->setFocus();
-        constexpr std::array keys{Qt::Key_Up, Qt::Key_Down, Qt::Key_Space, Qt::Key_1, Qt::Key_Tab, Qt::Key_Return};
-        for (size_t count = 1 + Below(4); field && count-- > 0;)
-            QTest::keyClick(field, Any(keys));
-    }
     void ShowTab()
     {
         if (!m_hosts.empty())
