@@ -183,78 +183,41 @@ private slots:
         QVERIFY(m_tree.FindNode(u"/")->GetName().isEmpty());
     }
 
-    void WhatIsRemovedIsOutOfReachAndReportsItsEndWhileAllOfItIsWhole_data()
-    {
-        EachText("way", {"branch", "value", "clear", "root"});
-    }
-    void WhatIsRemovedIsOutOfReachAndReportsItsEndWhileAllOfItIsWhole()
-    {
-        QFETCH(QString, way);
-        const bool single = way == u"value";
-        std::map<QString, QString> told;
-        bool released = true, whole = true;
-        Hearer hearer(
-            [&]
-            {
-                auto* value = static_cast<ValueBase*>(hearer.source);
-                released = released && value->GetState() == stReleased && !m_tree.FindValue(value->GetPathName());
-                told[value->GetPathName()] = value->GetText();
-                for (const Node* node = value->GetNode(); node; node = node->GetParent())
-                {
-                    for (const auto& other : node->GetValues())
-                        whole = whole && (single || !other->GetText().isEmpty());
-                }
-            });
-        std::map<QString, QString> expected{{"/a/b/K", "K"}, {"/a/b/L", "L"}, {"/a/b/c/M", "M"}, {"/a/b/c/d/N", "N"}};
-        for (const auto& [path, content] : expected)
-        {
-            ValueBase* value = m_tree.CreateValue(path, text);
-            value->SetFromText(content);
-            value->Attach(&hearer);
-        }
-        if (single)
-        {
-            m_tree.RemoveValue(u"/a/b/c/M");
-            expected = {{"/a/b/c/M", "M"}};
-        }
-        else if (way == u"clear")
-            m_tree.Clear();
-        else
-            m_tree.RemoveBranch(way == u"root" ? u"/" : u"/a/b/");
-        QVERIFY(released && whole);
-        QVERIFY(told == expected);
-        QCOMPARE(m_tree.ValueCount(), 4 - told.size());
-        QVERIFY(single || !m_tree.FindNode(u"/a/b/c"));
-        // The place is free again.
-        QVERIFY(m_tree.CreateValue(u"/a/b/c/M", text));
-    }
-
-    void WhoHearsOfAnEndMayRemoveMoreSwapTheTreeOrDeleteIt_data()
+    void WhatEndsIsToldWholeAndWhoHearsMayRemoveMoreSwapTheTreeOrDeleteIt_data()
     {
         const Table<QString, QString> row("way", "further");
-        for (const char* way : {"branch", "value", "clear", "clear later"})
-            for (const char* further : {"/x", "/a", "/a/b", "all", "swap", "delete"})
+        for (const char* way : {"branch", "value", "clear", "clear later", "root"})
+            for (const char* further : {"nothing", "/x", "/a", "/a/b", "all", "swap", "delete"})
                 row(QString(way) + ", then " + further, way, further);
     }
-    void WhoHearsOfAnEndMayRemoveMoreSwapTheTreeOrDeleteIt()
+    void WhatEndsIsToldWholeAndWhoHearsMayRemoveMoreSwapTheTreeOrDeleteIt()
     {
         QFETCH(QString, way);
         QFETCH(QString, further);
         auto tree = std::make_unique<Tree>();
         QStringList told;
+        bool outOfReach = true, whole = true;
         Hearer hearer(
             [&]
             {
                 const auto* value = static_cast<ValueBase*>(hearer.source);
                 told += value->GetNode()->GetBasePath() + value->GetText();
-                if (further == u"delete")
-                    return tree.reset();
+                outOfReach =
+                    outOfReach && value->GetState() == stReleased && !(tree && tree->FindValue(value->GetPathName()));
+                for (const Node* node = value->GetNode(); node && way != u"value"; node = node->GetParent())
+                    for (const auto& other : node->GetValues())
+                        whole = whole && !other->GetText().isEmpty();
                 if (further.startsWith(u'/'))
-                    return tree->RemoveBranch(further);
-                if (further == u"all")
-                    return tree->Clear();
-                Tree other; // dies with all that was in the tree
-                tree->Swap(other);
+                    tree->RemoveBranch(further);
+                else if (further == u"all")
+                    tree->Clear();
+                else if (further == u"swap")
+                {
+                    Tree other; // dies with all that was in the tree
+                    tree->Swap(other);
+                }
+                else if (further == u"delete")
+                    tree.reset();
             });
         QStringList paths{"/a/M", "/a/b/K", "/a/b/c/L", "/x/y/O"};
         for (const QString& path : std::as_const(paths))
@@ -263,17 +226,19 @@ private slots:
             value->SetFromText(value->GetName());
             value->Attach(&hearer);
         }
-        if (way == u"branch")
-            tree->RemoveBranch(u"/a/b");
+        if (way == u"branch" || way == u"root")
+            tree->RemoveBranch(way == u"root" ? u"/" : u"/a/b/");
         else if (way == u"value")
             tree->RemoveValue(u"/a/b/K");
         else
             way == u"clear" ? tree->Clear() : tree->ClearLater();
-        if (further.startsWith(u'/') && !way.startsWith(u"clear"))
+        if ((way == u"branch" || way == u"value") && (further.startsWith(u'/') || further == u"nothing"))
             paths = paths.filter(QRegularExpression((way == u"value" ? "^(/a/b/K|" : "^(/a/b/|") + further + "/)"));
         told.sort();
         QCOMPARE(told, paths);
+        QVERIFY(outOfReach && whole);
         QVERIFY(further == u"delete" ? !tree : tree->ValueCount() == size_t(4 - paths.size()));
+        QVERIFY(!tree || tree->CreateValue(u"/a/b/K", text)); // the place is free again
         QTRY_VERIFY(!IdleDisposal::IsUnderWay());
     }
 
