@@ -141,16 +141,13 @@ private:
                                             Choice{"state", 8, &World::SetState},
                                             Choice{"remove value", 8, &World::RemoveValue},
                                             Choice{"make value", 6, &World::MakeValue},
-                                            Choice{"remove node", 5, &World::RemoveNode},
+                                            Choice{"change node", 13, &World::ChangeNode},
                                             Choice{"remove branch", 2, &World::RemoveBranch},
-                                            Choice{"copy node", 4, &World::CopyNode},
-                                            Choice{"rename node", 4, &World::RenameNode},
                                             Choice{"take node", 3, &World::TakeNode},
                                             Choice{"put back", 4, &World::PutBack},
-                                            Choice{"load", 1, &World::LoadAgain},
                                             Choice{"swap", 2, &World::Swap},
                                             Choice{"clear", 1, &World::Clear},
-                                            Choice{"end the job", 1, &World::EndJob},
+                                            Choice{"load", 2, &World::LoadAgain},
                                             Choice{"new host", 6, &World::NewHost},
                                             Choice{"open", 6, &World::Open},
                                             Choice{"delete host", 6, &World::DeleteHost},
@@ -234,25 +231,23 @@ private:
             TheTree().CreateValue(*node, "V" + QString::number(Below(3)),
                                   ValueDescriptor::Plain(ValueKind(1 + Below(7))));
     }
-    void RemoveNode()
+    void ChangeNode()
     {
-        if (const QString path = AnyJobPath(); m_job && Below(4))
+        const QString path = AnyJobPath();
+        if (path.isEmpty())
+            return;
+        const size_t choice = Below(3);
+        if (choice == 0)
             m_job->RemoveNode(path);
+        else if (choice == 1)
+            m_job->RenameNode(path, "NAME" + QString::number(Below(5)));
+        else if (path.count(u'/') > 3) // a small one
+            m_job->DuplicateNode(path, "COPY" + QString::number(Below(5)));
     }
     void RemoveBranch()
     {
         if (const Node* node = AnyNode(); node && node->GetParent())
             TheTree().RemoveBranch(node->GetBasePath());
-    }
-    void CopyNode()
-    {
-        if (const QString path = AnyJobPath(); path.count(u'/') > 3) // a small one
-            m_job->DuplicateNode(path, "COPY" + QString::number(Below(5)));
-    }
-    void RenameNode()
-    {
-        if (const QString path = AnyJobPath(); !path.isEmpty())
-            m_job->RenameNode(path, "NAME" + QString::number(Below(5)));
     }
     void TakeNode()
     {
@@ -273,7 +268,10 @@ private:
     void LoadAgain()
     {
         m_taken.clear();
-        Load();
+        if (Below(2))
+            m_job.reset();
+        if (m_job || Below(2))
+            Load();
     }
     void Swap()
     {
@@ -285,14 +283,6 @@ private:
         if (Below(3) == 0)
             TheTree().Clear();
     }
-    void EndJob()
-    {
-        m_taken.clear();
-        m_job.reset();
-        if (Below(2))
-            Load();
-    }
-
     void NewHost()
     {
         const Node* node = AnyNode();
