@@ -21,36 +21,6 @@ private slots:
         CfgCenter::Instance()->SetDirectory(QString());
     }
 
-    void theModeDecidesOnTheSwitches_data()
-    {
-        const Table<int, QString> row("mode", "switches");
-        for (const int mode : {0, 1, 2, 8, 9, 10, 11})
-            row(QString::number(mode), mode, mode == 1 ? "---- false" : "---- true");
-        row("3", 3, "+-+- true");
-        row("4", 4, "+--+ true");
-        row("5", 5, "+--+ true");
-        row("6", 6, "++-- true");
-        row("7", 7, "++-- true");
-    }
-    void theModeDecidesOnTheSwitches()
-    {
-        QFETCH(int, mode);
-        const Panel panel = Make("ExciterGeneralDlg");
-        QCOMPARE(Switches(), "+-+- true"); // the mode is 3
-        for (const int before : {1, 6, 5})
-        {
-            SetMode(before);
-            SetMode(mode);
-            QTEST(Switches(), "switches");
-        }
-        QCOMPARE(panel->GetExciterMode(), mode);
-        QCOMPARE(panel->IsScanMode(), mode >= 8 && mode <= 10);
-        QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
-
-        const Panel later = Make("ExciterGeneralDlg"); // on building, too
-        QTEST(Switches(), "switches");
-    }
-
     void aModeThatIsNoSelectionCountsAsUnknownAndWithoutAnyNothingIsTouched()
     {
         Tree::Instance()->RemoveValue(modePath);
@@ -95,10 +65,9 @@ private slots:
         QVERIFY(box->isChecked() && box->isEnabled());
     }
 
-    void theModeDecidesWhatCanBeEdited_data()
+    void theModeDecidesOnTheSwitchesAndWhatCanBeEdited_data()
     {
-        const Table<int, QString> table("mode", "disabled");
-        const QString always = QStringLiteral("RasterThresholdAbs ScuBlankingTime");
+        const Table<int, QString, QString> table("mode", "switches", "disabled");
         const QString wde = QStringLiteral("SmuDeviation SmuFrequency SmuMessage SmuModulation SmuModulationDepth "
                                            "SmuModulationSource SmuSymbolRate SmuToneFrequency");
         const QString memory = QStringLiteral("ExciterScanFirstMemory ExciterScanLastMemory");
@@ -106,34 +75,46 @@ private slots:
         const QString list = QStringLiteral("ExciterScanFrequencies");
         const QString smu = QStringLiteral("SmuFrequency");
         const QString scenario = QStringLiteral("WdeCenterFrequency WdeExciterRepeat");
-        const auto row = [&](int mode, const QStringList& more)
+        const auto row = [&](int mode, const QString& switchStates, const QStringList& more)
         {
-            QStringList names = (QStringList(more) << always).join(u' ').split(u' ');
+            QStringList names =
+                QString("RasterThresholdAbs ScuBlankingTime " + more.join(u' ')).simplified().split(u' ');
             names.sort();
-            table(QString::number(mode), mode, names.join(u' '));
+            table(QString::number(mode), mode, switchStates, names.join(u' '));
         };
-        for (const int mode : {0, 1, 2, 11})
-            row(mode, {});
-        for (const int mode : {3, 6, 7})
-            row(mode, {wde});
+        for (const int mode : {0, 2, 11})
+            row(mode, "---- true", {});
+        row(1, "---- false", {});
+        row(3, "+-+- true", {wde});
         for (const int mode : {4, 5})
-            row(mode, {wde, scenario});
-        row(8, {smu, list, memory});
-        row(9, {smu, range, memory});
-        row(10, {smu, range, list});
+            row(mode, "+--+ true", {wde, scenario});
+        for (const int mode : {6, 7})
+            row(mode, "++-- true", {wde});
+        row(8, "---- true", {smu, list, memory});
+        row(9, "---- true", {smu, range, memory});
+        row(10, "---- true", {smu, range, list});
     }
-    void theModeDecidesWhatCanBeEdited()
+    void theModeDecidesOnTheSwitchesAndWhatCanBeEdited()
     {
         QFETCH(int, mode);
         const auto panels = MakeAll();
-        for (const int before : {2, 4, 8, 9, 10})
+        QCOMPARE(Switches(), "+-+- true"); // the mode is 3
+        for (const int before : {1, 2, 4, 5, 6, 8, 9, 10})
         {
             SetMode(before);
             SetMode(mode);
+            QTEST(Switches(), "switches");
             QTEST(Disabled(), "disabled");
         }
         for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetExciterMode(), mode);
+            QCOMPARE(panel->IsScanMode(), mode >= 8 && mode <= 10);
             QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
+        }
+        const auto later = MakeAll(); // on building, too
+        QTEST(Switches(), "switches");
+        QTEST(Disabled(), "disabled");
     }
 
     void rulesFollowTheirOwnValue_data()
