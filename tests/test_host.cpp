@@ -252,25 +252,19 @@ private slots:
         // values: of the mode and the classification, true, false or missing; states: of the tuner, the demodulator
         // with its like and the classifier
         const Table<OpenCall, QString, QString> table("open", "values", "states");
-        const auto rows = [&](const QString& name, OpenCall open, const QStringList& cases)
+        const auto rows = [&](const QStringList& cases, const QString& name, OpenCall open)
         {
             for (const QString& one : cases)
                 table(name + ' ' + one, open, one.left(2), one.mid(3));
         };
         const QStringList classifier{"-- +-+", "t- +-+", "ff +++", "ft +-+", "tf ---", "tt ---"};
         const QStringList dataTransmission{"-- +++", "ft +++", "tf --+"};
-        rows(
-            "classifier HF", [](Host& h) { h.ClassifierDlg(1, 1); }, classifier);
-        rows(
-            "classifier VUHF", [](Host& h) { h.ClassifierVUHFDlg(1, 1); }, classifier);
-        rows(
-            "classifier DDC", [](Host& h) { h.ClassifierDDCDlg(1, true, false, 1); }, classifier);
-        rows(
-            "data HF", [](Host& h) { h.DataTransDlg(1, true); }, dataTransmission);
-        rows(
-            "data VUHF", [](Host& h) { h.DataTransVUHFDlg(1, true); }, dataTransmission);
-        rows(
-            "data DDC", [](Host& h) { h.DataTransDDCDlg(1, false, true); }, dataTransmission);
+        rows(classifier, "classifier HF", [](Host& h) { h.ClassifierDlg(1, 1); });
+        rows(classifier, "classifier VUHF", [](Host& h) { h.ClassifierVUHFDlg(1, 1); });
+        rows(classifier, "classifier DDC", [](Host& h) { h.ClassifierDDCDlg(1, true, false, 1); });
+        rows(dataTransmission, "data HF", [](Host& h) { h.DataTransDlg(1, true); });
+        rows(dataTransmission, "data VUHF", [](Host& h) { h.DataTransVUHFDlg(1, true); });
+        rows(dataTransmission, "data DDC", [](Host& h) { h.DataTransDDCDlg(1, false, true); });
     }
     void tabsFollowTheAutomaticMode()
     {
