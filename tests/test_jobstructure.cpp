@@ -153,25 +153,16 @@ private slots:
         QCOMPARE(m_job->ToUtf8(), QByteArray(job).replace("/Jobs/C", "/Other/C"));
     }
 
-    void namesThatCannotBeAreRefused_data()
-    {
-        const Table<QString, QString> row("path", "name");
-        row("empty", "AB", "");
-        row("no segment", "AB/IN", "..");
-        row("two segments", "AB/IN", "a/b");
-        row("no node", "NOWHERE", "a");
-    }
     void namesThatCannotBeAreRefused()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, name);
         Load(job);
-        for (const bool copy : {false, true})
+        // Empty, no segment, two segments, and no node.
+        for (const auto& [path, name] : {std::pair{"AB", ""}, {"AB/IN", ".."}, {"AB/IN", "a/b"}, {"NOWHERE", "a"}})
         {
-            m_reason.clear();
-            QVERIFY(!(copy ? m_job->DuplicateNode(path, name, &m_reason) != nullptr
-                           : m_job->RenameNode(path, name, &m_reason)));
-            QVERIFY(!m_reason.isEmpty());
+            QString copyReason, renameReason;
+            QVERIFY2(!m_job->DuplicateNode(QString(path), name, &copyReason), name);
+            QVERIFY2(!m_job->RenameNode(QString(path), name, &renameReason), name);
+            QVERIFY(!copyReason.isEmpty() && !renameReason.isEmpty());
             QCOMPARE(m_job->ToUtf8(), job);
         }
     }
