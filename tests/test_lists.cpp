@@ -10,14 +10,11 @@ namespace
 
 ValueSelection* MakeSelection(bool multiple, const QString& stored)
 {
-    ValueDescriptor& descriptor = s_descriptors.emplace_back();
-    descriptor.kind = ValueKind::Selection;
-    descriptor.multiple = multiple;
-    descriptor.items = {{10, "ten"}, {20, "twenty"}, {30, "thirty"}};
-    descriptor.defaultText = "20";
-    auto* value = Tree::Instance()->CreateValue<ValueSelection>(path, descriptor);
+    ValueBase* value = Make(path, ValueKind::Selection, "20");
+    s_descriptors.back().multiple = multiple;
+    s_descriptors.back().items = {{10, "ten"}, {20, "twenty"}, {30, "thirty"}};
     value->SetStoredText(stored);
-    return value;
+    return static_cast<ValueSelection*>(value);
 }
 
 QString CheckedLines(const VCListBoxString& list)
@@ -68,14 +65,9 @@ private slots:
             QCOMPARE(value->GetStoredText(), before);
             CleanUp();
         }
-    }
-
-    void numbersAreShownInTheLanguageOfTheUser()
-    {
-        QLocale::setDefault(QLocale(QLocale::German));
+        QLocale::setDefault(german);
         MakeList("1500500;1600000000");
-        const ListWindow window(1, 0, 5, true, megahertz);
-        QCOMPARE(Shown(window.list), "1,5005 1600");
+        QCOMPARE(Shown(ListWindow(1, 0, 5, true, megahertz).list), "1,5005 1600");
     }
 
     void anEditStoresTheWholeListInOrder()

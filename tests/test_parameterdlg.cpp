@@ -101,14 +101,10 @@ private Q_SLOTS:
         CfgCenter::Instance()->SetDirectory(QString());
     }
 
-    void aParentPathIsOneLevelUp()
+    void aPathIsTheBaseAndTheFullNameOfTheRewrittenKey()
     {
         for (const auto& [path, parent] : {std::pair{"/A/B/", "/A/"}, {"/A/", "/"}, {"/", ""}, {"", ""}, {"A/", ""}})
             QCOMPARE(ParameterDlg::GetParentPath(QString::fromUtf8(path)), parent);
-    }
-
-    void aPathIsTheBaseAndTheFullNameOfTheRewrittenKey()
-    {
         OpenPanel panel;
         panel.m_rewrite.insert("SHORT", "LONG");
         KeyManager::Instance()->Register("LONG", "GROUP/FULL");
@@ -262,20 +258,17 @@ private Q_SLOTS:
         OpenPanel wider;
         build(wider, "Some label that is a good deal longer :");
         QVERIFY(wider.sizeHint().width() > size.width());
-    }
-
-    void aPanelWithWidgetsOfItsOwnMeasuresItself()
-    {
-        const auto hint = [](int height)
+        // One with widgets of its own measures itself.
+        const auto height = [](int own)
         {
             OpenPanel panel;
             panel.AddLabel(panel.Grid(), 0, 0, 1, 1, "Some label :");
-            auto* own = new QWidget;
-            own->setMinimumHeight(height);
-            panel.Grid()->addWidget(own, 1, 0);
+            auto* widget = new QWidget;
+            widget->setMinimumHeight(own);
+            panel.Grid()->addWidget(widget, 1, 0);
             return panel.minimumSizeHint().height();
         };
-        QCOMPARE(hint(300), hint(100) + 200);
+        QCOMPARE(height(300), height(100) + 200);
     }
 
     void theJobModelDirectoryComesFromJobManagementFirstAndThrowsWhereItCannotBeHad()
