@@ -171,8 +171,10 @@ private slots:
         QCOMPARE(Switches(), "++-- true");
     }
 
-    void channelsHaveTheirOwnValues()
+    void channelsHaveTheirOwnValuesAndMayBeNone()
     {
+        for (const int count : {0, -1})
+            QVERIFY(!Make("WDERasterDetectorDlg", count)->findChild<QScrollArea*>());
         Tree::Instance()->RemoveValue(basePath + "Channel2/WdeChannelLevel");
         // Neither the one above nor the neighbour's serves instead.
         Tree::Instance()->CreateValue<IntValue>(switchPath + "WdeChannelLevel");
@@ -183,15 +185,6 @@ private slots:
         QCOMPARE(second.PathAt(1, 1), basePath + "Channel2/WdeChannelFrequency");
         QCOMPARE(second.PathAt(2, 1), QString());
         QCOMPARE(PanelTest::Grid(boxes[0]).PathAt(2, 1), basePath + "Channel1/WdeChannelLevel");
-    }
-
-    void channelsMayBeNone()
-    {
-        for (const int count : {0, -1})
-        {
-            const Panel none = Make("WDERasterDetectorDlg", count);
-            QVERIFY(!none->findChild<QScrollArea*>());
-        }
     }
 
     void aParameterSetThatCannotBeLoadedIsReportedAndThePanelsStand()

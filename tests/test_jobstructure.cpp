@@ -44,21 +44,15 @@ class TestJobStructure : public QObject
     void Act(Hearer& once, const QString& act)
     {
         once.act = {};
-        if (act == "remove above")
-            m_job->RemoveNode(u"AB");
-        else if (act == "remove another")
-            m_job->RemoveNode(u"/Jobs/C");
-        else if (act == "rename above")
-            m_job->RenameNode(u"AB", "BA");
-        else if (act == "copy above")
-            m_job->DuplicateNode(u"AB", "BA");
-        else if (act == "die")
-            m_job.reset();
-        else
-        {
-            Load(otherJob);
-            QTest::qWait(1); // a modal dialog, say
-        }
+        const QMap<QString, std::function<void()>> acts{{"remove above", [&] { m_job->RemoveNode(u"AB"); }},
+                                                        {"remove another", [&] { m_job->RemoveNode(u"/Jobs/C"); }},
+                                                        {"rename above", [&] { m_job->RenameNode(u"AB", "BA"); }},
+                                                        {"copy above", [&] { m_job->DuplicateNode(u"AB", "BA"); }},
+                                                        {"load", [&] { Load(otherJob); }},
+                                                        {"die", [&] { m_job.reset(); }}};
+        acts[act]();
+        if (act == "load") // a modal dialog, say
+            QTest::qWait(1);
     }
     // That the tree holds what the job says, and the file the same again.
     void IsWhole()

@@ -226,28 +226,23 @@ private slots:
         QCOMPARE(Grid(panel).TextAt(0, 0), "Lock frequency");
     }
 
-    void channelCountsAreShownButNeverEditable()
+    void channelCountsAreNeverEditableAndImprovedDynamicsByAFlagOfTheirOwn()
     {
         const TdsHeaderMSDlg memoryScan(basePath, nullptr, false);
-        const TdsHeaderWBDlg wideband(basePath, nullptr, false, true, false, false);
-        for (const QWidget* field : {Grid(memoryScan).At(0, 1), Grid(wideband).At(0, 8)})
-        {
-            QVERIFY(!qobject_cast<const QLineEdit*>(field)->text().isEmpty());
-            QVERIFY(!field->isEnabled());
-        }
-        QCOMPARE(ValueOf(TDS_HEADER_MEMORYSCAN_COUNT)->GetState(), stDisabled);
-        QCOMPARE(ValueOf(TDS_HEADER_VUHF_WB_TUNERFREQUENCY_COUNT)->GetState(), stDisabled);
-    }
-
-    void improvedDynamicsHaveAFlagOfTheirOwn()
-    {
         for (const bool flag : {false, true})
         {
-            const TdsHeaderWBDlg panel(basePath, nullptr, flag, flag, false, !flag);
-            QCOMPARE(panel.IsReadOnly(), flag);
-            QCOMPARE(Grid(panel).At(3, 2)->isEnabled(), !flag);
-            QCOMPARE(Grid(panel).At(4, 2)->isEnabled(), flag);
+            const TdsHeaderWBDlg wideband(basePath, nullptr, flag, flag, false, !flag);
+            QCOMPARE(wideband.IsReadOnly(), flag);
+            QCOMPARE(Grid(wideband).At(3, 2)->isEnabled(), !flag);
+            QCOMPARE(Grid(wideband).At(4, 2)->isEnabled(), flag);
+            for (const QWidget* field : {Grid(memoryScan).At(0, 1), Grid(wideband).At(0, 8)})
+            {
+                QVERIFY(!qobject_cast<const QLineEdit*>(field)->text().isEmpty());
+                QVERIFY(!field->isEnabled());
+            }
         }
+        for (const QString key : {TDS_HEADER_MEMORYSCAN_COUNT, TDS_HEADER_VUHF_WB_TUNERFREQUENCY_COUNT})
+            QCOMPARE(ValueOf(key)->GetState(), stDisabled);
     }
 
     void aReadOnlyPanelThatIsOpenedDirectlyStaysDisabledWhateverTheValuesSay()

@@ -113,23 +113,16 @@ private slots:
             QVERIFY2(!m_tree.FindNode(other), qPrintable(QString::fromUtf16(other)));
     }
 
-    void AValueAndANodeMayShareAPath()
+    void AValueAndANodeMayShareAPathAndKeysBelowANodeMayHoldSlashes()
     {
         Node* node = m_tree.CreateNode(u"/Jobs/SAME");
         ValueBase* value = m_tree.CreateValue(u"/Jobs/SAME", text);
-        ValueBase* below = m_tree.CreateValue(u"/Jobs/SAME/K", text);
+        ValueBase* below = m_tree.CreateValue(*node, u"Data/WAVECOM/MODE", text);
+        QCOMPARE(below->GetPathName(), QStringLiteral("/Jobs/SAME/Data/WAVECOM/MODE"));
         QVERIFY(m_tree.FindNode(u"/Jobs/SAME") == node && m_tree.FindValue(u"/Jobs/SAME") == value);
         m_tree.RemoveValue(u"/Jobs/SAME");
-        QVERIFY(m_tree.FindNode(u"/Jobs/SAME") == node && m_tree.FindValue(u"/Jobs/SAME/K") == below);
-        QVERIFY(!m_tree.FindValue(u"/Jobs/SAME"));
-    }
-
-    void KeysBelowANodeMayHoldSlashes()
-    {
-        Node* node = m_tree.CreateNode(u"/Jobs/Demo");
-        ValueBase* value = m_tree.CreateValue(*node, u"Data/WAVECOM/MODE", text);
-        QCOMPARE(value->GetPathName(), QStringLiteral("/Jobs/Demo/Data/WAVECOM/MODE"));
-        QVERIFY(m_tree.FindValue(*node, u"Data/WAVECOM/MODE") == value);
+        QVERIFY(m_tree.FindNode(u"/Jobs/SAME") == node && !m_tree.FindValue(u"/Jobs/SAME"));
+        QVERIFY(m_tree.FindValue(*node, u"Data/WAVECOM/MODE") == below);
         QVERIFY(!m_tree.FindValue(*node, u"/Data/WAVECOM/MODE") && !m_tree.FindValue(*node, u"MODE"));
     }
 
