@@ -91,7 +91,7 @@ const QMap<QString, Subject>& Subjects()
 
 void AddSubjectRows(const char* pattern = "")
 {
-    EachText("name", Subjects().keys().filter(QRegularExpression(pattern)));
+    EachText("name", QStringList(Subjects().keys()).filter(QRegularExpression(pattern)));
 }
 
 // The subject of the row, bound to its value.
