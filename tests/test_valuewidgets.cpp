@@ -399,6 +399,7 @@ private slots:
         ValueBase* text = Make("/Job/Text", ValueKind::Text, "true");
         VCCheckableGroupBox box(nullptr, "Box", {});
         QVERIFY(!box.SetValue(text) && !box.SetValue(nullptr) && !box.SetBoolValue(nullptr));
+        QVERIFY(!box.isEnabled());
         QVERIFY(!text->IsObserved());
         QVERIFY(box.SetBoolValue(boolean));
         QVERIFY(!box.isChecked());
