@@ -30,26 +30,27 @@ using Panel = std::unique_ptr<ExciterPanel>;
 
 inline constexpr int channels = 2;
 
-inline Panel Make(const QString& name, bool readOnly = false, int count = channels)
+template <class P> Panel New(int count)
 {
-    const QString& path = basePath;
-    if (name == QLatin1String("ExciterGeneralDlg"))
-        return std::make_unique<ExciterGeneralDlg>(path, false, false, nullptr, readOnly);
-    if (name == QLatin1String("ExciterSMUDlg"))
-        return std::make_unique<ExciterSMUDlg>(path, true, false, nullptr, readOnly);
-    if (name == QLatin1String("ExciterSCUDlg"))
-        return std::make_unique<ExciterSCUDlg>(path, true, false, nullptr, readOnly);
-    if (name == QLatin1String("ExciterWDEDlg"))
-        return std::make_unique<ExciterWDEDlg>(path, true, false, nullptr, readOnly);
-    if (name == QLatin1String("ExciterScanSettingsDlg"))
-        return std::make_unique<ExciterScanSettingsDlg>(path, true, false, nullptr, readOnly);
-    if (name == QLatin1String("WDEExciterDlg"))
-        return std::make_unique<WDEExciterDlg>(path, count, true, false, nullptr, readOnly);
-    if (name == QLatin1String("WDERasterDetectorDlg"))
-        return std::make_unique<WDERasterDetectorDlg>(path, count, true, false, nullptr, readOnly);
-    if (name == QLatin1String("WDESingleChannelDetectorDlg"))
-        return std::make_unique<WDESingleChannelDetectorDlg>(path, count, true, false, nullptr, readOnly);
-    return std::make_unique<WDESimulationDlg>(path, count, true, false, nullptr, readOnly);
+    if constexpr (std::is_constructible_v<P, QString, int, bool, bool, QWidget*, bool>)
+        return std::make_unique<P>(basePath, count, true, false, nullptr, false);
+    else
+        return std::make_unique<P>(basePath, !std::is_same_v<P, ExciterGeneralDlg>, false, nullptr, false);
+}
+
+inline Panel Make(const QString& name, int count = channels)
+{
+    static const QHash<QString, Panel (*)(int count)> makers{
+        {"ExciterGeneralDlg", New<ExciterGeneralDlg>},
+        {"ExciterSMUDlg", New<ExciterSMUDlg>},
+        {"ExciterSCUDlg", New<ExciterSCUDlg>},
+        {"ExciterWDEDlg", New<ExciterWDEDlg>},
+        {"ExciterScanSettingsDlg", New<ExciterScanSettingsDlg>},
+        {"WDEExciterDlg", New<WDEExciterDlg>},
+        {"WDERasterDetectorDlg", New<WDERasterDetectorDlg>},
+        {"WDESingleChannelDetectorDlg", New<WDESingleChannelDetectorDlg>},
+        {"WDESimulationDlg", New<WDESimulationDlg>}};
+    return makers.value(name)(count);
 }
 
 inline const QStringList panelNames{
@@ -57,11 +58,11 @@ inline const QStringList panelNames{
     "WDEExciterDlg",     "WDERasterDetectorDlg", "ExciterScanSettingsDlg", "WDESingleChannelDetectorDlg",
     "WDESimulationDlg"};
 
-inline std::vector<Panel> MakeAll(bool readOnly = false)
+inline std::vector<Panel> MakeAll()
 {
     std::vector<Panel> panels;
     for (const QString& name : panelNames)
-        panels.push_back(Make(name, readOnly));
+        panels.push_back(Make(name));
     return panels;
 }
 
@@ -125,17 +126,6 @@ inline void FillChannels(const QString& group)
                                           parameter->GetValueDescriptor(n));
     }
 }
-
-struct Listener : IObserver
-{
-    explicit Listener(std::function<void()> f) : function(std::move(f)) {}
-    void Update(Observable*, TChangeCode) override
-    {
-        if (function)
-            std::exchange(function, nullptr)();
-    }
-    std::function<void()> function;
-};
 
 inline void FillTree()
 {

@@ -40,14 +40,14 @@ TESTS = {
     "platform/value": ["value", "tree", "observable"],
     "platform/valuewidgets": ["valuewidgets", "entrywidgets", "fieldmarks"],
     "ipcparam/source": ["host", "samplejob"],
-    "ipcparam/source/analysis": ["panelrows", "analysispanels", "demodulator", "rules"],
-    "ipcparam/source/exciter": ["panelrows", "exciter", "rules"],
-    "ipcparam/source/framework": ["parameterdlg", "descriptorrows", "panelrows", "analysispanels", "rules"],
-    "ipcparam/source/recording": ["panelrows", "recordingpanels", "rules"],
-    "ipcparam/source/scan": ["panelrows", "analysispanels", "host", "rules"],
-    "ipcparam/source/tuner": ["panelrows", "analysispanels", "host", "rules"],
-    "ipcparam/source/wavecom": ["wavecom"],
-    "ipcparam/source/widgets": ["numericlist", "stringlist", "periodwidgets", "entrywidgets"],
+    "ipcparam/source/analysis": ["panelrows", "panels", "demodulator", "rules"],
+    "ipcparam/source/exciter": ["panelrows", "exciter", "rules", "samplejob"],
+    "ipcparam/source/framework": ["parameterdlg", "panelrows", "panels", "rules"],
+    "ipcparam/source/recording": ["panelrows", "panels", "rules"],
+    "ipcparam/source/scan": ["panelrows", "panels", "host", "rules"],
+    "ipcparam/source/tuner": ["panelrows", "panels", "host", "rules"],
+    "ipcparam/source/wavecom": ["panelrows", "wavecom"],
+    "ipcparam/source/widgets": ["lists", "periodwidgets", "valuewidgets"],
 }
 
 

@@ -52,12 +52,12 @@ public:
         }
         return nullptr;
     }
-    QLabel* LabelAt(int row, int column) const { return qobject_cast<QLabel*>(At(row, column)); }
     QString TextAt(int row, int column) const
     {
         if (const auto* button = qobject_cast<QAbstractButton*>(At(row, column)))
             return button->text();
-        return LabelAt(row, column) ? LabelAt(row, column)->text() : QString();
+        const auto* label = qobject_cast<QLabel*>(At(row, column));
+        return label ? label->text() : QString();
     }
     /// The path of the value that the widget there is bound to.
     QString PathAt(int row, int column) const { return PathOf(At(row, column)); }
@@ -73,16 +73,6 @@ public:
         return nullptr;
     }
     Place PlaceOf(QWidget* widget) const { return PlaceOf(m_grid->indexOf(widget)); }
-    Place PlaceOfLine(QFrame::Shape shape) const
-    {
-        for (int i = 0; i < m_grid->count(); ++i)
-        {
-            const auto* label = qobject_cast<QLabel*>(m_grid->itemAt(i)->widget());
-            if (label && label->frameShape() == shape)
-                return PlaceOf(i);
-        }
-        return {};
-    }
 
     static QString PathOf(const QWidget* widget)
     {
@@ -101,18 +91,5 @@ private:
 
     QGridLayout* m_grid;
 };
-
-/// The names of all values that widgets of `panel` are bound to.
-inline QSet<QString> BoundNames(const QWidget& panel)
-{
-    QSet<QString> names;
-    for (const QWidget* widget : panel.findChildren<QWidget*>())
-    {
-        const auto* link = dynamic_cast<const TKE::ValueLink*>(widget);
-        if (link && link->GetBoundValue())
-            names.insert(link->GetBoundValue()->GetName());
-    }
-    return names;
-}
 
 } // namespace PanelTest

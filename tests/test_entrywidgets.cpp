@@ -72,26 +72,26 @@ private slots:
             QVERIFY(!reason.isEmpty());
     }
 
-    void whatNoValueCanHoldExactlyIsRefused_data()
-    {
-        const Table<int, QString, double> row("kind", "text", "factor");
-        row("integer", int(ValueKind::Int), "2147483648", 1.0);
-        row("frequency that ends the whole numbers", int(ValueKind::Frequency), "9223372036854775807", 1.0);
-        row("frequency without end", int(ValueKind::Frequency), "1e300", 0.3);
-        row("infinite after the factor", int(ValueKind::Double), "1e308", 0.3);
-        row("infinite", int(ValueKind::Double), "1e999", 1.0);
-    }
     void whatNoValueCanHoldExactlyIsRefused()
     {
-        QFETCH(int, kind);
-        QFETCH(QString, text);
-        QFETCH(double, factor);
-        Tree tree;
-        const ValueBase* value = tree.CreateValue(u"/A/value", ValueDescriptor::Plain(ValueKind(kind)));
-        double stored = 0;
-        QString reason;
-        QVERIFY(!NumericValue::Read(*value, text, factor, german, stored, reason));
-        QVERIFY(!reason.isEmpty());
+        const struct
+        {
+            ValueKind kind;
+            const char* text;
+            double factor;
+        } cases[]{{ValueKind::Int, "2147483648", 1.0},
+                  {ValueKind::Frequency, "9223372036854775807", 1.0}, // ends the whole numbers
+                  {ValueKind::Frequency, "1e300", 0.3},
+                  {ValueKind::Double, "1e308", 0.3}, // infinite after the factor
+                  {ValueKind::Double, "1e999", 1.0}};
+        for (const auto& [kind, text, factor] : cases)
+        {
+            double stored = 0;
+            QString reason;
+            QVERIFY2(!NumericValue::Read(*Make(path, kind, {}), text, factor, german, stored, reason), text);
+            QVERIFY(!reason.isEmpty());
+            Tree::Instance()->Clear();
+        }
     }
 
     void frequenciesAreReadAndShownInExactHertz_data()
@@ -192,7 +192,7 @@ private slots:
     void aLineEditWritesOnReturnAndOnLeaving()
     {
         ValueBase* value = Make(path, ValueKind::Text, "old");
-        Counter counter;
+        Hearer counter;
         value->Attach(&counter);
         Window window;
         auto* edit = window.Edit<VCLineEdit>(value);
@@ -203,7 +203,7 @@ private slots:
         QTest::keyClick(edit, Qt::Key_Backspace);
         window.other->setFocus();
         QCOMPARE(value->GetText(), QString("olde"));
-        QCOMPARE(counter.count, 2);
+        QCOMPARE(counter.codes.size(), size_t(2));
         edit->setFocus();
         QTest::keyClicks(edit, "xyz");
         value->SetStoredText("other"); // the tree goes before what is being typed
@@ -390,11 +390,9 @@ private slots:
     {
         ValueBase* value = MakeNumber(ValueKind::Frequency, "10000000", 9000, 30000000);
         Window window;
-        auto* frequency = window.Edit<VCFrequency>(value);
-        QLineEdit* field = frequency->GetNumberField();
+        QLineEdit* field = window.Edit<VCFrequency>(value)->GetNumberField();
         QCOMPARE(QApplication::focusWidget(), field);
         Enter(field, "7040 k");
-        QCOMPARE(value->GetStoredText(), QString("7040000"));
         QCOMPARE(field->text(), QString("7,04"));
         Type(field, "433.92M");
         window.other->setFocus();
@@ -415,11 +413,11 @@ private slots:
         window.other->setFocus();
         QCOMPARE(value->GetStoredText(), QString());
         edit->setFocus();
-        const QString before = QDateTime::currentDateTime().toString("yyyy-MM-ddThh:mm:ss");
+        const auto now = [] { return QDateTime::currentDateTime().toString("yyyy-MM-ddThh:mm:ss"); };
+        const QString before = now();
         QTest::keyClick(edit, Qt::Key_Up);
-        const QString after = QDateTime::currentDateTime().toString("yyyy-MM-ddThh:mm:ss");
-        QVERIFY2(value->GetStoredText() >= before && value->GetStoredText() <= after,
-                 qPrintable(value->GetStoredText()));
+        const QString written = value->GetStoredText();
+        QVERIFY2(written >= before && written <= now(), qPrintable(written));
     }
 
     void aDateIsWrittenByStepsAndByReturn()

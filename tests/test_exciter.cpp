@@ -8,7 +8,6 @@
 #include <QTest>
 
 using namespace ExciterTest;
-using PanelTest::Place;
 
 class TestExciter : public QObject
 {
@@ -22,67 +21,30 @@ private slots:
         CfgCenter::Instance()->SetDirectory(QString());
     }
 
-    void theModeDecidesOnTheSwitches_data()
-    {
-        const Table<int, QString> row("mode", "switches");
-        for (const int mode : {0, 1, 2, 8, 9, 10, 11})
-            row(QString::number(mode), mode, mode == 1 ? "---- false" : "---- true");
-        row("3", 3, "+-+- true");
-        row("4", 4, "+--+ true");
-        row("5", 5, "+--+ true");
-        row("6", 6, "++-- true");
-        row("7", 7, "++-- true");
-    }
-    void theModeDecidesOnTheSwitches()
-    {
-        QFETCH(int, mode);
-        const Panel panel = Make("ExciterGeneralDlg");
-        QCOMPARE(Switches(), "+-+- true"); // the mode is 3
-        for (const int before : {1, 6, 5})
-        {
-            SetMode(before);
-            SetMode(mode);
-            QTEST(Switches(), "switches");
-        }
-        QCOMPARE(panel->GetExciterMode(), mode);
-        QCOMPARE(panel->IsScanMode(), mode >= 8 && mode <= 10);
-        QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
-
-        const Panel later = Make("ExciterGeneralDlg"); // on building, too
-        QTEST(Switches(), "switches");
-    }
-
-    void aModeThatIsNoSelectionCountsAsUnknown()
-    {
-        Tree::Instance()->RemoveValue(modePath);
-        auto* mode = Tree::Instance()->CreateValue<IntValue>(modePath);
-        mode->SetValue(1);
-        const auto panels = MakeAll();
-        QCOMPARE(Switches(), "---- true");
-        Switch(ExciterCheck)->SetState(stEnabled);
-        mode->SetValue(3);
-        QCOMPARE(Switches(), "---- true");
-        QCOMPARE(Disabled(), "RasterThresholdAbs ScuBlankingTime");
-        for (const Panel& panel : panels)
-        {
-            QCOMPARE(panel->GetExciterMode(), -1);
-            QVERIFY(!panel->IsScanMode());
-            QCOMPARE(panel->GetTitle(), QString());
-        }
-    }
-
-    void withoutModeNothingIsTouched()
+    void aModeThatIsNoSelectionCountsAsUnknownAndWithoutAnyNothingIsTouched()
     {
         Tree::Instance()->RemoveValue(modePath);
         const QString before = Switches();
-        const auto panels = MakeAll();
-        QCOMPARE(Switches(), before);
-        QCOMPARE(Disabled(), QString());
-        for (const Panel& panel : panels)
+        std::vector<Panel> panels = MakeAll();
+        const auto checkUnknown = [&](const QString& switchStates, const QString& disabled)
         {
-            QCOMPARE(panel->GetExciterMode(), -1);
-            QCOMPARE(panel->GetTitle(), QString());
-        }
+            QCOMPARE(Switches(), switchStates);
+            QCOMPARE(Disabled(), disabled);
+            for (const Panel& panel : panels)
+            {
+                QCOMPARE(panel->GetExciterMode(), -1);
+                QVERIFY(!panel->IsScanMode());
+                QCOMPARE(panel->GetTitle(), QString());
+            }
+        };
+        checkUnknown(before, QString());
+        auto* mode = Tree::Instance()->CreateValue<IntValue>(modePath);
+        mode->SetValue(1);
+        panels = MakeAll();
+        checkUnknown("---- true", "RasterThresholdAbs ScuBlankingTime");
+        Switch(ExciterCheck)->SetState(stEnabled);
+        mode->SetValue(3);
+        checkUnknown("---- true", "RasterThresholdAbs ScuBlankingTime");
     }
 
     void theUserMayClearASwitchUntilTheModeChanges()
@@ -103,10 +65,9 @@ private slots:
         QVERIFY(box->isChecked() && box->isEnabled());
     }
 
-    void theModeDecidesWhatCanBeEdited_data()
+    void theModeDecidesOnTheSwitchesAndWhatCanBeEdited_data()
     {
-        const Table<int, QString> table("mode", "disabled");
-        const QString always = QStringLiteral("RasterThresholdAbs ScuBlankingTime");
+        const Table<int, QString, QString> table("mode", "switches", "disabled");
         const QString wde = QStringLiteral("SmuDeviation SmuFrequency SmuMessage SmuModulation SmuModulationDepth "
                                            "SmuModulationSource SmuSymbolRate SmuToneFrequency");
         const QString memory = QStringLiteral("ExciterScanFirstMemory ExciterScanLastMemory");
@@ -114,34 +75,46 @@ private slots:
         const QString list = QStringLiteral("ExciterScanFrequencies");
         const QString smu = QStringLiteral("SmuFrequency");
         const QString scenario = QStringLiteral("WdeCenterFrequency WdeExciterRepeat");
-        const auto row = [&](int mode, const QStringList& more)
+        const auto row = [&](int mode, const QString& switchStates, const QStringList& more)
         {
-            QStringList names = (QStringList(more) << always).join(u' ').split(u' ');
+            QStringList names =
+                QString("RasterThresholdAbs ScuBlankingTime " + more.join(u' ')).simplified().split(u' ');
             names.sort();
-            table(QString::number(mode), mode, names.join(u' '));
+            table(QString::number(mode), mode, switchStates, names.join(u' '));
         };
-        for (const int mode : {0, 1, 2, 11})
-            row(mode, {});
-        for (const int mode : {3, 6, 7})
-            row(mode, {wde});
+        for (const int mode : {0, 2, 11})
+            row(mode, "---- true", {});
+        row(1, "---- false", {});
+        row(3, "+-+- true", {wde});
         for (const int mode : {4, 5})
-            row(mode, {wde, scenario});
-        row(8, {smu, list, memory});
-        row(9, {smu, range, memory});
-        row(10, {smu, range, list});
+            row(mode, "+--+ true", {wde, scenario});
+        for (const int mode : {6, 7})
+            row(mode, "++-- true", {wde});
+        row(8, "---- true", {smu, list, memory});
+        row(9, "---- true", {smu, range, memory});
+        row(10, "---- true", {smu, range, list});
     }
-    void theModeDecidesWhatCanBeEdited()
+    void theModeDecidesOnTheSwitchesAndWhatCanBeEdited()
     {
         QFETCH(int, mode);
         const auto panels = MakeAll();
-        for (const int before : {2, 4, 8, 9, 10})
+        QCOMPARE(Switches(), "+-+- true"); // the mode is 3
+        for (const int before : {1, 2, 4, 5, 6, 8, 9, 10})
         {
             SetMode(before);
             SetMode(mode);
+            QTEST(Switches(), "switches");
             QTEST(Disabled(), "disabled");
         }
         for (const Panel& panel : panels)
+        {
+            QCOMPARE(panel->GetExciterMode(), mode);
+            QCOMPARE(panel->IsScanMode(), mode >= 8 && mode <= 10);
             QCOMPARE(panel->GetTitle(), Mode()->GetSelectedItem() ? Mode()->GetText() : QString());
+        }
+        const auto later = MakeAll(); // on building, too
+        QTEST(Switches(), "switches");
+        QTEST(Disabled(), "disabled");
     }
 
     void rulesFollowTheirOwnValue_data()
@@ -192,36 +165,16 @@ private slots:
     void aModeSetWhileAnotherIsAppliedWins()
     {
         const auto panels = MakeAll();
-        Listener meddler([] { SetMode(7); });
+        Hearer meddler([] { SetMode(7); });
         Switch(RasterDetectorCheck)->Attach(&meddler);
         SetMode(1);
         QCOMPARE(Switches(), "++-- true");
     }
 
-    void aReadOnlyPanelStaysLockedAndAppliesNoRule()
+    void channelsHaveTheirOwnValuesAndMayBeNone()
     {
-        const auto panels = MakeAll(true);
-        for (const int mode : {4, 9, 2, 3})
-        {
-            SetMode(mode);
-            QCOMPARE(Disabled(), QString());
-        }
-        PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
-        for (const Panel& panel : panels)
-        {
-            QCOMPARE(panel->GetTitle(), "WDE raster test");
-            for (QWidget* widget : panel->findChildren<QWidget*>())
-            {
-                if (dynamic_cast<ValueLink*>(widget))
-                    QVERIFY2(!widget->isEnabled(), qPrintable(panel->objectName() + ' ' + widget->objectName()));
-            }
-        }
-        // The mode has enabled the value itself.
-        QCOMPARE(Switch(ExciterCheck)->GetState(), stEnabled);
-    }
-
-    void channelsHaveTheirOwnValues()
-    {
+        for (const int count : {0, -1})
+            QVERIFY(!Make("WDERasterDetectorDlg", count)->findChild<QScrollArea*>());
         Tree::Instance()->RemoveValue(basePath + "Channel2/WdeChannelLevel");
         // Neither the one above nor the neighbour's serves instead.
         Tree::Instance()->CreateValue<IntValue>(switchPath + "WdeChannelLevel");
@@ -232,16 +185,6 @@ private slots:
         QCOMPARE(second.PathAt(1, 1), basePath + "Channel2/WdeChannelFrequency");
         QCOMPARE(second.PathAt(2, 1), QString());
         QCOMPARE(PanelTest::Grid(boxes[0]).PathAt(2, 1), basePath + "Channel1/WdeChannelLevel");
-    }
-
-    void channelsMayBeNone()
-    {
-        for (const int count : {0, -1})
-        {
-            const Panel none = Make("WDERasterDetectorDlg", false, count);
-            QVERIFY(!none->findChild<QScrollArea*>());
-            QCOMPARE(PanelTest::Grid(*none).PlaceOfLine(QFrame::HLine), Place{});
-        }
     }
 
     void aParameterSetThatCannotBeLoadedIsReportedAndThePanelsStand()
@@ -283,19 +226,19 @@ private slots:
         {
             SetMode(3);
             Panel panel = Make("ExciterGeneralDlg");
-            Listener killer([&] { panel.reset(); });
+            Hearer killer([&] { panel.reset(); });
             Switch(key)->Attach(&killer);
             SetMode(key == RasterDetectorCheck || key == SingleChannelDetectorCheck ? 6 : key == ExciterCheck ? 2 : 4);
             QVERIFY(!panel);
         }
         SetMode(2);
         Panel panel = Make("ExciterSMUDlg");
-        Listener killer([&] { panel.reset(); });
+        Hearer killer([&] { panel.reset(); });
         PanelTest::ValueOf(SmuModulation)->Attach(&killer);
         SetMode(3);
         QVERIFY(!panel);
         panel = Make("ExciterSCUDlg");
-        Listener another([&] { panel.reset(); });
+        Hearer another([&] { panel.reset(); });
         PanelTest::ValueOf(ScuBlankingTime)->Attach(&another);
         PanelTest::ValueOf(ScuBlanking)->SetStoredText(QStringLiteral("true"));
         QVERIFY(!panel);

@@ -46,10 +46,8 @@ struct Host : IPCParam
     {
         QString text;
         for (const int row : rows)
-        {
             if (Panel(row))
                 text += QString::number(row) + (isTabEnabled(indexOf(Panel(row))) ? u'+' : u'-');
-        }
         return text;
     }
 };
@@ -134,19 +132,10 @@ private slots:
             QCOMPARE(host->minimumSize(), isJob ? QSize(775, 480) : QSize(0, 0));
             QStringList tabs;
             for (const int row : host->WantedRows())
-            {
                 if (host->Panel(row))
                     tabs << QString::fromUtf8(Host::TabTitle(row));
-            }
             QCOMPARE(host->Tabs(), tabs);
         }
-    }
-
-    void withoutJobPathTheSpectrumTakesTheTaskPath()
-    {
-        const auto host = Make(true, QString());
-        host->DetectionConventionalDDCDlg(1, false);
-        QCOMPARE(host->Wanted(), "10 13 14 38 41");
     }
 
     void activityGenerationFollowsTheTypeText()
@@ -183,17 +172,15 @@ private slots:
             host->ExciterDlg(1, true);
             QCOMPARE(host->Wanted(), "21 22" + row);
         }
-    }
-
-    void anExciterModeThatCannotBeReadLeavesTwoTabs()
-    {
+        // One that cannot be read leaves two tabs.
+        Tree::Instance()->Clear();
         Tree::Instance()->CreateNode(QStringLiteral("/A/"));
         Tree::Instance()->CreateValue<IntValue>(tdsPath + Keys::ExciterMode)->SetValue(3); // no selection
         for (const QString& path : {taskPath, QStringLiteral("/A/"), QStringLiteral("/Nowhere/A/B/"), QString()})
         {
-            Host host(path, nullptr, false, false, false, QString(), QString());
-            host.ExciterDlg(1, false);
-            QCOMPARE(host.Wanted(), "21 22");
+            Host unread(path, nullptr, false, false, false, QString(), QString());
+            unread.ExciterDlg(1, false);
+            QCOMPARE(unread.Wanted(), "21 22");
         }
     }
 
@@ -238,6 +225,10 @@ private slots:
         const auto whole = Make(true, QStringLiteral("/A/cs_1/"));
         whole->DetectionConventionalDDCDlg(1, false);
         QCOMPARE(whole->Panel(14)->GetBasePath(), "/A/cs_1/");
+        // Without a job path, the spectrum takes the task's.
+        const auto pathless = Make(true, QString());
+        pathless->DetectionConventionalDDCDlg(1, false);
+        QCOMPARE(pathless->Wanted(), "10 13 14 38 41");
     }
 
     void optionsOfAnEntryPointDoNotStayForTheNext()
@@ -261,23 +252,19 @@ private slots:
         // values: of the mode and the classification, true, false or missing; states: of the tuner, the demodulator
         // with its like and the classifier
         const Table<OpenCall, QString, QString> table("open", "values", "states");
-        const std::pair<const char*, OpenCall> classifiers[] = {
-            {"classifier HF", [](Host& h) { h.ClassifierDlg(1, 1); }},
-            {"classifier VUHF", [](Host& h) { h.ClassifierVUHFDlg(1, 1); }},
-            {"classifier DDC", [](Host& h) { h.ClassifierDDCDlg(1, true, false, 1); }}};
-        const std::pair<const char*, OpenCall> dataTransmissions[] = {
-            {"data HF", [](Host& h) { h.DataTransDlg(1, true); }},
-            {"data VUHF", [](Host& h) { h.DataTransVUHFDlg(1, true); }},
-            {"data DDC", [](Host& h) { h.DataTransDDCDlg(1, false, true); }}};
-        using Cases = std::initializer_list<std::pair<const char*, const char*>>;
-        const auto rows = [&](const auto& calls, Cases cases)
+        const auto rows = [&](const QStringList& cases, const QString& name, OpenCall open)
         {
-            for (const auto& [name, open] : calls)
-                for (const auto& [values, states] : cases)
-                    table(QString(name) + ' ' + values, open, values, states);
+            for (const QString& one : cases)
+                table(name + ' ' + one, open, one.left(2), one.mid(3));
         };
-        rows(classifiers, {{"--", "+-+"}, {"t-", "+-+"}, {"ff", "+++"}, {"ft", "+-+"}, {"tf", "---"}, {"tt", "---"}});
-        rows(dataTransmissions, {{"--", "+++"}, {"ft", "+++"}, {"tf", "--+"}});
+        const QStringList classifier{"-- +-+", "t- +-+", "ff +++", "ft +-+", "tf ---", "tt ---"};
+        const QStringList dataTransmission{"-- +++", "ft +++", "tf --+"};
+        rows(classifier, "classifier HF", [](Host& h) { h.ClassifierDlg(1, 1); });
+        rows(classifier, "classifier VUHF", [](Host& h) { h.ClassifierVUHFDlg(1, 1); });
+        rows(classifier, "classifier DDC", [](Host& h) { h.ClassifierDDCDlg(1, true, false, 1); });
+        rows(dataTransmission, "data HF", [](Host& h) { h.DataTransDlg(1, true); });
+        rows(dataTransmission, "data VUHF", [](Host& h) { h.DataTransVUHFDlg(1, true); });
+        rows(dataTransmission, "data DDC", [](Host& h) { h.DataTransDDCDlg(1, false, true); });
     }
     void tabsFollowTheAutomaticMode()
     {
@@ -339,6 +326,16 @@ private slots:
         QCOMPARE(observed(), std::pair(false, false));
     }
 
+    void theScanTabNeedsAScanStatus()
+    {
+        const auto host = Make(true);
+        host->TunerNBDlg(1);
+        QCOMPARE(host->States({19, 31}), "19+31-");
+        Tree::Instance()->CreateValue<IntValue>(taskPath + Keys::SCAN_STATUS);
+        host->VoiceVUHFDlg(1);
+        QCOMPARE(host->States({20, 31}), "20+31+");
+    }
+
     void aTranslatedTitleMakesUpdateInert()
     {
         BoolValue* mode = CreateBool(Keys::STATE_AUTOMATICMODE);
@@ -351,16 +348,6 @@ private slots:
         QCOMPARE(host->States({19}), "19+");
         host->DataTransDlg(1, false); // the entry point itself applies the value
         QCOMPARE(host->States({19}), "19-");
-    }
-
-    void theScanTabNeedsAScanStatus()
-    {
-        const auto host = Make(true);
-        host->TunerNBDlg(1);
-        QCOMPARE(host->States({19, 31}), "19+31-");
-        Tree::Instance()->CreateValue<IntValue>(taskPath + Keys::SCAN_STATUS);
-        host->VoiceVUHFDlg(1);
-        QCOMPARE(host->States({20, 31}), "20+31+");
     }
 
     void anEntryPointMayBeCalledWithinANotification()

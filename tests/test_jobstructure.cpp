@@ -30,18 +30,6 @@ const QByteArray otherJob = declaration + QByteArray("<Job version=\"1\">\n"
                                                      "  <Node name=\"AB\" type=\"CS\" groups=\"G_TUNER_VUHF\"/>\n"
                                                      "</Job>\n");
 
-/// Does something on the first change that it hears of.
-struct Once : IObserver
-{
-    explicit Once(std::function<void()> f) : act(std::move(f)) {}
-    void Update(Observable*, TChangeCode) override
-    {
-        if (const auto now = std::exchange(act, {}))
-            now();
-    }
-    std::function<void()> act;
-};
-
 } // namespace
 
 class TestJobStructure : public QObject
@@ -52,21 +40,18 @@ class TestJobStructure : public QObject
     std::unique_ptr<JobFile> m_job;
     QString m_reason;
 
-    // What somebody does to the job who hears of an operation.
-    void Act(const QString& act)
+    // What somebody does to the job who hears of an operation, once.
+    void Act(Hearer& once, const QString& act)
     {
-        if (act == "remove above")
-            m_job->RemoveNode(u"AB");
-        else if (act == "remove another")
-            m_job->RemoveNode(u"/Jobs/C");
-        else if (act == "rename above")
-            m_job->RenameNode(u"AB", "BA");
-        else if (act == "copy above")
-            m_job->DuplicateNode(u"AB", "BA");
-        else if (act == "load")
-            Load(otherJob);
-        else if (act.startsWith("die"))
-            m_job.reset();
+        once.act = {};
+        const QMap<QString, std::function<void()>> acts{{"remove above", [&] { m_job->RemoveNode(u"AB"); }},
+                                                         {"remove another", [&] { m_job->RemoveNode(u"/Jobs/C"); }},
+                                                         {"rename above", [&] { m_job->RenameNode(u"AB", "BA"); }},
+                                                         {"copy above", [&] { m_job->DuplicateNode(u"AB", "BA"); }},
+                                                         {"load", [&] { Load(otherJob); }},
+                                                         {"die", [&] { m_job.reset(); }},
+                                                         {"die and wait", [&] { m_job.reset(); }}};
+        acts[act]();
         if (act == "load" || act == "die and wait") // a modal dialog, say
             QTest::qWait(1);
     }
@@ -163,25 +148,16 @@ private slots:
         QCOMPARE(m_job->ToUtf8(), QByteArray(job).replace("/Jobs/C", "/Other/C"));
     }
 
-    void namesThatCannotBeAreRefused_data()
-    {
-        const Table<QString, QString> row("path", "name");
-        row("empty", "AB", "");
-        row("no segment", "AB/IN", "..");
-        row("two segments", "AB/IN", "a/b");
-        row("no node", "NOWHERE", "a");
-    }
     void namesThatCannotBeAreRefused()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, name);
         Load(job);
-        for (const bool copy : {false, true})
+        // Empty, no segment, two segments, and no node.
+        for (const auto& [path, name] : {std::pair{"AB", ""}, {"AB/IN", ".."}, {"AB/IN", "a/b"}, {"NOWHERE", "a"}})
         {
-            m_reason.clear();
-            QVERIFY(!(copy ? m_job->DuplicateNode(path, name, &m_reason) != nullptr
-                           : m_job->RenameNode(path, name, &m_reason)));
-            QVERIFY(!m_reason.isEmpty());
+            QString copyReason, renameReason;
+            QVERIFY2(!m_job->DuplicateNode(QString(path), name, &copyReason), name);
+            QVERIFY2(!m_job->RenameNode(QString(path), name, &renameReason), name);
+            QVERIFY(!copyReason.isEmpty() && !renameReason.isEmpty());
             QCOMPARE(m_job->ToUtf8(), job);
         }
     }
@@ -223,13 +199,9 @@ private slots:
 
     void whoHearsOfAnEndMayChangeTheJob_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("act");
-        QTest::addColumn<QStringList>("left");
-        const QStringList above{"AB/", "/Jobs/C/"};
-        const QStringList renamed{"AB/", "AB/NEW/", "/Jobs/C/"};
-        const auto row = [](const char* way, const char* act, const QStringList& left)
-        { QTest::addRow("%s, then %s", way, act) << way << act << left; };
+        const Table<QString, QString, QStringList> table("way", "act", "left");
+        const auto row = [&](const QString& way, const QString& act, const QStringList& left)
+        { table(way + ", then " + act, way, act, left); };
         row("remove", "remove above", {"/Jobs/C/"});
         row("remove", "remove another", {"AB/"});
         row("remove", "rename above", {"BA/", "/Jobs/C/"});
@@ -250,7 +222,7 @@ private slots:
         QFETCH(QString, act);
         QFETCH(QStringList, left);
         Load(job);
-        Once once([&] { Act(act); });
+        Hearer once([&] { Act(once, act); });
         ValueBase* value = Tree::Instance()->FindNode(u"AB/IN")->GetValues().front().get();
         const QString name = value->GetName();
         value->Attach(&once);
@@ -270,11 +242,10 @@ private slots:
 
     void whoHearsOfANewStateMayChangeTheJob_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("act");
+        const Table<QString, QString> row("way", "act");
         for (const char* way : {"add", "put back"})
             for (const char* act : {"remove above", "remove another", "load", "die", "die and wait"})
-                QTest::addRow("%s, then %s", way, act) << way << act;
+                row(QString(way) + ", then " + act, way, act);
     }
     void whoHearsOfANewStateMayChangeTheJob()
     {
@@ -289,7 +260,7 @@ private slots:
         }
         // The host has made a value already that the rules of the new node disable.
         ValueBase* own = Tree::Instance()->CreateValue<IntValue>(u"AB/X/TUNER_HF_NB_MGCVALUE");
-        Once once([&] { Act(act); });
+        Hearer once([&] { Act(once, act); });
         own->Attach(&once);
         const bool stays = act == "remove another" || act == "die";
         if (way == "add")

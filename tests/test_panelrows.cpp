@@ -102,7 +102,7 @@ Panel Make(const QString& name, const Form& form)
     if (const auto make = makers.value(name))
         return make(form);
     if (ExciterTest::panelNames.contains(name))
-        return ExciterTest::Make(name, false, 1);
+        return ExciterTest::Make(name, 1);
     // The other names are those of demodulations.
     return Panel(CreateDemodulatorPanel(name, basePath, form('v'), nullptr, false));
 }

@@ -1,32 +1,26 @@
 #include "application/arexception.h"
 #include "application/cfgcenter.h"
+#include "common.h"
 #include "configuration.h"
-#include "ipcparam/parameterdlg.h"
 #include "ipcparam/sigtrackingcontroldlg.h"
 #include "ipcparam/tkeoptions.h"
+#include "jobmodel/jobmodel.h"
 #include "keys/keymanager.h"
-#include "value/tree.h"
+#include "panelgrid.h"
 #include "valuewidgets/guicentral.h"
 #include "valuewidgets/vccheckbox.h"
+#include "widgets/vclistboxnumeric.h"
 
+#include <QTemporaryDir>
 #include <QTest>
-#include <QtWidgets>
 #include <map>
 
 using namespace TKE;
+using PanelTest::basePath;
+using PanelTest::Place;
 
 namespace
 {
-
-const QString basePath = QStringLiteral("/J/T/P/");
-
-ValueDescriptor Described(ValueKind kind, std::vector<SelectionItem> items = {})
-{
-    ValueDescriptor descriptor;
-    descriptor.kind = kind;
-    descriptor.items = std::move(items);
-    return descriptor;
-}
 
 // A panel that opens the protected operations to the tests and counts what it hears.
 class OpenPanel : public ParameterDlg
@@ -35,6 +29,7 @@ public:
     explicit OpenPanel(bool plainGrid = false)
         : ParameterDlg(basePath, nullptr, QStringLiteral("OpenPanel"), false, plainGrid)
     {
+        SetTranslationNamespace("TKE::OpenPanel");
     }
 
     using ParameterDlg::AddCheckBoxFromVT;
@@ -58,10 +53,40 @@ public:
 
     QString BuildFinalKey(const QString& key) const override { return m_rewrite.value(key, key); }
     void Update(Observable*, TChangeCode code) override { m_heard.append(code); }
+    // The row lies at (1, 2).
+    void Build(const Parameter& parameter, const BuildRowSettings& settings = {true, true, false, false})
+    {
+        BuildRow(Grid(), value, parameter, 1, 2, settings);
+    }
 
     QHash<QString, QString> m_rewrite;
     QList<int> m_heard;
+    ValueObservingPtr<ValueBase> value{this}; // of the row
 };
+
+// One parameter that a descriptor file with these attributes describes; the model stays.
+const JOBXMLGENERATOR::Parameter& Describe(const QByteArray& attributes)
+{
+    static QTemporaryDir directory;
+    static std::vector<std::shared_ptr<const JobModel>> models;
+    const QString fileName = directory.filePath(QString::number(models.size()));
+    WriteAll(fileName, "<JobModel version=\"1\"><Group name=\"G\"><Parameter name=\"Key\" at=\"U\" label=\"Label\" "
+                       "description=\"Help\" " +
+                           attributes + "/></Group></JobModel>");
+    models.push_back(JobModel::LoadFiles({fileName}));
+    return *models.back()->GetGroups().at(0)->GetParameters().at(0);
+}
+
+QByteArray Frequency(const QByteArray& subControl = {})
+{
+    return "kind=\"frequency\" default=\"5000000\" control=\"6\"" +
+           (subControl.isEmpty() ? QByteArray() : " subControl=\"" + subControl + '"');
+}
+
+ValueBase* Create(const QString& path, const JOBXMLGENERATOR::Parameter& parameter)
+{
+    return Tree::Instance()->CreateValue(path, parameter.GetValueDescriptor());
+}
 
 } // namespace
 
@@ -77,14 +102,10 @@ private Q_SLOTS:
         CfgCenter::Instance()->SetDirectory(QString());
     }
 
-    void aParentPathIsOneLevelUp()
+    void aPathIsTheBaseAndTheFullNameOfTheRewrittenKey()
     {
         for (const auto& [path, parent] : {std::pair{"/A/B/", "/A/"}, {"/A/", "/"}, {"/", ""}, {"", ""}, {"A/", ""}})
             QCOMPARE(ParameterDlg::GetParentPath(QString::fromUtf8(path)), parent);
-    }
-
-    void aPathIsTheBaseAndTheFullNameOfTheRewrittenKey()
-    {
         OpenPanel panel;
         panel.m_rewrite.insert("SHORT", "LONG");
         KeyManager::Instance()->Register("LONG", "GROUP/FULL");
@@ -113,8 +134,8 @@ private Q_SLOTS:
     void writingRespectsTheEnableState()
     {
         ValueBase* flag = Tree::Instance()->CreateValue<BoolValue>(basePath + "FLAG");
-        const ValueDescriptor choice = Described(ValueKind::Selection, {{0, "Off"}, {7, "On"}});
-        ValueBase* selection = Tree::Instance()->CreateValue(basePath + "CHOICE", choice);
+        auto* selection = Tree::Instance()->CreateValue<ValueSelection>(basePath + "CHOICE");
+        selection->SetItems({{0, "Off"}, {7, "On"}});
         OpenPanel panel;
         panel.Enable("FLAG", false, true);
         QCOMPARE(flag->GetState(), stDisabled);
@@ -130,14 +151,10 @@ private Q_SLOTS:
         panel.SetSelection("CHOICE", "Off", false);
         QCOMPARE(selection->GetText(), QString("On"));
         QCOMPARE(panel.GetSelectedValue("FLAG"), QString());
-    }
 
-    void valuesThatAreMissingAreNoTrouble()
-    {
-        OpenPanel panel;
+        // Values that are missing are no trouble.
         QCOMPARE(panel.GetSelectedValue("NONE"), QString());
-        QVERIFY(!panel.IsChecked("NONE", false));
-        QVERIFY(!panel.AddObserver("NONE"));
+        QVERIFY(!panel.IsChecked("NONE", false) && !panel.AddObserver("NONE"));
         panel.Enable("NONE", true, false);
         panel.SetChecked("NONE", true, false);
         panel.DeleteObserver(nullptr);
@@ -173,7 +190,7 @@ private Q_SLOTS:
         value->SetValue(3);
     }
 
-    void aTitleNeedsAGroupBox()
+    void aTitleNeedsAGroupBoxAndTheStretchLiesOneBeyondTheFirstFreeRowAndColumn()
     {
         for (const bool plain : {false, true})
         {
@@ -181,18 +198,14 @@ private Q_SLOTS:
             panel.SetTitle("Title");
             QCOMPARE(panel.GetTitle(), QString(plain ? "" : "Title"));
             QCOMPARE(panel.layout() == panel.Grid(), plain);
+            panel.AddLabel(panel.Grid(), 2, 3, 1, 1, "x");
+            panel.SetDefaultStretchFactor();
+            for (const int further : {0, 1})
+            {
+                QCOMPARE(panel.Grid()->rowStretch(3 + further), further);
+                QCOMPARE(panel.Grid()->columnStretch(4 + further), further);
+            }
         }
-    }
-
-    void theStretchLiesOneBeyondTheFirstFreeRowAndColumn()
-    {
-        OpenPanel panel;
-        panel.AddLabel(panel.Grid(), 2, 3, 1, 1, "x");
-        panel.SetDefaultStretchFactor();
-        QCOMPARE(panel.Grid()->rowStretch(3), 0);
-        QCOMPARE(panel.Grid()->rowStretch(4), 1);
-        QCOMPARE(panel.Grid()->columnStretch(4), 0);
-        QCOMPARE(panel.Grid()->columnStretch(5), 1);
     }
 
     void fromBaseSkipsTheMapping()
@@ -208,16 +221,10 @@ private Q_SLOTS:
         QVERIFY(raw->GetValue() && !above->GetValue());
         panel.AddCheckBoxFromVTParent(panel.Grid(), 2, 0, 1, 1, "KEY", "above")->click();
         QVERIFY(above->GetValue());
-    }
-
-    void aWidgetWithoutGridIsBoundAndPlacedNowhere()
-    {
-        Tree::Instance()->CreateValue<BoolValue>(basePath + "FLAG")->SetValue(true);
-        OpenPanel panel;
-        const std::unique_ptr<VCCheckBox> box(panel.AddCheckBoxFromVT(nullptr, 0, 0, 1, 1, "FLAG", "flag", false));
-        QVERIFY(box->isChecked());
-        QVERIFY(!box->parent());
-        QCOMPARE(box->objectName(), QString("FLAG"));
+        // Without a grid, it stands nowhere.
+        const std::unique_ptr<VCCheckBox> box(panel.AddCheckBoxFromVT(nullptr, 0, 0, 1, 1, "KEY", "mapped", false));
+        QVERIFY(box->isChecked() && !box->parent());
+        QCOMPARE(box->objectName(), QString("KEY"));
     }
 
     void theFrequencyUnitSuitsTheValue()
@@ -252,20 +259,17 @@ private Q_SLOTS:
         OpenPanel wider;
         build(wider, "Some label that is a good deal longer :");
         QVERIFY(wider.sizeHint().width() > size.width());
-    }
-
-    void aPanelWithWidgetsOfItsOwnMeasuresItself()
-    {
-        const auto hint = [](int height)
+        // One with widgets of its own measures itself.
+        const auto height = [](int own)
         {
             OpenPanel panel;
             panel.AddLabel(panel.Grid(), 0, 0, 1, 1, "Some label :");
-            auto* own = new QWidget;
-            own->setMinimumHeight(height);
-            panel.Grid()->addWidget(own, 1, 0);
+            auto* widget = new QWidget;
+            widget->setMinimumHeight(own);
+            panel.Grid()->addWidget(widget, 1, 0);
             return panel.minimumSizeHint().height();
         };
-        QCOMPARE(hint(300), hint(100) + 200);
+        QCOMPARE(height(300), height(100) + 200);
 
         // Also one that is derived from a panel that shares.
         struct Extended : SigTrackingControlDlg
@@ -281,7 +285,7 @@ private Q_SLOTS:
         QVERIFY(Extended().minimumSizeHint().height() >= plain + 300);
     }
 
-    void theJobModelDirectoryComesFromJobManagementFirst()
+    void theJobModelDirectoryComesFromJobManagementFirstAndThrowsWhereItCannotBeHad()
     {
         QTemporaryDir directory;
         CfgCenter& center = *CfgCenter::Instance();
@@ -298,17 +302,10 @@ private Q_SLOTS:
         write(center.GetFileName("JobManagement", cfgSystem), "j");
         QCOMPARE(IPCParamConfiguration("editor").GetJobModelXMLDirectory(), QString("j"));
         QCOMPARE(IPCParamConfiguration("").GetJobModelXMLDirectory(), QString());
-    }
-
-    void aConfigurationThatCannotBeHadThrows()
-    {
-        QTemporaryDir directory;
-        CfgCenter& center = *CfgCenter::Instance();
-        center.SetDirectory(directory.path());
-        QDir().mkpath(center.GetFileName("editor", cfgUser)); // a directory where a file should be
+        QDir().mkpath(center.GetFileName("broken", cfgUser)); // a directory where a file should be
         try
         {
-            IPCParamConfiguration configuration("editor");
+            IPCParamConfiguration configuration("broken");
             QFAIL("nothing thrown");
         }
         catch (const ARException& exception)
@@ -355,6 +352,166 @@ private Q_SLOTS:
         options.SetGate(2, true);
         options.SetSwitch(3, true);
         QCOMPARE(answers(options), (QList<int>{2, 10}));
+    }
+
+    void theControlTypePicksTheWidget_data()
+    {
+        const Table<QByteArray, QString, bool, int, int> table("attributes", "widget", "hasLabel", "rows", "columns");
+        const auto row = [&](const char* name, const QByteArray& attributes, const char* widget, bool hasLabel = true,
+                             int rows = 1, int columns = 1)
+        { table(name, attributes, widget, hasLabel, rows, columns); };
+
+        const QByteArray whole = "kind=\"int\" default=\"1\" ";
+        const QByteArray real = "kind=\"double\" default=\"1\" precision=\"2\" ";
+        const QByteArray time = "kind=\"datetime\" default=\"2024-01-15T08:00:00\" ";
+        row("combo", "kind=\"selection\" default=\"0\" control=\"0\"", "TKE::VCComboBoxClassic");
+        row("check box", "kind=\"bool\" default=\"true\" control=\"1\"", "TKE::VCCheckBox", false);
+        row("integer", whole + "control=\"2\"", "TKE::VCNumericFloatSpin");
+        row("integer, other sub-type", whole + "control=\"2\" subControl=\"2\"", "TKE::VCNumericFloatSpin");
+        row("integer as time", time + "control=\"2\" subControl=\"3\"", "TKE::VCDateTimeEdit");
+        row("float", real + "control=\"3\" number=\"float\"", "TKE::VCNumericFloatSpin");
+        row("double", real + "control=\"3\" number=\"double\"", "TKE::VCNumericFloatSpin");
+        row("real, neither float nor double", real + "control=\"3\" number=\"long\"", "");
+        row("text", "kind=\"text\" default=\"\" control=\"4\"", "TKE::VCLineEdit");
+        row("long", whole + "control=\"5\" number=\"long\"", "TKE::VCNumericFloatSpin");
+        row("number, integer", whole + "control=\"5\" number=\"integer\"", "TKE::VCNumericFloatSpin");
+        row("number as time", time + "control=\"5\" subControl=\"3\"", "TKE::VCDateTimeEdit");
+        row("number, neither long nor integer", real + "control=\"5\"", "");
+        row("frequency", Frequency(), "TKE::VCFrequency", true, 2, 3);
+        row("frequency 0", Frequency("0"), "TKE::VCFrequency", true, 2, 3);
+        row("frequency as plain text", Frequency("1"), "TKE::VCLineEdit");
+        row("frequency as text", Frequency("2"), "TKE::VCLineEdit", true, 1, 2);
+        row("frequency, other sub-type", Frequency("5"), "");
+    }
+    void theControlTypePicksTheWidget()
+    {
+        QFETCH(QByteArray, attributes);
+        QFETCH(QString, widget);
+        QFETCH(bool, hasLabel);
+        QFETCH(int, rows);
+        QFETCH(int, columns);
+        const auto& parameter = Describe(attributes + " panelUnit=\"unit\"");
+        Create(basePath + "Key", parameter);
+        OpenPanel panel;
+        panel.Build(parameter);
+        const PanelTest::Grid grid(panel);
+
+        QCOMPARE(grid.TextAt(1, 2), hasLabel ? "Label" : "");
+        if (hasLabel)
+            QCOMPARE(grid.At(1, 2)->toolTip(), "Help");
+        QWidget* made = grid.At(1, 3);
+        QCOMPARE(made ? QString::fromUtf8(made->metaObject()->className()) : QString(), widget);
+        if (made)
+        {
+            QCOMPARE(grid.PlaceOf(made), (Place{1, 3, rows, columns}));
+            QCOMPARE(made->objectName(), "Key");
+            if (!hasLabel)
+                QCOMPARE(grid.TextAt(1, 3), "Label");
+        }
+        if (columns == 1)
+            QCOMPARE(grid.TextAt(1, 4), "unit"); // whatever became of the widget
+        QCOMPARE(panel.value.Get(), PanelTest::ValueOf("Key"));
+    }
+
+    void frequenciesInTextsAndListsFollowTheUnitOfTheSettings()
+    {
+        for (const bool kiloHertz : {true, false})
+        {
+            const double factor = kiloHertz ? 1000 : 1;
+            const auto& text = Describe(Frequency("2"));
+            Create(basePath + "Key", text);
+            OpenPanel panel;
+            panel.Build(text, {true, true, false, kiloHertz});
+            QCOMPARE(QLocale().toDouble(qobject_cast<QLineEdit*>(PanelTest::Grid(panel).At(1, 3))->text()), 5 * factor);
+            Tree::Instance()->Clear();
+
+            const auto& list = Describe("kind=\"list\" default=\"3000000;5000000\" control=\"6\" rows=\"3\"");
+            Create(basePath + "Key", list);
+            OpenPanel listPanel;
+            listPanel.Build(list, {true, true, false, kiloHertz});
+            const PanelTest::Grid grid(listPanel);
+            auto* table = qobject_cast<VCListBoxNumeric*>(grid.At(1, 2)); // in place of the label
+            QVERIFY(table);
+            QCOMPARE(grid.PlaceOf(table), (Place{1, 2, 5, 2}));
+            QCOMPARE(table->horizontalHeaderItem(0)->text(), kiloHertz ? "Label [kHz]" : "Label [MHz]");
+            QCOMPARE(table->accessibleName(), table->horizontalHeaderItem(0)->text());
+            QCOMPARE(table->columnWidth(0), 200);
+            QCOMPARE(QLocale().toDouble(table->item(0, 0)->text()), 3 * factor);
+            QCOMPARE(grid.PathAt(1, 2), basePath + "Key");
+            Tree::Instance()->Clear();
+        }
+    }
+
+    void theDisplayUnitAdjustsUnlessItIsKept()
+    {
+        const auto& parameter = Describe(Frequency());
+        Create(basePath + "Key", parameter);
+        for (const bool keep : {true, false})
+        {
+            GuiCentral::Instance().SetFrequencyUnit(SuffixedDouble::Giga);
+            OpenPanel panel;
+            panel.Build(parameter, {true, keep, false, false});
+            QCOMPARE(GuiCentral::Instance().GetFrequencyUnit(), keep ? SuffixedDouble::Giga : SuffixedDouble::Kilo);
+        }
+    }
+
+    void valuesAreFoundAtTheBasePathAndAbove_data()
+    {
+        // isHeld: by the row; isBound: by the widget
+        const Table<QString, bool, bool, bool, bool> row("where", "search", "rebase", "isHeld", "isBound");
+        row("here", "/J/T/P/Key", true, false, true, true);
+        row("here, rebased", "/J/T/P/Key", true, true, true, true);
+        row("above", "/J/T/Key", true, false, true, false);
+        row("above, rebased", "/J/T/Key", true, true, true, true);
+        row("two levels above, rebased", "/J/Key", true, true, true, true);
+        row("below the root", "/Key", true, true, false, false);
+        row("mapped", "/J/T/P/Full/Key", false, false, true, true);
+        row("mapped, searched raw", "/J/T/P/Full/Key", true, false, false, false);
+        row("raw, looked up mapped", "/J/T/P/Key", false, false, false, false);
+        row("nowhere, rebased", "/X/Key", true, true, false, false);
+    }
+    void valuesAreFoundAtTheBasePathAndAbove()
+    {
+        QFETCH(QString, where);
+        QFETCH(bool, search);
+        QFETCH(bool, rebase);
+        QFETCH(bool, isHeld);
+        QFETCH(bool, isBound);
+        KeyManager::Instance()->Register(QStringLiteral("Key"), QStringLiteral("Full/Key"));
+        const auto& parameter = Describe("kind=\"int\" default=\"1\" control=\"2\"");
+        ValueBase* value = Create(where, parameter);
+        OpenPanel panel;
+        panel.value = Tree::Instance()->CreateValue<BoolValue>(QStringLiteral("/X/Other")); // let go of
+        panel.Build(parameter, {search, true, rebase, false});
+        QCOMPARE(panel.value.Get(), isHeld ? value : nullptr);
+        QCOMPARE(PanelTest::Grid(panel).PathAt(1, 3), isBound ? where : QString());
+        QCOMPARE(panel.GetBasePath(), basePath);
+    }
+
+    void onlyTheToolTipOfAFrequencyIsTranslated()
+    {
+        const ContextTranslator translator;
+        const auto check = [](const QByteArray& attributes, const QString& toolTip)
+        {
+            OpenPanel panel;
+            panel.Build(Describe(attributes + " panelUnit=\"unit\""));
+            const PanelTest::Grid grid(panel);
+            QCOMPARE(grid.TextAt(1, 2), "TKE::OpenPanel|Label");
+            QCOMPARE(grid.At(1, 2)->toolTip(), toolTip);
+            QCOMPARE(grid.TextAt(1, 4), "TKE::OpenPanel|unit");
+        };
+        check("kind=\"int\" default=\"1\" control=\"2\"", "Help");
+        check("kind=\"text\" default=\"\" control=\"4\"", "Help");
+        check(Frequency("1"), "TKE::OpenPanel|Help");
+    }
+
+    void aStandInMakesAnEmptyRow()
+    {
+        OpenPanel panel;
+        panel.Build(JOBXMLGENERATOR::Parameter(QStringLiteral("Key")));
+        const PanelTest::Grid grid(panel);
+        QCOMPARE(grid.TextAt(1, 2), QString());
+        QVERIFY(!grid.At(1, 3));
     }
 };
 

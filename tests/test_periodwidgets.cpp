@@ -1,6 +1,5 @@
 #include "common.h"
 #include "widgetfixture.h"
-#include "widgets/vccheckablegroupbox.h"
 #include "widgets/vcdateperiod.h"
 #include "widgets/vctimeperiod.h"
 
@@ -51,70 +50,12 @@ class TestPeriodWidgets : public QObject
 private slots:
     void cleanup() { CleanUp(); }
 
-    void aGroupBoxTakesBooleansAndSelectionsOnly()
-    {
-        auto* boolean = static_cast<BoolValue*>(Make(path, ValueKind::Bool, "false"));
-        auto* text = MakeText(startPath, "true");
-        VCCheckableGroupBox box(nullptr, "Box", {});
-        QVERIFY(!box.SetValue(text) && !box.SetValue(nullptr) && !box.SetBoolValue(nullptr));
-        QVERIFY(!text->IsObserved());
-        QVERIFY(box.SetBoolValue(boolean));
-        QVERIFY(!box.isChecked());
-        QVERIFY(!box.SetSelectionValue(nullptr)); // lets go all the same
-        QVERIFY(!boolean->IsObserved());
-    }
-
-    void aGroupBoxShowsAnyKeyButZeroAsChecked()
-    {
-        ValueBase* value = Make(path, ValueKind::Selection, "5");
-        int writes = 0;
-        Tree::Instance()->SetJournal([&](const JournalEntry&) { ++writes; });
-        VCCheckableGroupBox box(nullptr, "Box", {});
-        box.setChecked(false);
-        QVERIFY(box.SetValue(value));
-        QVERIFY(box.isChecked());
-        QCOMPARE(writes, 0); // key 5 is no edit to key 1
-        value->SetStoredText("0");
-        QVERIFY(!box.isChecked());
-        value->SetStoredText("5");
-        QVERIFY(box.isChecked());
-        value->SetStoredText("99"); // no item, no news
-        QVERIFY(box.isChecked());
-        QCOMPARE(writes, 3);
-    }
-
-    void aGroupBoxWritesWhatIsToggled()
-    {
-        ValueBase* value = Make(path, ValueKind::Selection, "5");
-        Heard<VCCheckableGroupBox> box(nullptr, "Box", QString());
-        box.SetValue(value);
-        QCOMPARE(box.codes, (std::vector<int>{ccState, ccDescription, ccItems, ccContent}));
-        Open(box);
-        QTest::keyClick(&box, Qt::Key_Space);
-        QCOMPARE(value->GetStoredText(), QString("0"));
-        QTest::keyClick(&box, Qt::Key_Space);
-        QCOMPARE(value->GetStoredText(), QString("1"));
-        QCOMPARE(box.codes.size(), size_t(4)); // not told of its own writes
-
-        ValueBase* boolean = Make("/Job/Bool", ValueKind::Bool, "false");
-        box.SetValue(boolean);
-        QVERIFY(!box.isChecked());
-        box.setChecked(true);
-        QVERIFY(boolean->GetBool());
-        QCOMPARE(value->GetStoredText(), QString("1"));
-    }
-
-    void aPeriodNeedsBothValues_data()
-    {
-        const Table<bool, bool> row("start", "stop");
-        row("no start", false, true);
-        row("no stop", true, false);
-        row("neither", false, false);
-    }
+    void aPeriodNeedsBothValues_data() { EachText("missing", {"start", "stop", "start and stop"}); }
     void aPeriodNeedsBothValues()
     {
-        QFETCH(bool, start);
-        QFETCH(bool, stop);
+        QFETCH(QString, missing);
+        const bool start = !missing.contains("start");
+        const bool stop = !missing.contains("stop");
         Make(path, ValueKind::Bool, "false");
         TextValue* startValue = start ? MakeText(startPath, {}) : nullptr;
         TextValue* stopValue = stop ? MakeText(stopPath, {}) : nullptr;
@@ -221,29 +162,6 @@ private slots:
         QVERIFY(!times.isEnabled());
     }
 
-    void whatAnUncheckedGroupBoxHoldsStaysDisabled()
-    {
-        VCCheckableGroupBox outer(nullptr, "Outer", {});
-        auto* on = static_cast<BoolValue*>(Make(path, ValueKind::Bool, "false"));
-        outer.SetValue(on);
-        auto* layout = new QVBoxLayout(&outer);
-        Times times("10:00", "11:00");
-        layout->addWidget(&times);
-        ValueBase* switchOfInner = Make(path + "Inner", ValueKind::Bool, "false");
-        VCCheckableGroupBox inner(nullptr, "Inner", {});
-        inner.SetValue(switchOfInner);
-        layout->addWidget(&inner);
-
-        for (ValueBase* value : {static_cast<ValueBase*>(times.start), switchOfInner})
-        {
-            value->SetState(stDisabled);
-            value->SetState(stEnabled);
-        }
-        QVERIFY(!times.isEnabled() && !inner.isEnabled());
-        on->SetBool(true);
-        QVERIFY(times.isEnabled() && inner.isEnabled());
-    }
-
     void escapeAndTheLossOfTheValueTakeBackWhatIsTyped()
     {
         Times times("10:20", "11:30");
@@ -272,13 +190,13 @@ private slots:
         const auto stepIn = [](auto* period)
         {
             const QPointer<QWidget> alive(period);
-            Counter rebuild([&] { delete alive; });
+            Hearer rebuild([&] { delete alive; });
             period->start->Attach(&rebuild);
             Open(*period);
             period->startEdit->setFocus();
             QTest::keyClick(period->startEdit, Qt::Key_Up);
             QVERIFY(!alive);
-            QCOMPARE(rebuild.count, 1);
+            QCOMPARE(rebuild.codes.size(), size_t(1));
             Tree::Instance()->Clear();
         };
         stepIn(new Times("10:20", "11:30"));
@@ -289,11 +207,11 @@ private slots:
     {
         auto* start = MakeText(startPath, {});
         MakeText(stopPath, {});
-        Counter remove([] { Tree::Instance()->RemoveValue(stopPath); });
+        Hearer remove([] { Tree::Instance()->RemoveValue(stopPath); });
         start->Attach(&remove);
         VCTimePeriod period(nullptr, "Time");
         period.SetPeriod_ValuePath(startPath, stopPath);
-        QCOMPARE(remove.count, 1);
+        QCOMPARE(remove.codes.size(), size_t(1));
         QVERIFY(!start->GetValue().isEmpty());
     }
 };

@@ -62,18 +62,6 @@ const QHash<QString, Ruled>& Panels()
     return panels;
 }
 
-/// Deletes the panel as soon as a state changes.
-struct Deleter : IObserver
-{
-    explicit Deleter(Panel& held) : panel(held) {}
-    void Update(Observable*, TChangeCode code) override
-    {
-        if (code == ccState)
-            panel.reset();
-    }
-    Panel& panel;
-};
-
 } // namespace
 
 class TestRules : public QObject
@@ -158,9 +146,7 @@ private slots:
 
     void aPanelOutlivesItsValuesAndLacksThemQuietly_data()
     {
-        QTest::addColumn<QString>("panel");
-        for (const QString& panel : Panels().keys())
-            QTest::addRow("%s", qPrintable(panel)) << panel;
+        EachText("panel", Panels().keys());
     }
     void aPanelOutlivesItsValuesAndLacksThemQuietly()
     {
@@ -173,7 +159,12 @@ private slots:
         Fill(ruled.group, ruled.place, ruled.band);
         // It may also go while it applies its rules.
         shown = ruled.make();
-        Deleter deleter(shown);
+        Hearer deleter(
+            [&]
+            {
+                if (deleter.codes.back() == ccState)
+                    shown.reset();
+            });
         for (const auto& value : Tree::Instance()->FindNode(ruled.place)->GetValues())
             value->Attach(&deleter);
         for (const auto& value : Tree::Instance()->FindNode(ruled.place)->GetValues())
@@ -190,22 +181,6 @@ private slots:
         Tree::Instance()->CreateValue<BoolValue>(parentPath + DFLOCATE_DF_ON); // of another node, and off
         const DFLocateDlg panel(basePath, nullptr, false);
         QCOMPARE(ValueOf(DFLOCATE_DF_MODE)->GetState(), stEnabled);
-    }
-
-    void aMemoryScanHasOneLinePerChannel()
-    {
-        for (const int count : {0, 3})
-        {
-            const MemoryScanDlg panel(basePath, count, false, true, nullptr, false);
-            QVERIFY(panel.findChild<QScrollArea*>("MEMORYSCAN_CHANNELS"));
-            for (const int channel : {1, 3, 4})
-            {
-                const QString number = QString::number(channel);
-                const auto* afc = panel.findChild<QWidget*>("MEMORYSCAN_VUHF_CH" + number + "_AFC_ON");
-                QCOMPARE(afc != nullptr, channel <= count);
-                QVERIFY(!afc || afc->accessibleName() == "AFC " + number);
-            }
-        }
     }
 
     void wantedRowsOnly()

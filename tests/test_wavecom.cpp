@@ -1,6 +1,5 @@
 #include "common.h"
 #include "ipcparam/wavecomdlg.h"
-#include "keys/keymanager.h"
 #include "keys/keys.h"
 #include "panelgrid.h"
 #include "valuewidgets/vccomboboxclassic.h"
@@ -15,13 +14,6 @@ using PanelTest::Grid;
 namespace
 {
 
-class OpenPanel : public WavecomDlg
-{
-public:
-    explicit OpenPanel(bool dataNode, bool readOnly = false) : WavecomDlg(basePath, nullptr, dataNode, readOnly) {}
-    using WavecomDlg::GetItemPath;
-};
-
 const std::vector<std::unique_ptr<JOBXMLGENERATOR::Parameter>>& Parameters()
 {
     static const auto model = JobModel::Load();
@@ -29,7 +21,7 @@ const std::vector<std::unique_ptr<JOBXMLGENERATOR::Parameter>>& Parameters()
 }
 
 // The combo box at the place of the mode (row 3) or of the mode type (row 4).
-VCComboBoxClassic* ComboAt(const OpenPanel& panel, int row)
+VCComboBoxClassic* ComboAt(const WavecomDlg& panel, int row)
 {
     const Grid data(Grid(panel).Group(QStringLiteral("Data")));
     return qobject_cast<VCComboBoxClassic*>(data.At(row, 1));
@@ -66,15 +58,11 @@ private Q_SLOTS:
         for (const auto& parameter : Parameters())
             Tree::Instance()->CreateValue(PathOf(*parameter), parameter->GetValueDescriptor());
     }
-    void cleanup()
-    {
-        WidgetFixture::CleanUp();
-        KeyManager::Instance()->Clear();
-    }
+    void cleanup() { WidgetFixture::CleanUp(); }
 
     void theModeIsChosenByKeyboardWhileTheBoxesFollow()
     {
-        OpenPanel panel(m_dataNode);
+        WavecomDlg panel(basePath, nullptr, m_dataNode, false);
         panel.show();
         QVERIFY(QTest::qWaitForWindowActive(&panel));
         const auto boxes = panel.findChildren<VCComboBoxClassic*>().size();
@@ -96,6 +84,12 @@ private Q_SLOTS:
             QVERIFY(box.isNull());
         }
         QCOMPARE(Mode()->GetCurrentKey(), 1);
+        const QPointer<QWidget> same = ComboAt(panel, 4); // only a change of the content replaces it
+        Mode()->SetState(stDisabled);
+        Mode()->SetState(stEnabled);
+        Mode()->SetItems(Mode()->GetItems());
+        QVERIFY(same && ComboAt(panel, 4) == same);
+        mode->setFocus();
 
         QTest::keyClick(mode, Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), ComboAt(panel, 4));
@@ -105,11 +99,11 @@ private Q_SLOTS:
 
     void aModeTypeBoxSurvivesItsOwnReplacementInTheMiddleOfAChoice()
     {
-        OpenPanel panel(m_dataNode);
+        WavecomDlg panel(basePath, nullptr, m_dataNode, false);
         panel.show();
         QVERIFY(QTest::qWaitForWindowActive(&panel));
         const QPointer<VCComboBoxClassic> old = ComboAt(panel, 4);
-        WidgetFixture::Counter rule([&] { Mode()->SelectKey(2); }); // who hears of the mode type changes the mode
+        Hearer rule([&] { Mode()->SelectKey(2); }); // who hears of the mode type changes the mode
         old->GetBoundValue()->Attach(&rule);
         old->setFocus();
         old->showPopup();
@@ -120,21 +114,10 @@ private Q_SLOTS:
         QCOMPARE(panel.focusWidget(), ComboAt(panel, 4));
     }
 
-    void onlyAChangeOfTheContentReplacesTheBox()
-    {
-        const OpenPanel panel(m_dataNode);
-        const QPointer<QWidget> box = ComboAt(panel, 4);
-        Mode()->SetState(stDisabled);
-        Mode()->SetState(stEnabled);
-        Mode()->SetItems(Mode()->GetItems());
-        QVERIFY(box);
-        QCOMPARE(ComboAt(panel, 4), box);
-    }
-
     void aModeWithoutModeTypeGetsABoxThatIsBoundToNothing()
     {
         Mode()->SetItems({SelectionItem(1, QStringLiteral("FSK")), SelectionItem(2, QStringLiteral("selcal"))});
-        const OpenPanel panel(m_dataNode);
+        const WavecomDlg panel(basePath, nullptr, m_dataNode, false);
         for (const char* key : {"2", "99"}) // a name in another case, or no name
         {
             Mode()->SelectKey(1);
@@ -147,23 +130,9 @@ private Q_SLOTS:
         }
     }
 
-    void theDataFormLooksUpItsValuesInTheNodeAndMapsTheOptionsOnly()
-    {
-        for (const QLatin1StringView key : {WAVECOM_HF_MODE, WAVECOM_HF_OPTIONCLASSIFIER})
-            KeyManager::Instance()->Register(key, QStringLiteral("Full/") + key);
-        OpenPanel panel(m_dataNode);
-        const QString full = basePath + QStringLiteral("Full/");
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_MODE), (m_dataNode ? m_data : full) + WAVECOM_HF_MODE);
-        QCOMPARE(Grid::PathOf(ComboAt(panel, 3)).isEmpty(), !m_dataNode); // nothing is at the full name
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_OPTIONCLASSIFIER), full + WAVECOM_HF_OPTIONCLASSIFIER);
-        QCOMPARE(panel.GetItemPath(WAVECOM_HF_WORKFLOW), m_data + WAVECOM_HF_WORKFLOW);
-        const QString composite = WAVECOM_DEMODULATOR_HF + u'/' + WAVECOM_DEMODULATOR_VUHF_DIRECT_MODTYPE;
-        QCOMPARE(panel.GetItemPath(composite), m_data + composite);
-    }
-
     void aReadOnlyPanelLocksEveryNewBox()
     {
-        const OpenPanel panel(m_dataNode, true);
+        const WavecomDlg panel(basePath, nullptr, m_dataNode, true);
         for (const int mode : {1, 5, 13})
         {
             Mode()->SelectKey(mode);
@@ -179,31 +148,16 @@ private Q_SLOTS:
         for (const bool isBeforeThePanelHears : {true, false})
         {
             Mode()->SelectKey(1);
-            std::unique_ptr<OpenPanel> panel;
-            WidgetFixture::Counter killer([&] { panel.reset(); });
+            std::unique_ptr<WavecomDlg> panel;
+            Hearer killer([&] { panel.reset(); });
             if (isBeforeThePanelHears)
                 Mode()->Attach(&killer);
-            panel = std::make_unique<OpenPanel>(m_dataNode);
+            panel = std::make_unique<WavecomDlg>(basePath, nullptr, m_dataNode, false);
             Mode()->Attach(&killer);
             QTest::keyClick(ComboAt(*panel, 3), Qt::Key_Down);
             QVERIFY(!panel);
             QCOMPARE(Mode()->GetCurrentKey(), 2);
         }
-    }
-
-    void panelAndModeGoInEitherOrder()
-    {
-        {
-            const OpenPanel panel(m_dataNode);
-            QVERIFY(Mode()->IsObserved());
-        }
-        QVERIFY(!Mode()->IsObserved());
-
-        auto panel = std::make_unique<OpenPanel>(m_dataNode);
-        Tree::Instance()->RemoveBranch(QStringLiteral("/J"));
-        QCOMPARE(ComboAt(*panel, 3)->GetBoundValue(), nullptr);
-        panel->Update(nullptr, ccState); // no value, no source
-        panel.reset();
     }
 };
 

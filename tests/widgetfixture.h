@@ -39,24 +39,6 @@ inline ValueBase* MakeNumber(ValueKind kind, const QString& stored, double minim
     return value;
 }
 
-class Counter : public IObserver
-{
-public:
-    explicit Counter(std::function<void()> then = {}) : m_then(std::move(then)) {}
-    void Update(Observable*, TChangeCode code) override
-    {
-        if (code != ccContent)
-            return;
-        ++count;
-        if (m_then)
-            m_then();
-    }
-    int count = 0;
-
-private:
-    std::function<void()> m_then;
-};
-
 // A widget that counts what it is told.
 template <class Widget> struct Heard : Widget
 {

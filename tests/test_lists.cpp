@@ -1,5 +1,6 @@
 #include "common.h"
 #include "numericlistwindow.h"
+#include "widgets/vclistboxstring.h"
 
 using namespace TKE;
 using namespace NumericListTest;
@@ -7,30 +8,33 @@ using namespace NumericListTest;
 namespace
 {
 
-struct Look
+ValueSelection* MakeSelection(bool multiple, const QString& stored)
 {
-    int columns, minRows;
-    double factor;
-    const char *stored, *shown;
-};
+    ValueBase* value = Make(path, ValueKind::Selection, "20");
+    s_descriptors.back().multiple = multiple;
+    s_descriptors.back().items = {{10, "ten"}, {20, "twenty"}, {30, "thirty"}};
+    value->SetStoredText(stored);
+    return static_cast<ValueSelection*>(value);
+}
 
-// What is typed into a cell of a list, and what is stored then.
-struct Edit
+QString CheckedLines(const VCListBoxString& list)
 {
-    int columns, minRows;
-    bool sorted;
-    const char* before;
-    int cell; // counted row by row
-    const char *typed, *after;
-    int currentRow;
-};
+    QStringList lines;
+    for (int row = 0; row < list.count(); ++row)
+        if (list.item(row)->checkState() == Qt::Checked)
+            lines << list.item(row)->text();
+    return lines.join(' ');
+}
+
+void ClickBox(VCListBoxString& list, int row)
+{
+    const QPoint box(10, list.visualItemRect(list.item(row)).center().y());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box);
+}
 
 } // namespace
 
-Q_DECLARE_METATYPE(Look)
-Q_DECLARE_METATYPE(Edit)
-
-class TestNumericList : public QObject
+class TestLists : public QObject
 {
     Q_OBJECT
 
@@ -38,64 +42,69 @@ private slots:
     void init() { QLocale::setDefault(QLocale::c()); }
     void cleanup() { CleanUp(); }
 
-    void storedRowsAreShownInTheirOrder_data()
-    {
-        QTest::addColumn<Look>("look");
-        QTest::newRow("ranges") << Look{2, 0, megahertz, "1500000;1600000;4000000;4063000", "1.5-1.6 4-4.063"};
-        QTest::newRow("overlap and order") << Look{2, 0, 1000, "3000000;4000000;1e6;35e5", "3000-4000 1000-3500"};
-        QTest::newRow("rounded") << Look{1, 0, megahertz, "7040500.4;100000000", "7.0405 100"};
-        QTest::newRow("no factor") << Look{1, 0, 1, "9000.126;9100", "9000.13 9100"};
-        QTest::newRow("incomplete last row") << Look{2, 0, 1000, "10000;20000;30000", "10-20"};
-        QTest::newRow("more rows than allowed") << Look{1, 0, 1e4, "1e5;2e5;3e5;4e5;5e5;6e5", "10 20 30 40 50 60"};
-        QTest::newRow("filled up") << Look{1, 3, 1000, "20000", "20 9 9"};
-    }
     void storedRowsAreShownInTheirOrder()
     {
-        QFETCH(Look, look);
-        DoubleListValue* value = MakeList(look.stored);
-        const QString before = value->GetStoredText();
-        const ListWindow window(look.columns, look.minRows, 5, true, look.factor);
-        QCOMPARE(Shown(window.list), look.shown);
-        QCOMPARE(value->GetStoredText(), before);
-    }
-
-    void numbersAreShownInTheLanguageOfTheUser()
-    {
-        QLocale::setDefault(QLocale(QLocale::German));
+        const struct
+        {
+            int columns, minRows;
+            double factor;
+            const char *stored, *shown;
+        } looks[]{{2, 0, megahertz, "1500000;1600000;4000000;4063000", "1.5-1.6 4-4.063"},
+                  {2, 0, 1000, "3000000;4000000;1e6;35e5", "3000-4000 1000-3500"}, // overlap and order stay
+                  {1, 0, megahertz, "7040500.4;100000000", "7.0405 100"},
+                  {1, 0, 1, "9000.126;9100", "9000.13 9100"},
+                  {2, 0, 1000, "10000;20000;30000", "10-20"},                  // the last row is incomplete
+                  {1, 0, 1e4, "1e5;2e5;3e5;4e5;5e5;6e5", "10 20 30 40 50 60"}, // more than allowed
+                  {1, 3, 1000, "20000", "20 9 9"}};
+        for (const auto& [columns, minRows, factor, stored, shown] : looks)
+        {
+            DoubleListValue* value = MakeList(stored);
+            const QString before = value->GetStoredText();
+            const ListWindow window(columns, minRows, 5, true, factor);
+            QCOMPARE(Shown(window.list), shown);
+            QCOMPARE(value->GetStoredText(), before);
+            CleanUp();
+        }
+        QLocale::setDefault(german);
         MakeList("1500500;1600000000");
-        const ListWindow window(1, 0, 5, true, megahertz);
-        QCOMPARE(Shown(window.list), "1,5005 1600");
+        QCOMPARE(Shown(ListWindow(1, 0, 5, true, megahertz).list), "1,5005 1600");
     }
 
-    void anEditStoresTheWholeListInOrder_data()
-    {
-        QTest::addColumn<Edit>("edit");
-        QTest::newRow("comma") << Edit{1, 0, true, "1e6", 0, "7,0405", "7040500", 0};
-        QTest::newRow("grouped") << Edit{1, 0, true, "1e6", 0, "1.000,5", "1000500000", 0};
-        QTest::newRow("rounded") << Edit{1, 0, true, "1e6", 0, "7.04050012349", "7040500.123", 0};
-        QTest::newRow("max below min") << Edit{2, 0, true, "2e6;3e6", 1, "1", "1000000;2000000", 0};
-        QTest::newRow("overlap") << Edit{2, 0, true, "1e6;2e6;2.5e6;3e6", 2, "1.5", "1000000;3000000", 0};
-        QTest::newRow("touch") << Edit{2, 0, true, "1e6;2e6;2.5e6;3e6", 2, "2", "1000000;3000000", 0};
-        QTest::newRow("exchanged, then joined") << Edit{2, 0, true, "1e6;9e6;11e6;12e6", 3, "3", "1000000;11000000", 0};
-        QTest::newRow("least rows") << Edit{
-            2, 2, true, "1e6;2e6;2.5e6;3e6", 2, "1.5", "1000000;2000000;1500000;3000000", 0};
-        QTest::newRow("swallows the next") << Edit{2, 0, true, "1e6;2e6;4e6;5e6", 1, "8", "1000000;8000000", 0};
-        QTest::newRow("sorts") << Edit{1, 0, true, "1e6;2e6;3e6", 0, "9", "2000000;3000000;9000000", 2};
-        QTest::newRow("duplicate") << Edit{1, 0, true, "1e6;2e6;3e6", 0, "3", "2000000;3000000", 1};
-        QTest::newRow("order kept") << Edit{1, 0, false, "3e6;1e6;2e6", 1, "3", "3000000;3000000;2000000", 1};
-        QTest::newRow("fill") << Edit{1, 3, false, "", 1, "5", "9000;5000000;9000", 1};
-    }
     void anEditStoresTheWholeListInOrder()
     {
-        QFETCH(Edit, edit);
-        DoubleListValue* value = MakeList(edit.before);
-        const ListWindow window(edit.columns, edit.minRows, 5, edit.sorted, megahertz);
-        Counter counter;
-        value->Attach(&counter);
-        Press(Type(window.list, edit.cell / edit.columns, edit.cell % edit.columns, edit.typed), Qt::Key_Return);
-        QCOMPARE(value->GetStoredText(), edit.after);
-        QCOMPARE(window.list->currentRow(), edit.currentRow);
-        QCOMPARE(counter.count, 1);
+        const struct
+        {
+            int columns, minRows;
+            bool sorted;
+            const char* before;
+            int cell; // counted row by row
+            const char *typed, *after;
+            int currentRow;
+        } edits[]{{1, 0, true, "1e6", 0, "7,0405", "7040500", 0},
+                   {1, 0, true, "1e6", 0, "1.000,5", "1000500000", 0},
+                  {1, 0, true, "1e6", 0, "7.04050012349", "7040500.123", 0},         // rounded
+                  {2, 0, true, "2e6;3e6", 1, "1", "1000000;2000000", 0},             // exchanged
+                  {2, 0, true, "1e6;2e6;2.5e6;3e6", 2, "1.5", "1000000;3000000", 0}, // overlap
+                  {2, 0, true, "1e6;2e6;2.5e6;3e6", 2, "2", "1000000;3000000", 0},   // touch
+                  {2, 0, true, "1e6;9e6;11e6;12e6", 3, "3", "1000000;11000000", 0},  // exchanged, then joined
+                  {2, 2, true, "1e6;2e6;2.5e6;3e6", 2, "1.5", "1000000;2000000;1500000;3000000", 0}, // least rows
+                  {2, 0, true, "1e6;2e6;4e6;5e6", 1, "8", "1000000;8000000", 0},     // swallows the next
+                  {1, 0, true, "1e6;2e6;3e6", 0, "9", "2000000;3000000;9000000", 2}, // sorts
+                  {1, 0, true, "1e6;2e6;3e6", 0, "3", "2000000;3000000", 1},         // twice
+                  {1, 0, false, "3e6;1e6;2e6", 1, "3", "3000000;3000000;2000000", 1},
+                  {1, 3, false, "", 1, "5", "9000;5000000;9000", 1}};
+        for (const auto& [columns, minRows, sorted, before, cell, typed, after, currentRow] : edits)
+        {
+            DoubleListValue* value = MakeList(before);
+            const ListWindow window(columns, minRows, 5, sorted, megahertz);
+            Hearer counter;
+            value->Attach(&counter);
+            Press(Type(window.list, cell / columns, cell % columns, typed), Qt::Key_Return);
+            QCOMPARE(value->GetStoredText(), after);
+            QCOMPARE(window.list->currentRow(), currentRow);
+            QCOMPARE(counter.codes.size(), size_t(1));
+            CleanUp();
+        }
     }
 
     void whatIsNoNumberOrOutsideTheLimitsLeavesTheCellAsItWasAndIsExplained_data()
@@ -148,7 +157,7 @@ private slots:
     void tabMovesThroughTheCellsAndLeavesTheTableAtItsEndsAndWritesNothing()
     {
         const QString stored = "3000000.125;4063000;1500000;1600000"; // neither in order nor to be shown in full
-        Counter counter;
+        Hearer counter;
         DoubleListValue* value = MakeList(stored);
         value->Attach(&counter);
         const ListWindow window(2, 0, 5, true, megahertz);
@@ -170,7 +179,7 @@ private slots:
         Press(window.list, Qt::Key_F2);
         for (int cell = 1; cell < 4; ++cell)
             Press(Editor(window.list), Qt::Key_Tab); // from editor to editor
-        QCOMPARE(counter.count, 0);
+        QCOMPARE(counter.codes.size(), size_t(0));
     }
 
     void aChangeFromOutsideDiscardsTheEdit()
@@ -209,7 +218,7 @@ private slots:
     {
         DoubleListValue* value = MakeList("1e6;2e6;7e6;8e6");
         const ListWindow window(2, 0, 5, true, megahertz);
-        Counter counter;
+        Hearer counter;
         value->Attach(&counter);
         window.list->setCurrentCell(0, 0);
         Press(window.list, Qt::Key_Insert);
@@ -217,13 +226,13 @@ private slots:
         Press(window.list, Qt::Key_Insert);
         QCOMPARE(window.list->rowCount(), 3);
         TypeAndLeave(window.list, "5"); // on to the cell that is missing
-        QCOMPARE(counter.count, 0);
+        QCOMPARE(counter.codes.size(), size_t(0));
         TypeAndLeave(window.list, "x"); // refused: it is still missing
         Editor(window.list)->selectAll();
         TypeAndLeave(window.list, "4");
         QCOMPARE(value->GetStoredText(), "1000000;2000000;4000000;5000000;7000000;8000000");
         QCOMPARE(window.list->currentRow(), 1);
-        QCOMPARE(counter.count, 1);
+        QCOMPARE(counter.codes.size(), size_t(1));
     }
 
     void aNewRowOfAnUnsortedListComesBelowTheCurrentOne()
@@ -306,10 +315,10 @@ private slots:
         QCOMPARE(Shown(window.list), "1-2.5 4.5-4.6 8-9 20-21"); // the first three good lines
         QTRY_COMPARE(QToolTip::text(), "Not taken over:\n5\nbad\tline\n2000\t4000\n30\t31");
         QCOMPARE(value->GetValue().size(), 8);
-        Counter counter;
+        Hearer counter;
         value->Attach(&counter);
         Paste(window.list, "nothing\nof use");
-        QCOMPARE(counter.count, 0);
+        QCOMPARE(counter.codes.size(), size_t(0));
     }
 
     void whoHearsOfAnEditMayDeleteTheTable_data()
@@ -334,7 +343,7 @@ private slots:
         QFETCH(Way, edit);
         DoubleListValue* value = MakeList("1e6;2e6");
         const ListWindow window(1, 0, 5, true, megahertz);
-        Counter destroyer([&] { delete window.list; });
+        Hearer destroyer([&] { delete window.list; });
         value->Attach(&destroyer);
         window.list->setCurrentCell(0, 0);
         if (opening)
@@ -344,9 +353,90 @@ private slots:
         }
         edit(window);
         QVERIFY(!window.list);
-        QCOMPARE(destroyer.count, 1);
+        QCOMPARE(destroyer.codes.size(), size_t(1));
+    }
+
+    void checkedLinesAreTheKeysOfTheValue()
+    {
+        ValueSelection* value = MakeSelection(true, "10;30");
+        VCListBoxString list(nullptr, "list");
+        QVERIFY(list.SetValueSelection_ValuePath(path));
+        QCOMPARE(list.count(), 3);
+        QCOMPARE(CheckedLines(list), "ten thirty");
+        QVERIFY(!(list.item(0)->flags() & Qt::ItemIsEditable));
+        value->SetStoredText("20");
+        QCOMPARE(CheckedLines(list), "twenty");
+        value->SetItems({{20, "two"}, {40, "four"}});
+        QCOMPARE(list.count(), 2);
+        QCOMPARE(CheckedLines(list), "two");
+    }
+
+    void spaceAndClicksToggleLines_data()
+    {
+        const Table<QString, int, QString, bool, QString> table("before", "row", "after", "multiple", "checked");
+        table("add", "30", 0, "10;30", true, "ten thirty");
+        table("last one", "20", 1, "", true, "");
+        table("unknown keys are kept", "7;10;99", 1, "7;10;20;99", true, "ten twenty");
+        table("one of several", "10", 2, "30", false, "thirty");
+        table("the one stays", "10", 0, "10", false, "ten");
+        table("unknown one", "99", 1, "20", false, "twenty");
+    }
+    void spaceAndClicksToggleLines()
+    {
+        QFETCH(QString, before);
+        QFETCH(int, row);
+        QFETCH(bool, multiple);
+        ValueSelection* value = MakeSelection(multiple, before);
+        VCListBoxString list(nullptr, "list");
+        list.SetValueSelection_ValuePath(path);
+        list.show();
+        list.setCurrentRow(row);
+        QTest::keyClick(&list, Qt::Key_Space);
+        QTEST(value->GetStoredText(), "after");
+        QTEST(CheckedLines(list), "checked");
+
+        value->SetStoredText(before);
+        ClickBox(list, row);
+        QTEST(value->GetStoredText(), "after");
+        QTEST(CheckedLines(list), "checked");
+    }
+
+    void theListIsSetToItsDefault()
+    {
+        ValueSelection* value = MakeSelection(true, "10;30");
+        VCListBoxString list(nullptr, "list");
+        list.SetValueSelection_ValuePath(path);
+        QCOMPARE(OpenMenu(&list).size(), 1);
+        QCOMPARE(OpenMenu(&list)[0]->text(), "Set to &Default");
+        ChooseInMenu(&list, Qt::Key_D);
+        QCOMPARE(value->GetStoredText(), "20");
+        QCOMPARE(CheckedLines(list), "twenty");
+        list.Lock();
+        QVERIFY(!OpenMenu(&list)[0]->isEnabled());
+    }
+
+    void whoHearsOfAToggleMayDeleteTheList()
+    {
+        const std::function<void(VCListBoxString*)> ways[] = {
+            [](auto* list) { QTest::keyClick(list, Qt::Key_Space); },
+            [](auto* list) { ClickBox(*list, 0); },
+            [](auto* list) { ChooseInMenu(list, Qt::Key_D); },
+        };
+        for (const auto& toggle : ways)
+        {
+            ValueSelection* value = MakeSelection(true, "10");
+            QPointer<VCListBoxString> list = new VCListBoxString(nullptr, "list");
+            list->SetValueSelection_ValuePath(path);
+            list->show();
+            list->setCurrentRow(0);
+            Hearer destroyer([&] { delete list; });
+            value->Attach(&destroyer);
+            toggle(list);
+            QVERIFY(!list);
+            Tree::Instance()->Clear();
+        }
     }
 };
 
-QTEST_MAIN(TestNumericList)
-#include "test_numericlist.moc"
+QTEST_MAIN(TestLists)
+#include "test_lists.moc"
