@@ -2,6 +2,7 @@
 #include "editorfixture.h"
 #include "jobedit/compareactions.h"
 #include "jobedit/differencemodel.h"
+#include "jobedit/longwork.h"
 #include "jobedit/otherjob.h"
 #include "jobedit/valuetexts.h"
 

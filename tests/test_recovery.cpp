@@ -86,6 +86,18 @@ class TestRecovery : public DeskTest
         return good ? File() : QString();
     }
 
+    // What a crash would leave of a new job.
+    static QString Leave(const QList<RecoveryChange>& changes)
+    {
+        QByteArray bytes = RecoveryFile::LineOf(RecoveryBase());
+        for (const RecoveryChange& change : changes)
+            bytes += RecoveryFile::LineOf(change);
+        const QString name = RecoveryJournal::Directory() + "/left.edits";
+        QDir().mkpath(RecoveryJournal::Directory());
+        WriteAll(name, bytes);
+        return name;
+    }
+
 private slots:
     void initTestCase() { QDir(RecoveryJournal::Directory()).removeRecursively(); }
     void init() { Begin(program); } // has a directory of its own for what it keeps
@@ -251,24 +263,23 @@ private slots:
     void contentsGoWithTheirNodeWhenAnotherTakesItsPlace()
     {
         using Kind = RecoveryChange::Kind;
-        Leave({}, {{Kind::Duplicate, 1, "/Jobs/Demo/TDS_HF1", "COPY"},
-                   {Kind::Value, 2, frequencyPath, "7040000"},
-                   {Kind::Rename, 3, "/Jobs/Demo/TDS_HF1", "OLD"},
-                   {Kind::Rename, 4, "/Jobs/Demo/COPY", "TDS_HF1"}});
+        Leave({{Kind::Duplicate, 1, "/Jobs/Demo/TDS_HF1", "COPY"},
+               {Kind::Value, 2, frequencyPath, "7040000"},
+               {Kind::Rename, 3, "/Jobs/Demo/TDS_HF1", "OLD"},
+               {Kind::Rename, 4, "/Jobs/Demo/COPY", "TDS_HF1"}});
         Answer answer({"Restore"});
         QVERIFY(Recovery().OfferAll());
-        QCOMPARE(Editor::Stored(frequencyPath), "10000000");
-        QCOMPARE(Editor::Stored(QString(frequencyPath).replace("TDS_HF1", "OLD")), "7040000");
+        QCOMPARE(Stored(frequencyPath), "10000000");
+        QCOMPARE(Stored(QString(frequencyPath).replace("TDS_HF1", "OLD")), "7040000");
     }
 
     void damagedFilesGiveWhatCanBeRead()
     {
-        QByteArray whole = RecoveryFile::LineOf(RecoveryBase());
+        QList<RecoveryChange> changes;
         for (int step = 1; step <= 20; ++step)
-            whole += RecoveryFile::LineOf({RecoveryChange::Kind::Value, step, volumePath, QString::number(step)});
-        const QString name = RecoveryJournal::Directory() + "/left.edits";
-        QVERIFY(QDir().mkpath(RecoveryJournal::Directory()));
-        WriteAll(name, whole);
+            changes << RecoveryChange{RecoveryChange::Kind::Value, step, volumePath, QString::number(step)};
+        const QString name = Leave(changes);
+        const QByteArray whole = ReadAll(name);
         QCOMPARE(RecoveryFile::Read(name).changes.size(), size_t(20));
         for (qsizetype size = 0; size < whole.size(); size += 7)
         {
