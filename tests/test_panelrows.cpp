@@ -32,6 +32,7 @@
 #include "tuner/tunervuhfdlg.h"
 #include "tuner/tunerwbdlg.h"
 #include "tuner/tunerwbrxdlg.h"
+#include "valuewidgets/guicentral.h"
 #include "valuewidgets/vcnumericfloatspin.h"
 
 #include <QTest>
@@ -134,7 +135,7 @@ QString KindOf(const QWidget* widget)
         return label->alignment() & Qt::AlignLeft ? "left" : "label";
     }
     if (const auto* spin = qobject_cast<const VCNumericFloatSpin*>(widget))
-        return kinds[className] + QString::number(spin->decimals());
+        return (spin->wrapping() ? "wrapping" : kinds[className]) + QString::number(spin->decimals());
     if (const auto* edit = qobject_cast<const QLineEdit*>(widget); edit && !edit->hasFrame())
         return "bareline";
     return kinds.value(className, className);
@@ -188,11 +189,14 @@ void Describe(QGridLayout& grid, const QString& indent, const QString& prefix, Q
         QStringList words{QString::number(place.column)};
         if (place.rows > 1 || place.columns > 1)
             words << QString("%1x%2").arg(place.rows).arg(place.columns);
-        words << (widget ? KindOf(widget) : "gap" + QString::number(grid.itemAt(i)->sizeHint().width()));
+        const QSize gap = grid.itemAt(i)->sizeHint();
+        words << (widget ? KindOf(widget) : QString("gap%1x%2").arg(gap.width()).arg(gap.height()));
         if (const QString path = widget ? PathOf(widget) : QString(); !path.isEmpty())
             words << (!prefix.isEmpty() && path.startsWith(prefix) ? '~' + path.mid(prefix.size()) : path);
         if (const QString text = widget ? TextOf(widget) : QString(); !text.isEmpty())
             words << '"' + text + '"';
+        if (widget && !widget->accessibleName().isEmpty())
+            words << '(' + widget->accessibleName() + ')';
         if (place.row == rowBefore)
             lines.last() += " | " + words.join(' ');
         else
@@ -206,14 +210,30 @@ void Describe(QGridLayout& grid, const QString& indent, const QString& prefix, Q
     }
 }
 
-/// What stands where in the panel, in the order of building: a line for each row.
+/// The rows and columns that take the room left over.
+QString StretchOf(const QGridLayout& grid)
+{
+    QStringList places;
+    for (int row = 0; row < grid.rowCount(); ++row)
+        if (grid.rowStretch(row) > 0)
+            places << "row " + QString::number(row);
+    for (int column = 0; column < grid.columnCount(); ++column)
+        if (grid.columnStretch(column) > 0)
+            places << "column " + QString::number(column);
+    return places.join(", ");
+}
+
+/// The panel, and what stands where in it, in the order of building: a line for each row.
 QStringList Describe(const ParameterDlg& panel, const QString& prefix)
 {
-    QStringList lines;
     auto* grid = static_cast<QGridLayout*>(panel.layout());
     const auto boxes = panel.findChildren<QGroupBox*>(QString(), Qt::FindDirectChildrenOnly);
-    if (grid->count() == 1 && boxes.contains(qobject_cast<QGroupBox*>(grid->itemAt(0)->widget()))) // the frame around the grid
+    const bool isFramed = grid->count() == 1 && boxes.contains(qobject_cast<QGroupBox*>(grid->itemAt(0)->widget()));
+    if (isFramed)
         grid = GridIn(grid->itemAt(0)->widget());
+    QStringList lines{QString("%1%2%3; stretch: %4")
+                          .arg(panel.objectName(), isFramed ? ", framed" : "", panel.IsReadOnly() ? ", read-only" : "",
+                               StretchOf(*grid))};
     Describe(*grid, {}, prefix, lines);
     for (QGroupBox* box : boxes)
     {
@@ -275,9 +295,12 @@ private slots:
         QFETCH(QString, prefix);
         QFETCH(QStringList, rows);
         const QString name = QString::fromUtf8(QTest::currentDataTag());
+        GuiCentral::Instance().SetFrequencyUnit(SuffixedDouble::Giga);
         const Panel panel = Make(name.section(", ", 0, 0), {name.section(", ", 1)});
         QVERIFY(panel);
-        const QStringList described = Describe(*panel, prefix);
+        QStringList described = Describe(*panel, prefix);
+        if (GuiCentral::Instance().GetFrequencyUnit() != SuffixedDouble::Giga)
+            described.first() += "; chooses the unit of frequencies";
         for (qsizetype i = 0; i < qMax(described.size(), rows.size()); ++i)
             QCOMPARE(described.value(i), rows.value(i));
     }

@@ -127,7 +127,10 @@ inline void CleanUp()
 /// The actions of the menu that a click with the right button opens.
 inline QList<QAction*> OpenMenu(QAbstractItemView* list)
 {
-    emit list->customContextMenuRequested({5, 5});
+    qDeleteAll(list->findChildren<QMenu*>());
+    const QPoint place(5, 5);
+    QContextMenuEvent click(QContextMenuEvent::Mouse, place, list->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list->viewport(), &click);
     const auto menus = list->findChildren<QMenu*>();
     return menus.isEmpty() ? QList<QAction*>() : menus.last()->actions();
 }
