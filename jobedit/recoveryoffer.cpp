@@ -117,14 +117,18 @@ RecoveryOffer::Choice RecoveryOffer::Offer(const QString& kept, const RecoveryFi
         QFile::remove(kept);
         return Choice::Discarded;
     }
-    if (!restore || question.clickedButton() != restore || !Restore(edits))
+    const auto failed = restore && question.clickedButton() == restore ? Restore(edits) : std::nullopt;
+    if (!failed)
     {
         m_later << kept;
         return Choice::Later;
     }
     // They are with the job again, and kept anew, before they go here.
     m_journal->Flush();
-    QFile::remove(kept);
+    if (*failed == 0)
+        QFile::remove(kept);
+    else
+        PutAside(kept, *failed, edits.changes.size());
     return Choice::Restored;
 }
 
@@ -152,20 +156,35 @@ QString RecoveryOffer::TextOf(const RecoveryFile& edits) const
     return lines.join('\n');
 }
 
-bool RecoveryOffer::Restore(const RecoveryFile& edits)
+// Nobody is asked about it again, and nothing is lost where the messages cannot hold as many.
+void RecoveryOffer::PutAside(const QString& kept, qsizetype failed, size_t of)
+{
+    const QString aside = kept + QLatin1String(".rest");
+    QFile::remove(aside);
+    const bool isAside = QFile::rename(kept, aside);
+    QMessageBox(QMessageBox::Warning, tr("Recover Edits"),
+                tr("Some changes could not be brought back: %1 of %2. The messages list them, and %3 keeps them.")
+                    .arg(failed)
+                    .arg(of)
+                    .arg(isAside ? aside : kept),
+                QMessageBox::Ok, &m_window)
+        .exec();
+}
+
+std::optional<qsizetype> RecoveryOffer::Restore(const RecoveryFile& edits)
 {
     const QString& file = edits.base->file;
     const JobDocument& document = m_window.Document();
     const bool isOpen =
         !file.isEmpty() && QFileInfo(document.GetFileName()) == QFileInfo(file) && !document.IsModified();
     if (!isOpen && !(file.isEmpty() ? m_window.NewFromSample() : m_window.OpenFile(file)))
-        return false;
+        return std::nullopt;
     QStringList failures;
     if (!Apply(edits, failures))
     {
         m_window.statusBar()->showMessage(MainWindow::tr("%1: cancelled, nothing has changed").arg(tr("Recover Edits")),
                                           5000);
-        return false;
+        return std::nullopt;
     }
     MessageList& messages = m_window.Messages();
     messages.Add(TKE::Severity::Info, tr("Edits that were not saved were brought back"),
@@ -175,14 +194,7 @@ bool RecoveryOffer::Restore(const RecoveryFile& edits)
                      tr("Records that are damaged and lost: %1.").arg(edits.damaged));
     for (const QString& failure : failures)
         messages.Add(TKE::Severity::Warning, tr("A change could not be brought back"), failure);
-    if (!failures.isEmpty())
-        QMessageBox(QMessageBox::Warning, tr("Recover Edits"),
-                    tr("Some changes could not be brought back: %1 of %2. The messages list them.")
-                        .arg(failures.size())
-                        .arg(edits.changes.size()),
-                    QMessageBox::Ok, &m_window)
-            .exec();
-    return true;
+    return failures.size();
 }
 
 bool RecoveryOffer::Apply(const RecoveryFile& edits, QStringList& failures)

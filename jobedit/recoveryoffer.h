@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <optional>
 
 namespace JOBEDIT
 {
@@ -36,7 +37,9 @@ private:
     };
     Choice Offer(const QString& kept, const RecoveryFile& edits);
     QString TextOf(const RecoveryFile& edits) const;
-    bool Restore(const RecoveryFile& edits);
+    void PutAside(const QString& kept, qsizetype failed, size_t of);
+    // How many changes could not be brought back; nothing when none was.
+    std::optional<qsizetype> Restore(const RecoveryFile& edits);
     /// False when the user cancelled it, and nothing has changed. What cannot be brought back goes to `failures`.
     bool Apply(const RecoveryFile& edits, QStringList& failures);
 

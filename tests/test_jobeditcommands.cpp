@@ -206,7 +206,8 @@ private Q_SLOTS:
         EachText("refused", {"NOWHERE=1", "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=loud",
                              "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_MGCVALUE=100000",
                              "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_SQUELCHMODE=Silence",
-                             "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_NF1_STATUS=2"});
+                             "TDS_HF1/CS_TUNER/TUNER/TUNER_HF_NB_NF1_STATUS=2",
+                             "TDS_HF1/CS_CLASS/CLASSIFIER/DEMODULATOR_HF_DDC_FSK_SEQ_TONESPACING=100;;90"});
     }
     void setWritesAllOrNothing()
     {

@@ -213,6 +213,8 @@ private slots:
         QVERIFY(Recovery().OfferAll());
         QVERIFY2(answer.GetText().contains("was changed since"), qPrintable(answer.GetText()));
         QVERIFY2(answer.GetText().contains("could not be brought back"), qPrintable(answer.GetText()));
+        const QStringList aside = QDir(RecoveryJournal::Directory()).entryList({"*.rest"});
+        QVERIFY(aside.size() == 1 && answer.GetText().contains(aside.first()));
         QVERIFY(Window().Messages().GetText().contains(frequencyPath + ": "));
         QVERIFY(Window().Messages().GetText().contains("7060000"));
         QVERIFY(Tree::Instance()->FindNode(u"/Jobs/Demo/COPY"));

@@ -1900,8 +1900,8 @@ Typ: %2</translation>
         <translation>Eine Änderung konnte nicht zurückgeholt werden</translation>
     </message>
     <message>
-        <source>Some changes could not be brought back: %1 of %2. The messages list them.</source>
-        <translation>Einige Änderungen konnten nicht zurückgeholt werden: %1 von %2. Die Meldungen führen sie auf.</translation>
+        <source>Some changes could not be brought back: %1 of %2. The messages list them, and %3 keeps them.</source>
+        <translation>Einige Änderungen konnten nicht zurückgeholt werden: %1 von %2. Die Meldungen führen sie auf, und %3 behält sie.</translation>
     </message>
     <message>
         <source>Restore unsaved edits</source>

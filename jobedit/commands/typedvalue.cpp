@@ -100,7 +100,7 @@ bool TypedValue::SetSelection(TKE::ValueBase& value, const QString& text, QStrin
 bool TypedValue::SetList(TKE::ValueBase& value, const QString& text, const QLocale& locale, QString& reason)
 {
     QList<double> numbers;
-    for (const QString& part : text.split(u';', Qt::SkipEmptyParts))
+    for (const QString& part : text.trimmed().isEmpty() ? QStringList() : text.split(u';'))
     {
         const auto number = TKE::Decimal::Read(part.trimmed(), locale, reason);
         if (!number)
