@@ -60,6 +60,22 @@ private Q_SLOTS:
     }
     void cleanup() { WidgetFixture::CleanUp(); }
 
+    void dataKeysLieWhereTheirValuesDo()
+    {
+        struct Panel : WavecomDlg
+        {
+            using WavecomDlg::GetItemPath;
+            using WavecomDlg::WavecomDlg;
+        } panel(basePath, nullptr, m_dataNode, false);
+        for (const auto& key :
+             {WAVECOM_HF_WORKFLOW, WAVECOM_HF_SHOWEXPERTGUI, WAVECOM_HF_DISPLAYMETADATA, WAVECOM_HF_MODE})
+            QCOMPARE(panel.GetItemPath(key), m_data + key);
+        for (const auto& parameter : Parameters())
+            if (const QString key = parameter->GetUniqueParameterName(); parameter->GetPlace() == Place::Demodulator)
+                QCOMPARE(panel.GetItemPath(WAVECOM_DEMODULATOR_HF + QStringLiteral("/") + key), PathOf(*parameter));
+        QCOMPARE(panel.GetItemPath(WAVECOM_HF_OPTIONCLASSIFIER), basePath + WAVECOM_HF_OPTIONCLASSIFIER);
+    }
+
     void theModeIsChosenByKeyboardWhileTheBoxesFollow()
     {
         WavecomDlg panel(basePath, nullptr, m_dataNode, false);
