@@ -186,6 +186,11 @@ private slots:
         QCOMPARE(reports, QStringList(edit.GetRefusal()));
         edit.SuppressErrorMessage(true);
         QTest::keyClick(&edit, Qt::Key_Return);
+        Make("/Job/Frequency", ValueKind::Frequency, "1");
+        VCFrequency frequency;
+        QVERIFY(frequency.SetFrequency_ValuePath("/Job/Frequency"));
+        Enter(frequency.GetNumberField(), "x");
+        QCOMPARE(frequency.GetNumberField()->text(), QString("x"));
         QCOMPARE(reports.size(), 1);
     }
 
