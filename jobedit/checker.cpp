@@ -183,11 +183,13 @@ TKE::FileErrors Checker::CheckFile(const QString& fileName, const std::shared_pt
     file.SetProgress(half(1));
     if (std::ranges::any_of(errors, &TKE::FileError::IsError) || !file.Load(fileName))
         return errors;
+    TKE::FileErrors found;
     for (const Finding& finding : Checker(tree, *model).CheckValues())
-        errors.append({.severity = finding.severity,
-                       .file = fileName,
-                       .itemPath = finding.path,
-                       .reason = finding.label + QStringLiteral(": ") + finding.text});
+        found.append({.severity = finding.severity,
+                      .file = fileName,
+                      .itemPath = finding.path,
+                      .reason = finding.label + QStringLiteral(": ") + finding.text});
+    errors += TKE::JobFile::Locate(std::move(found), fileName, *model);
     return errors;
 }
 

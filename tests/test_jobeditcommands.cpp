@@ -74,7 +74,7 @@ private Q_SLOTS:
         row("a good file", {"check", "good.job.xml"}, 0, "");
         row("one bad file of two", {"check", "good.job.xml", "bad.job.xml"}, 1, "bad.job.xml:3:");
         row("a value at fault", {"check", "values.job.xml"}, 1,
-            "values.job.xml: /T/SCAN_START_FREQUENCY: Start frequency: ");
+            "values.job.xml:2:2: /T/SCAN_START_FREQUENCY: Start frequency: ");
         row("a missing file", {"check", "nowhere.xml"}, 1, "nowhere.xml");
         row("nothing to check", {"check"}, 2, "--help");
         row("unknown option", {"--sing"}, 2, "sing");
@@ -114,8 +114,8 @@ private Q_SLOTS:
         QFETCH(QString, says);
         WriteSample("good.job.xml");
         WriteAll(File("bad.job.xml"), "<Job version=\"1\">\n  <Node name=\"A\" type=\"JOB\">\n</Job>\n");
-        WriteAll(File("values.job.xml"), "<Job version=\"1\"><Node name=\"/T\" type=\"X\" groups=\"G_SCAN_HF\">"
-                                         "<Value name=\"SCAN_START_FREQUENCY\">9000000</Value></Node></Job>\n");
+        WriteAll(File("values.job.xml"), "<Job version=\"1\"><Node name=\"/T\" type=\"X\" groups=\"G_SCAN_HF\">\n"
+                                         " <Value name=\"SCAN_START_FREQUENCY\">9000000</Value></Node></Job>\n");
         for (QString& argument : arguments)
             if (argument.endsWith(".xml") || argument == "d")
                 argument = File(argument);

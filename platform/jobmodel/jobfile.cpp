@@ -254,6 +254,28 @@ FileErrors JobFile::Check(const QString& fileName, std::shared_ptr<const JobMode
     return errors;
 }
 
+FileErrors JobFile::Locate(FileErrors findings, const QString& fileName, const JobModel& model)
+{
+    QFile file(fileName);
+    if (findings.isEmpty() || !Open(file, nullptr))
+        return findings;
+    QMultiHash<QString, FileError> sought;
+    for (const FileError& finding : std::as_const(findings))
+        sought.insert(finding.itemPath, finding);
+
+    Tree tree;
+    JobLayout layout;
+    const JournalPause pause(tree);
+    JobReader reader(tree, tree, layout, model, fileName, JobReader::Purpose::Check);
+    reader.SetFindings(std::move(sought));
+    reader.Read(file);
+    for (const FileError& placed : reader.GetErrors())
+        for (FileError& finding : findings)
+            if (finding.itemPath == placed.itemPath && finding.reason == placed.reason)
+                finding = placed;
+    return findings;
+}
+
 const NodeSpec* JobFile::FindNodeSpec(QStringView path) const
 {
     const JobNode* node = JobStructure(m_tree, m_layout).Find(path);

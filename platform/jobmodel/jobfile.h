@@ -96,6 +96,8 @@ public:
     /// All errors and warnings of a file, at most 1000, without touching any tree that is in use.
     static FileErrors Check(const QString& fileName, std::shared_ptr<const JobModel> model = {},
                             const Progress& progress = {});
+    /// The findings about values of a file without errors, with line and column where the file has the value.
+    static FileErrors Locate(FileErrors findings, const QString& fileName, const JobModel& model);
 
     /// What the job says about the node at `path`; null when it says nothing (a channel's node, for example).
     const NodeSpec* FindNodeSpec(QStringView path) const;

@@ -279,6 +279,9 @@ void JobReader::EndValue()
     QString reason;
     if (!value.SetStored(isText ? std::string_view(m_text) : XmlText::Trimmed(m_text), nullptr, &reason))
         Report(FileError::Severity::Error, m_valueBegin, value.GetPathName(), reason);
+    if (!m_findings.isEmpty())
+        for (const FileError& found : m_findings.values(value.GetPathName()))
+            Report(found.severity, m_valueBegin, found.itemPath, found.reason);
     value.SetExplicit(true);
     AddValuePiece(*open.node, value);
     m_taken = PieceEnd();

@@ -3,6 +3,7 @@
 #include "jobmodel/joblayout.h"
 #include "jobmodel/xmlreader.h"
 
+#include <QMultiHash>
 #include <functional>
 #include <limits>
 
@@ -31,6 +32,8 @@ public:
     using NodeVisitor = std::function<void(const QString& path, const NodeSpec& spec, const QString& parentPath)>;
     /// Told of each node that was begun.
     void SetVisitor(NodeVisitor visitor) { m_visitor = std::move(visitor); }
+    /// What somebody else found wrong with values, by item path; reported where the file has them.
+    void SetFindings(QMultiHash<QString, FileError> findings) { m_findings = std::move(findings); }
 
 private:
     // A node whose end tag is yet to come.
@@ -71,6 +74,7 @@ private:
     size_t m_mostValues = std::numeric_limits<size_t>::max();
     int m_unknownDepth = 0;       // how deep in an unknown element
     NodeVisitor m_visitor;
+    QMultiHash<QString, FileError> m_findings;
 
     // The value being read.
     bool m_inValue = false;
