@@ -61,7 +61,6 @@ private slots:
         TextValue* stopValue = stop ? MakeText(stopPath, {}) : nullptr;
         const auto tryIt = [&](auto&& period)
         {
-            QVERIFY(!period.isEnabled());
             QVERIFY(!period.SetPeriod_ValuePath(startPath, stopPath));
             QVERIFY(!period.isEnabled());
             QVERIFY(!period.SetPeriod_ValuePath(start ? startPath : path, stop ? stopPath : path)); // it is no text
