@@ -160,6 +160,9 @@ private slots:
         times.stop->SetState(stDisabled);
         times.stop->SetState(stEnabled);
         QVERIFY(!times.isEnabled());
+        VCDatePeriod dates(nullptr, "Date");
+        dates.Lock();
+        QVERIFY(!dates.isEnabled());
     }
 
     void escapeAndTheLossOfTheValueTakeBackWhatIsTyped()
