@@ -10,11 +10,11 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QLockFile>
-#include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <map>
 
 namespace JOBEDIT
 {
@@ -32,14 +32,13 @@ RecoveryJournal* JournalOf(JobDocument& document)
 }
 
 /// Contents by path.
-using KeptContents = QMap<QString, QString>;
+using KeptContents = std::map<QString, QString>;
 
 KeptContents TakeBelow(KeptContents& contents, const QString& path)
 {
     KeptContents taken;
-    for (auto each = contents.lowerBound(path); each != contents.end() && each.key().startsWith(path);
-         each = contents.erase(each))
-        taken.insert(each.key(), each.value());
+    for (auto each = contents.lower_bound(path); each != contents.end() && each->first.startsWith(path);)
+        taken.insert(contents.extract(each++));
     return taken;
 }
 
@@ -209,9 +208,8 @@ bool RecoveryOffer::Apply(const RecoveryFile& edits, QStringList& failures)
     connect(&document.History(), &EditHistory::NodeMoved, &moving,
             [&](const QString& from, const QString& to)
             {
-                const KeptContents moved = TakeBelow(contents, from);
-                for (auto each = moved.begin(); each != moved.end(); ++each)
-                    contents.insert(to + each.key().mid(from.size()), each.value());
+                for (const auto& [path, text] : TakeBelow(contents, from))
+                    contents.insert_or_assign(to + path.mid(from.size()), text);
             });
     qint64 count = 0;
     for (const RecoveryChange& change : edits.changes)
@@ -228,7 +226,7 @@ bool RecoveryOffer::Apply(const RecoveryFile& edits, QStringList& failures)
             else
                 reason = tr("the job has no such value");
             if (done)
-                contents.insert(change.path, change.text);
+                contents.insert_or_assign(change.path, change.text);
             else
                 reason = tr("%1 (content \"%2\")").arg(reason, change.text);
             break;
@@ -255,9 +253,9 @@ bool RecoveryOffer::Apply(const RecoveryFile& edits, QStringList& failures)
     }
     // Panels may have made choices of their own meanwhile.
     for (int round = 0; round < correctionRounds; ++round)
-        for (auto each = contents.constBegin(); each != contents.constEnd(); ++each)
-            if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(each.key()))
-                value->SetStoredText(each.value());
+        for (const auto& [path, text] : contents)
+            if (TKE::ValueBase* value = TKE::Tree::Instance()->FindValue(path))
+                value->SetStoredText(text);
     return true;
 }
 

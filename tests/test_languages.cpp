@@ -76,7 +76,7 @@ private Q_SLOTS:
         Choose("Deutsch");
         QCOMPARE(FirstMenu(), "Datei");
         QCOMPARE(Languages::GetChoice(), "de");
-        QCOMPARE(QLocale().decimalPoint(), ",");
+        QCOMPARE(QLocale().toString(1.5), "1,5");
         // Texts of the library, of the model's units, and of Qt.
         const auto labels = Dialog()->findChildren<QLabel*>();
         QVERIFY(std::ranges::any_of(labels, [](auto* label) { return label->text().contains("Frequenz"); }));

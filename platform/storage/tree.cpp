@@ -92,8 +92,8 @@ struct Tree::Index
         {
             if (--graveyard->removals > 0)
                 return;
-            const auto nodes = std::move(graveyard->nodes);
-            const auto values = std::move(graveyard->values);
+            const auto goneNodes = std::move(graveyard->nodes);
+            const auto goneValues = std::move(graveyard->values);
         }
         Node* Bury(std::unique_ptr<Node> node) const { return graveyard->nodes.emplace_back(std::move(node)).get(); }
         void Bury(std::unique_ptr<ValueBase> value) const { graveyard->values.push_back(std::move(value)); }
